@@ -1,0 +1,92 @@
+#include "catalogue/box_keys.h"
+
+#include <algorithm>
+
+#include "catalogue/guided_input.h"
+#include "core/text.h"
+
+namespace numerello {
+
+namespace {
+
+constexpr std::size_t kLengthLimit = 10;
+
+std::string& BoxText(Problem& problem, int box) {
+    CheckIndex(box - 1, static_cast<int>(problem.boxes.Text.size()) - 1);
+    return problem.boxes.Text[static_cast<std::size_t>(box) - 1];
+}
+
+bool PointAllowed(int code, int box) {
+    const bool scientific = code >= 25 && code <= 27;
+    switch (box) {
+        case 1:
+            return code < 200;
+        case 2:
+            return code < 200 && !scientific;
+        case 4:
+            return !scientific;
+        default:
+            return false;
+    }
+}
+
+bool MinusAllowed(int code, int box) {
+    return box > 2 || code < 200;
+}
+
+bool Fits(int code, int box, std::string_view text, std::string_view key) {
+    if (text.size() >= kLengthLimit) {
+        return false;
+    }
+    if (key == ".") {
+        return PointAllowed(code, box) && text.find('.') == std::string_view::npos;
+    }
+    if (key == "-") {
+        return MinusAllowed(code, box) && text.empty();
+    }
+    return IsDigit(key);
+}
+
+bool MetricReady(const EntryBoxes& boxes) {
+    return IsNumeric(boxes.Text[3]) && boxes.ListIndex[0] >= 0 && boxes.ListIndex[1] >= 0;
+}
+
+}  // namespace
+
+bool BoxKey(Problem& problem, int box, std::string_view key) {
+    std::string& text = BoxText(problem, box);
+    if (!problem.playback.TypingEnabled) {
+        return false;
+    }
+    if (key == kBackspace) {
+        if (!text.empty()) {
+            text.pop_back();
+        }
+    } else if (Fits(problem.topic.ProblemType, box, text, key)) {
+        text += key;
+    } else {
+        return false;
+    }
+    CheckBoxesReady(problem);
+    return true;
+}
+
+void CheckBoxesReady(Problem& problem) {
+    const int code = problem.topic.ProblemType;
+    if (IsTypedOnLine(code)) {
+        return;
+    }
+    problem.controls.SolveEnabled = (code == 23 || code == 24) && MetricReady(problem.boxes);
+}
+
+bool IsNumeric(std::string_view text) {
+    if (text.starts_with('-')) {
+        text.remove_prefix(1);
+    }
+    const auto digits =
+        std::count_if(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+    const auto points = std::count(text.begin(), text.end(), '.');
+    return digits > 0 && points <= 1 && digits + points == static_cast<long>(text.size());
+}
+
+}  // namespace numerello

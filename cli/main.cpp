@@ -1,0 +1,191 @@
+#include <unistd.h>
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "cli/batch.h"
+#include "cli/people.h"
+#include "cli/requests.h"
+
+namespace {
+
+using numerello::Json;
+
+constexpr int kNotWorked = 1;
+constexpr int kUnusable = 2;
+
+/// Arguments that CLI11 took but that make no sense; what() says why.
+using BadArgument = CLI::ValidationError;
+
+struct SolveArguments {
+    std::string topic;
+    std::string problem;
+    std::string file;
+    std::vector<std::string> boxes;
+    std::vector<std::string> lists;
+    std::vector<std::string> answers;
+    std::vector<std::string> settings;
+    bool json = false;
+};
+
+/// "KEY=VALUE" cut at its first "=".
+std::pair<std::string, std::string> Pair(const std::string& argument) {
+    const std::size_t at = argument.find('=');
+    if (at == std::string::npos) {
+        throw BadArgument(argument, "needs the form KEY=VALUE");
+    }
+    return {argument.substr(0, at), argument.substr(at + 1)};
+}
+
+Json WholeOrText(const std::string& text) {
+    const Json value = Json::parse(text, nullptr, false);
+    return value.is_number_integer() ? value : Json(text);
+}
+
+/// The place that N in "N=..." names, 1 to `count`.
+std::size_t Place(const std::string& text, std::size_t count) {
+    const Json place = WholeOrText(text);
+    if (!place.is_number_integer() || place < 1 || place > count) {
+        throw BadArgument(text, "must be a number from 1 to " + std::to_string(count));
+    }
+    return place.get<std::size_t>() - 1;
+}
+
+Json Boxes(const std::vector<std::string>& arguments) {
+    Json boxes = Json::array({"", "", "", "", "", ""});
+    for (const std::string& argument : arguments) {
+        const auto [place, text] = Pair(argument);
+        boxes[Place(place, boxes.size())] = text;
+    }
+    return boxes;
+}
+
+Json Lists(const std::vector<std::string>& arguments) {
+    Json lists = Json::array({-1, -1, 0});
+    for (const std::string& argument : arguments) {
+        const auto [place, index] = Pair(argument);
+        lists[Place(place, lists.size())] = WholeOrText(index);
+    }
+    return lists;
+}
+
+Json Settings(const std::vector<std::string>& arguments) {
+    Json settings = Json::object();
+    for (const std::string& argument : arguments) {
+        const auto [key, value] = Pair(argument);
+        settings[key] = value == "true"    ? Json(true)
+                        : value == "false" ? Json(false)
+                                           : WholeOrText(value);
+    }
+    return settings;
+}
+
+int Solve(const SolveArguments& arguments) {
+    if (!arguments.file.empty()) {
+        std::cerr << "numerello-cli: problem files are not built yet\n";
+        return kNotWorked;
+    }
+    const Json request{{"do", "solve"},
+                       {"topic", arguments.topic},
+                       {"problem", arguments.problem},
+                       {"boxes", Boxes(arguments.boxes)},
+                       {"lists", Lists(arguments.lists)},
+                       {"answers", arguments.answers},
+                       {"settings", Settings(arguments.settings)}};
+    const Json answer = numerello::Answer(request, nullptr);
+    return arguments.json ? numerello::PrintJson(answer, std::cout)
+                          : numerello::PrintSolved(answer, std::cout, std::cerr);
+}
+
+int Type(const std::string& topic, const std::string& keys, bool json) {
+    const Json answer =
+        numerello::Answer({{"do", "type"}, {"topic", topic}, {"keys", keys}}, nullptr);
+    return json ? numerello::PrintJson(answer, std::cout)
+                : numerello::PrintTyped(answer, std::cout, std::cerr);
+}
+
+int Topics(bool json) {
+    const Json answer = numerello::Answer({{"do", "topics"}}, nullptr);
+    return json ? numerello::PrintJson(answer, std::cout)
+                : numerello::PrintTopics(answer, std::cout, std::cerr);
+}
+
+int Batch() {
+    numerello::RunBatch(std::cin, std::cout, isatty(STDERR_FILENO) != 0 ? &std::cerr : nullptr);
+    return 0;
+}
+
+int NotBuilt(const std::string& name) {
+    std::cerr << "numerello-cli: " << name << " is not built yet\n";
+    return kUnusable;
+}
+
+void AddSolve(CLI::App& app, SolveArguments& arguments, int& status) {
+    CLI::App* solve = app.add_subcommand("solve", "Work a problem, line by line");
+    CLI::Option* topic = solve->add_option("--topic", arguments.topic, "The topic's caption");
+    CLI::Option* file = solve->add_option("--file", arguments.file, "A saved problem");
+    file->excludes(topic);
+    solve->add_option("--problem", arguments.problem, "The problem as typed on the paper line");
+    const auto addMany = [solve](const char* name, std::vector<std::string>& to, const char* help) {
+        solve->add_option(name, to, help)->allow_extra_args(false);
+    };
+    addMany("--box", arguments.boxes, "N=TEXT: what to type into box N, 1 to 6");
+    addMany("--list", arguments.lists, "N=INDEX: the row of list N, 1 to 3; rows from 0");
+    addMany("--answer", arguments.answers, "The answer to the next question");
+    addMany("--set", arguments.settings, "KEY=VALUE: a setting, such as RoundDigits=4");
+    solve->add_flag("--json", arguments.json, "Print the answer as JSON");
+    solve->callback([&arguments, &status, topic, file] {
+        if (topic->count() + file->count() == 0) {
+            throw CLI::RequiredError("--topic or --file");
+        }
+        status = Solve(arguments);
+    });
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    std::ios::sync_with_stdio(false);
+    CLI::App app("The mathematics tutor without its window", "numerello-cli");
+    app.set_version_flag("--version", "numerello-cli " NUMERELLO_VERSION);
+    app.require_subcommand(1);
+    int status = 0;
+
+    bool topicsJson = false;
+    CLI::App* topics = app.add_subcommand("topics", "List the topics");
+    topics->add_flag("--json", topicsJson, "Print the list as JSON");
+    topics->callback([&] { status = Topics(topicsJson); });
+
+    SolveArguments solveArguments;
+    AddSolve(app, solveArguments, status);
+
+    std::string typeTopic;
+    std::string typeKeys;
+    bool typeJson = false;
+    CLI::App* type = app.add_subcommand("type", "Type keys and see what each does");
+    type->add_option("--topic", typeTopic, "The topic's caption")->required();
+    type->add_option("keys", typeKeys, "The keys")->required();
+    type->add_flag("--json", typeJson, "Print the answer as JSON");
+    type->callback([&] { status = Type(typeTopic, typeKeys, typeJson); });
+
+    CLI::App* batch = app.add_subcommand("batch", "Answer requests, one JSON object a line");
+    batch->callback([&] { status = Batch(); });
+
+    for (const char* name : {"example", "learn"}) {
+        CLI::App* later = app.add_subcommand(name, "Not built yet");
+        later->allow_extras();
+        later->callback([name, &status] { status = NotBuilt(name); });
+    }
+
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::Success& help) {
+        return app.exit(help);
+    } catch (const CLI::ParseError& error) {
+        app.exit(error);
+        return kUnusable;
+    }
+    return status;
+}

@@ -1,0 +1,135 @@
+#include "cli/people.h"
+
+#include <iomanip>
+#include <ostream>
+#include <string>
+
+#include "catalogue/topics.h"
+
+namespace numerello {
+
+namespace {
+
+constexpr int kWorked = 0;
+constexpr int kNotWorked = 1;
+constexpr int kUnusable = 2;
+
+std::string String(const Json& object, const char* name) {
+    return object.at(name).get<std::string>();
+}
+
+bool Usable(const Json& answer) {
+    return answer.at("ok").get<bool>();
+}
+
+int TellUnusable(const Json& answer, std::ostream& err) {
+    err << "numerello-cli: " << String(answer, "error") << '\n';
+    return kUnusable;
+}
+
+void TellRefusedKeys(const Json& refused, std::ostream& err) {
+    for (const Json& key : refused) {
+        err << "The key '" << String(key, "key") << "' was refused";
+        if (key.contains("box")) {
+            err << " in box " << key.at("box").get<int>();
+        }
+        const std::string why = String(key, "why");
+        err << (why.empty() ? "." : ": " + why) << '\n';
+    }
+}
+
+void PrintLines(const Json& lines, std::ostream& out) {
+    constexpr std::size_t kReasonColumn = 5;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const std::string note = String(lines[i], "note");
+        if (i == 0) {
+            out << String(lines[i], "text") << "\n\n";
+            continue;
+        }
+        out << std::setw(2) << i << ". " << String(lines[i], "text") << '\n';
+        if (!note.empty()) {
+            out << std::string(kReasonColumn + 2, ' ') << note << '\n';
+        }
+    }
+}
+
+void TellMessages(const Json& messages, std::ostream& err) {
+    for (const Json& message : messages) {
+        const std::string title = String(message, "title");
+        err << (title.empty() ? "" : title + "  ") << String(message, "text") << '\n';
+    }
+}
+
+int ExitStatus(const Json& answer) {
+    if (!Usable(answer)) {
+        return kUnusable;
+    }
+    const bool solved = !answer.contains("failure") ||
+                        (answer.at("solvable").get<bool>() && answer.at("failure").is_null());
+    return solved ? kWorked : kNotWorked;
+}
+
+}  // namespace
+
+int PrintSolved(const Json& answer, std::ostream& out, std::ostream& err) {
+    if (!Usable(answer)) {
+        return TellUnusable(answer, err);
+    }
+    TellRefusedKeys(answer.at("refused"), err);
+    if (!answer.at("solvable").get<bool>()) {
+        err << "The problem is not entered completely, so it was not solved.\n";
+    }
+    PrintLines(answer.at("lines"), out);
+    out << std::flush;
+    TellMessages(answer.at("messages"), err);
+    return ExitStatus(answer);
+}
+
+int PrintTyped(const Json& answer, std::ostream& out, std::ostream& err) {
+    if (!Usable(answer)) {
+        return TellUnusable(answer, err);
+    }
+    for (const Json& key : answer.at("keys")) {
+        const std::string name = String(key, "key") == "\b" ? "Backspace" : String(key, "key");
+        out << std::left << std::setw(3) << name << ' ' << String(key, "line");
+        if (!key.at("accepted").get<bool>()) {
+            out << "   refused: " << String(key, "why");
+        }
+        out << '\n';
+    }
+    out << (answer.at("solvable").get<bool>() ? "Solve! is on.\n" : "Solve! is off.\n");
+    return kWorked;
+}
+
+int PrintTopics(const Json& answer, std::ostream& out, std::ostream& err) {
+    if (!Usable(answer)) {
+        return TellUnusable(answer, err);
+    }
+    for (const Folder& folder : Folders()) {
+        bool headed = false;
+        for (const Json& topic : answer.at("topics")) {
+            if (topic.at("parent") != folder.key) {
+                continue;
+            }
+            if (!headed) {
+                out << folder.caption << '\n';
+                headed = true;
+            }
+            out << "    " << String(topic, "caption") << '\n';
+        }
+    }
+    out << "By name only\n";
+    for (const Json& topic : answer.at("topics")) {
+        if (topic.at("parent").is_null()) {
+            out << "    " << String(topic, "caption") << '\n';
+        }
+    }
+    return kWorked;
+}
+
+int PrintJson(const Json& answer, std::ostream& out) {
+    out << JsonLine(answer) << '\n';
+    return ExitStatus(answer);
+}
+
+}  // namespace numerello

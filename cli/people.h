@@ -1,0 +1,18 @@
+#pragma once
+
+#include <iosfwd>
+
+#include "cli/json.h"
+
+/// Answers written for people instead of programs. Each returns the exit status: 0 worked, 1 not
+/// worked or failed, 2 unusable arguments.
+namespace numerello {
+
+int PrintSolved(const Json& answer, std::ostream& out, std::ostream& err);
+int PrintTyped(const Json& answer, std::ostream& out, std::ostream& err);
+int PrintTopics(const Json& answer, std::ostream& out, std::ostream& err);
+
+/// The answer as one line of JSON, with the same exit status.
+int PrintJson(const Json& answer, std::ostream& out);
+
+}  // namespace numerello

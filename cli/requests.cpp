@@ -1,0 +1,65 @@
+#include "cli/requests.h"
+
+#include <algorithm>
+#include <array>
+
+#include "core/text.h"
+
+namespace numerello {
+
+namespace {
+
+struct Handler {
+    std::string_view name;
+    Json (*handle)(Fields&);
+};
+
+constexpr std::array kHandlers{
+    Handler{"solve", SolveRequest},
+    Handler{"typeset", TypesetRequest},
+    Handler{"topics", TopicsRequest},
+    Handler{"type", TypeRequest},
+};
+
+constexpr std::array<std::string_view, 4> kNotBuilt{"columns", "example", "practice-test", "graph"};
+
+Json Handle(const Json& request) {
+    Fields fields(request);
+    fields.Has("id");
+    const std::string name = fields.String("do", "");
+    const auto* const handler =
+        std::find_if(kHandlers.begin(), kHandlers.end(),
+                     [&name](const auto& each) { return each.name == name; });
+    if (handler != kHandlers.end()) {
+        return handler->handle(fields);
+    }
+    if (std::find(kNotBuilt.begin(), kNotBuilt.end(), name) != kNotBuilt.end()) {
+        throw BadRequest(Text("\"", name, "\" is not built yet"));
+    }
+    throw BadRequest(fields.Has("do") ? Text("unknown request \"", name, "\"")
+                                      : "\"do\" is missing");
+}
+
+}  // namespace
+
+Json Answer(const Json& request, const Json& id) {
+    try {
+        const Json handled = Handle(request);
+        Json answer;
+        answer["id"] = id;
+        answer.update(handled);
+        return answer;
+    } catch (const BadRequest& bad) {
+        return Refusal(id, bad.what());
+    }
+}
+
+Json Refusal(const Json& id, std::string_view error) {
+    Json answer;
+    answer["id"] = id;
+    answer["ok"] = false;
+    answer["error"] = error;
+    return answer;
+}
+
+}  // namespace numerello

@@ -1,0 +1,131 @@
+#include "app/solvers.h"
+#include "catalogue/box_keys.h"
+#include "catalogue/guided_input.h"
+#include "cli/answering_learner.h"
+#include "cli/requests.h"
+#include "cli/setting_fields.h"
+#include "cli/topic_fields.h"
+#include "core/text.h"
+
+namespace numerello {
+
+namespace {
+
+constexpr std::size_t kBoxCount = 6;
+constexpr std::size_t kListCount = 3;
+constexpr long kTopListRow = 6;
+
+/// What a request has the learner enter.
+struct Entry {
+    std::string problem;
+    std::vector<std::string> boxes;
+    bool filled = false;
+    std::vector<long> lists;
+};
+
+void RejectBackspace(std::string_view name, std::string_view text) {
+    if (text.find(kBackspace) != std::string_view::npos) {
+        throw BadRequest(Text("\"", name, "\" holds a Backspace"));
+    }
+}
+
+Entry ReadEntry(Fields& fields) {
+    Entry entry;
+    entry.problem = fields.String("problem", "");
+    entry.boxes = fields.Strings("boxes", kBoxCount);
+    entry.filled = fields.Bool("filled", false);
+    entry.lists = fields.Integers("lists", kListCount, EntryBoxes::kNoChoice, kTopListRow);
+    RejectBackspace("problem", entry.problem);
+    for (const std::string& box : entry.boxes) {
+        RejectBackspace("boxes", box);
+    }
+    return entry;
+}
+
+/// Types the line; the keys that were refused go to `refused`.
+void TypeLine(Problem& problem, std::string_view text, Json& refused) {
+    int at = 0;
+    for (const std::string& key : Characters(text)) {
+        Form_KeyPress(problem, key);
+        if (!problem.input.KeyAccepted) {
+            refused.push_back({{"at", at}, {"key", key}, {"why", problem.input.InputError}});
+        }
+        ++at;
+    }
+}
+
+void TypeBox(Problem& problem, int box, std::string_view text, Json& refused) {
+    int at = 0;
+    for (const std::string& key : Characters(text)) {
+        if (!BoxKey(problem, box, key)) {
+            refused.push_back({{"at", at}, {"key", key}, {"why", ""}, {"box", box}});
+        }
+        ++at;
+    }
+}
+
+/// Enters everything; returns the refused keys.
+Json Enter(Problem& problem, const Entry& entry) {
+    Json refused = Json::array();
+    TypeLine(problem, entry.problem, refused);
+    for (std::size_t i = 0; i < entry.boxes.size(); ++i) {
+        if (entry.filled) {
+            problem.boxes.Text[i] = entry.boxes[i];
+        } else {
+            TypeBox(problem, static_cast<int>(i) + 1, entry.boxes[i], refused);
+        }
+    }
+    for (std::size_t i = 0; i < entry.lists.size(); ++i) {
+        problem.boxes.ListIndex[i] = static_cast<int>(entry.lists[i]);
+    }
+    CheckBoxesReady(problem);
+    return refused;
+}
+
+Json Lines(const StepLog& log) {
+    Json lines = Json::array();
+    for (int i = 1; i < log.StepCount; ++i) {
+        lines.push_back({{"text", log.StepText[i]}, {"note", log.StepNote[i]}});
+    }
+    return lines;
+}
+
+void RequireSolver(const Problem& problem) {
+    RequireGrammar(problem);
+    if (AllSolvers().Find(problem.topic.ProblemType) == nullptr) {
+        throw BadRequest(Text("solving \"", problem.topic.TopicTitle, "\" is not built yet"));
+    }
+}
+
+}  // namespace
+
+Json SolveRequest(Fields& fields) {
+    Problem problem;
+    ChooseTopic(fields, problem);
+    ApplySettings(fields, problem.settings);
+    const Entry entry = ReadEntry(fields);
+    AnsweringLearner learner(fields.Strings("answers", std::nullopt));
+    fields.RejectOthers();
+    RequireSolver(problem);
+
+    const Json refused = Enter(problem, entry);
+    const bool solvable = problem.controls.SolveEnabled;
+    std::optional<FailureKind> failure;
+    if (solvable) {
+        Stage noStage;
+        failure = compute_Click(problem, AllSolvers(), learner, noStage);
+    }
+    return {{"ok", true},
+            {"code", problem.topic.ProblemType},
+            {"problem", problem.typed.ProblemText},
+            {"refused", refused},
+            {"solvable", solvable},
+            {"lines", Lines(problem.log)},
+            {"messages", learner.Messages()},
+            {"prompts", learner.Prompts()},
+            {"failure", failure ? Json(FailureName(*failure)) : Json(nullptr)},
+            {"drawing", Json::array()},
+            {"graph", nullptr}};
+}
+
+}  // namespace numerello

@@ -1,0 +1,44 @@
+#include "catalogue/guided_input.h"
+#include "cli/requests.h"
+#include "cli/setting_fields.h"
+#include "cli/topic_fields.h"
+#include "core/text.h"
+
+namespace numerello {
+
+namespace {
+
+Json TypeKey(Problem& problem, const std::string& key) {
+    Form_KeyPress(problem, key);
+    const bool accepted = problem.input.KeyAccepted;
+    return {{"key", key},
+            {"accepted", accepted},
+            {"why", accepted ? "" : problem.input.InputError},
+            {"line", problem.typed.DisplayLine}};
+}
+
+}  // namespace
+
+Json TypeRequest(Fields& fields) {
+    Problem problem;
+    ChooseTopic(fields, problem);
+    ApplySettings(fields, problem.settings);
+    if (!fields.Has("keys")) {
+        throw BadRequest("\"keys\" is missing");
+    }
+    const std::string keys = fields.String("keys", "");
+    fields.RejectOthers();
+    RequireGrammar(problem);
+
+    Json judged = Json::array();
+    for (const std::string& key : Characters(keys)) {
+        judged.push_back(TypeKey(problem, key));
+    }
+    return {{"ok", true},
+            {"code", problem.topic.ProblemType},
+            {"keys", judged},
+            {"problem", problem.typed.ProblemText},
+            {"solvable", problem.controls.SolveEnabled}};
+}
+
+}  // namespace numerello

@@ -1,0 +1,96 @@
+#include <cmath>
+
+#include "cli/requests.h"
+#include "cli/setting_fields.h"
+#include "core/text.h"
+#include "typeset/sample.h"
+
+namespace numerello {
+
+namespace {
+
+constexpr double kFarthest = 1e6;
+constexpr double kLeastSize = 1;
+constexpr double kLargestSize = 100;
+
+/// Three decimals; a whole number is written as one.
+Json Rounded(double value) {
+    const double rounded = std::round(value * 1000) / 1000;
+    return rounded == std::floor(rounded) ? Json(static_cast<long>(rounded)) : Json(rounded);
+}
+
+Json MarkFields(const TextMark& mark) {
+    return {{"text", mark.text},
+            {"x", Rounded(mark.x)},
+            {"y", Rounded(mark.y)},
+            {"size", Rounded(mark.font.size)},
+            {"color", mark.color}};
+}
+
+Json MarkFields(const StrokeMark& mark) {
+    return {{"line", {Rounded(mark.x1), Rounded(mark.y1), Rounded(mark.x2), Rounded(mark.y2)}},
+            {"width", Rounded(mark.width)},
+            {"color", mark.color}};
+}
+
+/// Pictures are no marks of the protocol.
+Json MarkFields(const ImageMark& /*mark*/) {
+    return nullptr;
+}
+
+Json Marks(const SampleAnswer& sample) {
+    Json marks = Json::array();
+    for (const auto& [page, mark] : sample.marks) {
+        Json fields = std::visit([](const auto& each) { return MarkFields(each); }, mark);
+        if (!fields.is_null()) {
+            fields["page"] = page;
+            marks.push_back(std::move(fields));
+        }
+    }
+    return marks;
+}
+
+Json Messages(const SampleAnswer& sample) {
+    Json messages = Json::array();
+    for (const auto& [title, text] : sample.messages) {
+        messages.push_back({{"title", title}, {"text", text}});
+    }
+    return messages;
+}
+
+SampleRequest ReadSample(Fields& fields) {
+    if (!fields.Has("variant") || !fields.Has("text")) {
+        throw BadRequest("\"variant\" and \"text\" are needed");
+    }
+    const std::string variant = fields.String("variant", "");
+    const auto target = FindTypesetTarget(variant);
+    if (!target) {
+        throw BadRequest(Text("unknown variant \"", variant, "\""));
+    }
+    SampleRequest request;
+    request.target = *target;
+    request.text = fields.String("text", "");
+    request.x = fields.Number("x", -kFarthest, kFarthest, 0);
+    request.y = fields.Number("y", -kFarthest, kFarthest, 0);
+    if (fields.Has("size")) {
+        request.size = fields.Number("size", kLeastSize, kLargestSize, kLeastSize);
+    }
+    request.blue = fields.Bool("blue", false);
+    AnswerSettings unused;
+    ApplySettings(fields, unused);
+    fields.RejectOthers();
+    return request;
+}
+
+}  // namespace
+
+Json TypesetRequest(Fields& fields) {
+    const SampleAnswer sample = TypesetSample(ReadSample(fields), PlainMetrics());
+    return {{"ok", true},
+            {"marks", Marks(sample)},
+            {"end", Json::array({Rounded(sample.endX), Rounded(sample.endY)})},
+            {"pages", sample.pagesTurned},
+            {"messages", Messages(sample)}};
+}
+
+}  // namespace numerello

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+/// All conversions between text and number, and the arithmetic that raises the trapped failures.
+/// Numbers are Doubles unless a name says Single. No procedure returns a NaN or an infinity.
+namespace numerello {
+
+/// The number that a text stands for: an optional sign, digits with at most one point, an optional
+/// power of ten ("1.5E+15"); blanks around it are ignored and an empty text is 0.
+/// Throws Failure(Format) for any other text, Failure(Overflow) beyond the range of a Double.
+double ToNumber(std::string_view text);
+
+/// At most 15 significant digits, no trailing zeros, a 0 before the point. From 1E+15 up, and when
+/// the first significant digit stands beyond the fifteenth place after the point, exponent form
+/// with at least two digits of exponent: "1E+15", "1.5E-16". Minus zero is "0".
+std::string NumberText(double value);
+
+/// As NumberText, with 7 significant digits.
+std::string SingleText(float value);
+
+/// A whole number in decimal digits.
+std::string WholeText(std::int64_t value);
+
+/// Half to even at `places` (0 or more) decimal places, on the value scaled by the power of ten.
+double Round(double value, int places);
+
+/// `value`, or Failure(Overflow) when it is no finite number.
+double Checked(double value);
+
+/// Failure(DivisionByZero) for a divisor 0, also of 0; Failure(Overflow) beyond the range.
+double Divide(double dividend, double divisor);
+
+/// Half to even, then Failure(Overflow) outside the 16-bit range.
+std::int16_t ToInteger16(double value);
+
+/// Half to even, then Failure(Overflow) outside the 32-bit range.
+std::int32_t ToInteger32(double value);
+
+/// The nearest Single; Failure(Overflow) beyond its range.
+float ToSingle(double value);
+
+}  // namespace numerello

@@ -1,0 +1,67 @@
+#include "core/problem.h"
+
+#include "core/text.h"
+
+namespace numerello {
+
+namespace {
+
+/// CollectVariables and the reset clear these cells only; the cells above keep what they held.
+constexpr int kTopClearedVariable = 20;
+
+}  // namespace
+
+void ColumnRequest::ClearFlags() {
+    ColumnAdd = ColumnSubtract = ColumnMultiply = ColumnDivide = false;
+}
+
+bool IsTypedOnLine(int ProblemType) {
+    return ProblemType > 27 && ProblemType < 200;
+}
+
+void ResetProblem(Problem& problem, bool ClearSteps) {
+    TypedProblem& typed = problem.typed;
+    typed.ExprChars.Clear();
+    typed.ExprCells.Clear();
+    typed.ExprTokens.Clear();
+    typed.ExprVariants.Clear();
+
+    problem.log.FreshProblem = true;
+    typed.ExprCharCount = typed.TokenCount = typed.ExprCellCount = typed.VarCount = 0;
+    typed.ProblemText.clear();
+    typed.DisplayLine.clear();
+    problem.input = InputState();
+    problem.engine = EnginePlace();
+
+    typed.VarNames.Clear(0, kTopClearedVariable);
+
+    if (ClearSteps) {
+        problem.log.StepCount = 1;
+        problem.log.StepText.Clear();
+        problem.log.StepNote.Clear();
+        problem.log.StepLevels.Clear();
+    }
+}
+
+void CollectVariables(TypedProblem& typed) {
+    typed.VarCount = 1;
+    typed.VarNames.Clear(0, kTopClearedVariable);
+    const auto& typedChars = typed.ExprChars;
+    for (int i = 0; i < typed.ExprCharCount; ++i) {
+        const std::string& cell = typedChars[i];
+        if (IsLetter(cell) && FindVariable(typed, cell) == 0) {
+            typed.VarNames[typed.VarCount++] = cell;
+        }
+    }
+}
+
+int FindVariable(const TypedProblem& typed, std::string_view letter) {
+    for (int i = 1; i < typed.VarCount; ++i) {
+        if (typed.VarNames[i] == letter) {
+            return i;
+        }
+    }
+    return 0;
+}
+
+}  // namespace numerello

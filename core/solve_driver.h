@@ -1,0 +1,63 @@
+#pragma once
+
+#include <optional>
+#include <span>
+
+#include "core/failure.h"
+#include "core/learner.h"
+#include "core/problem.h"
+
+namespace numerello {
+
+/// What the driver asks of the sheets and windows around the problem. The command line has none.
+class Stage {
+  public:
+    virtual ~Stage() = default;
+
+    virtual void CloseGraph() {}
+    virtual void CloseExplanation() {}
+
+    /// Shows the line that ShownStep points at, or all lines.
+    virtual void ShowNextStep() {}
+
+    /// Blanks the sheets 0 to CurrentPage, leaves the first alone and puts the pencil beside it.
+    virtual void BlankSheets() {}
+};
+
+/// What a solver gets: the problem to work, and the learner it may have to ask.
+struct SolveRun {
+    Problem& problem;
+    Learner& learner;
+};
+
+using Solver = void (*)(SolveRun&);
+
+struct SolverRow {
+    int ProblemType;
+    Solver solve;
+};
+
+/// The dispatch, composed above the solvers and handed to the driver.
+struct Solvers {
+    std::span<const SolverRow> rows;
+
+    /// Whether the typed line is a problem that somebody finished.
+    bool (*lineIsComplete)(const Problem&);
+
+    /// Null for a code without a solver.
+    Solver Find(int ProblemType) const;
+};
+
+/// Works the entered problem: fills the step log, thins it, shows its first line and locks Solve
+/// until the next problem. A failure ends in the learner's message; its kind is returned, and the
+/// log keeps what was recorded up to it.
+std::optional<FailureKind> compute_Click(Problem& problem, const Solvers& solvers, Learner& learner,
+                                         Stage& stage);
+
+/// Wipes problem and sheets: the state in which the topic's entry form opens.
+void EraseProblem(Problem& problem, Stage& stage);
+
+/// Asks, then erases. False when the learner did not agree.
+bool clear_Click(Problem& problem, Learner& learner, Stage& stage);
+
+}  // namespace numerello

@@ -1,0 +1,129 @@
+#include "catalogue/box_keys.h"
+
+#include <gtest/gtest.h>
+
+namespace numerello {
+namespace {
+
+Problem WithCode(int code) {
+    Problem problem;
+    problem.topic.ProblemType = code;
+    problem.playback.TypingEnabled = true;
+    return problem;
+}
+
+std::string Typed(int code, int box, std::string_view keys) {
+    Problem problem = WithCode(code);
+    for (const char key : keys) {
+        BoxKey(problem, box, std::string_view(&key, 1));
+    }
+    return problem.boxes.Text[static_cast<std::size_t>(box) - 1];
+}
+
+TEST(BoxKey, TakesDigitsEverywhere) {
+    for (int box = 1; box <= 6; ++box) {
+        EXPECT_EQ(Typed(11, box, "12a3 4+"), "1234") << box;
+        EXPECT_EQ(Typed(200, box, "0123456789"), "0123456789") << box;
+    }
+}
+
+TEST(BoxKey, TakesTenCharactersAtMost) {
+    EXPECT_EQ(Typed(23, 4, "12345678901"), "1234567890");
+    EXPECT_EQ(Typed(23, 4, "-123.456789"), "-123.45678");
+}
+
+struct BoxRule {
+    int code;
+    int box;
+    bool point;
+    bool minus;
+};
+
+TEST(BoxKey, PointAndMinusGoByBoxAndTopic) {
+    constexpr BoxRule kRules[] = {
+        {14, 1, true, true},  {25, 1, true, true},  {200, 1, false, false}, {14, 2, true, true},
+        {25, 2, false, true}, {27, 2, false, true}, {24, 2, true, true},    {203, 2, false, false},
+        {11, 3, false, true}, {26, 3, false, true}, {14, 4, true, true},    {26, 4, false, true},
+        {23, 4, true, true},  {11, 5, false, true}, {11, 6, false, true}};
+    for (const auto& [code, box, point, minus] : kRules) {
+        EXPECT_EQ(Typed(code, box, "1.5"), point ? "1.5" : "15") << code << " box " << box;
+        EXPECT_EQ(Typed(code, box, "-7"), minus ? "-7" : "7") << code << " box " << box;
+    }
+}
+
+TEST(BoxKey, OnePointAndAMinusOnlyInFront) {
+    EXPECT_EQ(Typed(14, 1, "1.2.3"), "1.23");
+    EXPECT_EQ(Typed(14, 1, "1-2--"), "12");
+    EXPECT_EQ(Typed(14, 1, "--5"), "-5");
+}
+
+TEST(BoxKey, BackspaceIsAlwaysAllowed) {
+    EXPECT_EQ(Typed(23, 4, "12\b\b\b3"), "3");
+    EXPECT_EQ(Typed(23, 4, "1234567890\b5"), "1234567895");
+    Problem problem = WithCode(23);
+    EXPECT_TRUE(BoxKey(problem, 4, "\b"));
+}
+
+TEST(BoxKey, TellsWhetherTheKeyWentIn) {
+    Problem problem = WithCode(23);
+    EXPECT_TRUE(BoxKey(problem, 4, "1"));
+    EXPECT_FALSE(BoxKey(problem, 4, "x"));
+}
+
+TEST(BoxKey, ALockedBoxTakesNone) {
+    Problem problem = WithCode(23);
+    problem.playback.TypingEnabled = false;
+    EXPECT_FALSE(BoxKey(problem, 4, "1"));
+    EXPECT_FALSE(BoxKey(problem, 4, "\b"));
+    EXPECT_EQ(problem.boxes.Text[3], "");
+}
+
+TEST(CheckBoxesReady, MetricTopicsNeedAValueAndBothUnits) {
+    for (const int code : {23, 24}) {
+        Problem problem = WithCode(code);
+        const auto ready = [&problem](std::string_view value, int from, int to) {
+            problem.boxes.Text[3] = value;
+            problem.boxes.ListIndex = {from, to, 0};
+            CheckBoxesReady(problem);
+            return problem.controls.SolveEnabled;
+        };
+        EXPECT_TRUE(ready("5", 0, 6));
+        EXPECT_TRUE(ready("5.", 3, 3));
+        EXPECT_TRUE(ready("-.5", 0, 0));
+        EXPECT_FALSE(ready("", 0, 6));
+        EXPECT_FALSE(ready("-", 0, 6));
+        EXPECT_FALSE(ready(".", 0, 6));
+        EXPECT_FALSE(ready("5", -1, 6));
+        EXPECT_FALSE(ready("5", 0, -1));
+    }
+}
+
+TEST(CheckBoxesReady, RunsWithEachKey) {
+    Problem problem = WithCode(23);
+    problem.boxes.ListIndex = {0, 6, 0};
+    BoxKey(problem, 4, "-");
+    EXPECT_FALSE(problem.controls.SolveEnabled);
+    BoxKey(problem, 4, "1");
+    EXPECT_TRUE(problem.controls.SolveEnabled);
+    BoxKey(problem, 4, "\b");
+    EXPECT_FALSE(problem.controls.SolveEnabled);
+}
+
+TEST(CheckBoxesReady, LeavesALineTopicAlone) {
+    Problem problem = WithCode(53);
+    problem.controls.SolveEnabled = true;
+    CheckBoxesReady(problem);
+    EXPECT_TRUE(problem.controls.SolveEnabled);
+}
+
+TEST(IsNumeric, WantsADigitAndOnePointAtMost) {
+    for (const char* text : {"5", "5.", ".5", "-5", "-.5", "0", "007", "12.34"}) {
+        EXPECT_TRUE(IsNumeric(text)) << text;
+    }
+    for (const char* text : {"", "-", ".", "-.", "1.2.3", "--1", "1-", "1a", "+1", " 1", "1E5"}) {
+        EXPECT_FALSE(IsNumeric(text)) << text;
+    }
+}
+
+}  // namespace
+}  // namespace numerello

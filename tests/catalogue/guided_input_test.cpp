@@ -1,0 +1,216 @@
+#include "catalogue/guided_input.h"
+
+#include <gtest/gtest.h>
+
+#include "catalogue/chooser.h"
+#include "catalogue/input_classes.h"
+#include "core/solve_driver.h"
+
+namespace numerello {
+namespace {
+
+Problem Opened(std::string_view caption) {
+    Problem problem;
+    MersenneSource random;
+    Stage stage;
+    TreeViewSelect(caption, problem.topic, FixedClock(0), random);
+    EraseProblem(problem, stage);
+    return problem;
+}
+
+void Type(Problem& problem, std::string_view keys) {
+    for (const char key : keys) {
+        Form_KeyPress(problem, std::string_view(&key, 1));
+    }
+}
+
+constexpr std::string_view kTopic = "Converting Inches To Yards";
+
+TEST(NumberLine, TakesDigitsAndAPoint) {
+    Problem problem = Opened(kTopic);
+    const std::pair<const char*, const char*> lines[] = {
+        {"4", "4"}, {"0", "40"}, {".", "40."}, {"x", "40."}, {"5", "40.5"}, {".", "40.5"}};
+    for (const auto& [key, line] : lines) {
+        FormFilter(problem, key);
+        EXPECT_EQ(problem.typed.DisplayLine, line) << key;
+    }
+    EXPECT_EQ(problem.typed.ProblemText, "40.5");
+    EXPECT_EQ(problem.typed.ExprCharCount, 4);
+    EXPECT_EQ(problem.typed.ExprChars[2], ".");
+    EXPECT_EQ(problem.typed.ExprCells[4], "40.5");
+    EXPECT_EQ(problem.typed.ExprCellCount, 4);
+}
+
+TEST(NumberLine, MayBeginWithAPoint) {
+    Problem problem = Opened(kTopic);
+    Type(problem, ".5");
+    EXPECT_EQ(problem.typed.ProblemText, ".5");
+}
+
+TEST(NumberLine, RefusesASixthDigit) {
+    Problem problem = Opened(kTopic);
+    Type(problem, "123456");
+    EXPECT_FALSE(problem.input.KeyAccepted);
+    EXPECT_EQ(problem.input.InputError, "Please keep all numbers to 5 digits or less.");
+    EXPECT_EQ(problem.typed.ProblemText, "12345");
+}
+
+TEST(NumberLine, RefusesATenthPastTheLimitOfItsTopic) {
+    Problem problem = Opened("Expanded Notation");
+    Type(problem, "12345678901");
+    EXPECT_EQ(problem.input.InputError, "Please keep all numbers to 10 digits or less.");
+    EXPECT_EQ(problem.typed.ProblemText, "1234567890");
+}
+
+TEST(NumberLine, RefusesAThirdDecimal) {
+    Problem problem = Opened(kTopic);
+    Type(problem, "1.257");
+    EXPECT_EQ(problem.input.InputError, "Please keep all decimal portions to 2 digits or less.");
+    EXPECT_EQ(problem.typed.ProblemText, "1.25");
+}
+
+TEST(NumberLine, DigitsBeforeAndBehindThePointCountApart) {
+    Problem problem = Opened(kTopic);
+    Type(problem, "12345.67");
+    EXPECT_EQ(problem.typed.ProblemText, "12345.67");
+}
+
+TEST(NumberLine, RefusesASecondPoint) {
+    for (const std::string_view keys : {"1..", "1.5.", ".."}) {
+        Problem problem = Opened(kTopic);
+        Type(problem, keys);
+        EXPECT_FALSE(problem.input.KeyAccepted) << keys;
+        EXPECT_EQ(problem.input.InputError, "A number can only have one decimal point.") << keys;
+    }
+}
+
+TEST(NumberLine, AnAcceptedKeyEmptiesTheError) {
+    Problem problem = Opened(kTopic);
+    Type(problem, "+4");
+    EXPECT_TRUE(problem.input.KeyAccepted);
+    EXPECT_EQ(problem.input.InputError, "");
+}
+
+TEST(NumberLine, BackspaceTakesTheLastCharacterBack) {
+    Problem problem = Opened(kTopic);
+    Type(problem, "1.\b.5\b\b\b");
+    EXPECT_TRUE(problem.input.KeyAccepted);
+    EXPECT_EQ(problem.typed.ProblemText, "");
+    EXPECT_EQ(problem.typed.ExprCharCount, 0);
+    Type(problem, "\b");
+    EXPECT_FALSE(problem.input.KeyAccepted);
+    EXPECT_EQ(problem.input.InputError, "Problem has already been erased.");
+}
+
+TEST(NumberLine, SolveComesOnWithTheFirstAcceptedKey) {
+    Problem problem = Opened(kTopic);
+    EXPECT_FALSE(problem.controls.SolveEnabled);
+    Type(problem, "+");
+    EXPECT_FALSE(problem.controls.SolveEnabled);
+    Type(problem, "4");
+    EXPECT_TRUE(problem.controls.SolveEnabled);
+    Type(problem, "x");
+    EXPECT_TRUE(problem.controls.SolveEnabled);
+    Type(problem, "\b");
+    EXPECT_FALSE(problem.controls.SolveEnabled);
+}
+
+TEST(NumberLine, LightAndPencilFollowTheKey) {
+    Problem problem = Opened(kTopic);
+    Type(problem, "4");
+    EXPECT_EQ(problem.controls.Light, EntryControls::LightPicture::Correct);
+    EXPECT_EQ(problem.controls.LightToolTip, "Correct Input.");
+    EXPECT_EQ(problem.controls.Pencil, EntryControls::PencilPicture::Pencil);
+    Type(problem, "-");
+    EXPECT_EQ(problem.controls.Light, EntryControls::LightPicture::Incorrect);
+    EXPECT_EQ(problem.controls.LightToolTip, "Incorrect input.");
+    Type(problem, "\b");
+    EXPECT_EQ(problem.controls.Light, EntryControls::LightPicture::Correct);
+    EXPECT_EQ(problem.controls.Pencil, EntryControls::PencilPicture::Eraser);
+}
+
+TEST(NumberLine, NoKeyGoesInWhileTypingIsOff) {
+    Problem problem = Opened(kTopic);
+    problem.playback.TypingEnabled = false;
+    Type(problem, "4");
+    EXPECT_FALSE(problem.input.KeyAccepted);
+    EXPECT_EQ(problem.typed.ProblemText, "");
+    EXPECT_EQ(problem.controls.Light, EntryControls::LightPicture::Neutral);
+}
+
+TEST(NumberLine, ABoxTopicTakesNoKey) {
+    Problem problem = Opened("Meter Conversions");
+    Type(problem, "4\b");
+    EXPECT_FALSE(problem.input.KeyAccepted);
+    EXPECT_EQ(problem.input.InputError, "");
+    EXPECT_EQ(problem.typed.ProblemText, "");
+}
+
+TEST(NumberLine, IsCompleteWhenItEndsInADigit) {
+    Problem problem = Opened(kTopic);
+    EXPECT_FALSE(LineIsComplete(problem));
+    Type(problem, "4");
+    EXPECT_TRUE(LineIsComplete(problem));
+    Type(problem, ".");
+    EXPECT_FALSE(LineIsComplete(problem));
+    Type(problem, "5");
+    EXPECT_TRUE(LineIsComplete(problem));
+}
+
+TEST(GrammarStands, ForOneNumberAndForBoxes) {
+    EXPECT_TRUE(GrammarStands(Opened("Converting Inches To Yards").topic));
+    EXPECT_TRUE(GrammarStands(Opened("Multiples").topic));
+    EXPECT_TRUE(GrammarStands(Opened("Gram Conversions").topic));
+    EXPECT_FALSE(GrammarStands(Opened("Arithmetic").topic));
+    EXPECT_FALSE(GrammarStands(Opened("Percent To Decimal Notation").topic));
+}
+
+TEST(ClassRefusal, HasItsWordsForEveryClass) {
+    constexpr std::string_view T = "Topic";
+    const std::pair<const char*, const char*> refusals[] = {
+        {"7", "Numbers are not allowed in 'Topic'.  Click the Assistant Wiz for details."},
+        {"+",
+         "The '+' sign is not allowed in 'Topic'.  Enter a number without using + or -.  Click the "
+         "Assistant Wiz for details."},
+        {"-",
+         "The '-' sign is not allowed in 'Topic'.  Enter a number without using + or -.  Click the "
+         "Assistant Wiz for details."},
+        {"*", "The '*' is not allowed in 'Topic'.  Click the Assistant Wiz for details."},
+        {"/",
+         "The division symbol is not allowed in 'Topic'.  Click the Assistant Wiz for details."},
+        {"^", "Exponents are not allowed in 'Topic'.  Click the Assistant Wiz for details."},
+        {"(", "The '(' is not allowed in 'Topic'.  Click the Assistant Wiz for details."},
+        {")", "The ')' is not allowed in 'Topic'.  Click the Assistant Wiz for details."},
+        {"=", "The '=' is not allowed in 'Topic'.  Click the Assistant Wiz for details."},
+        {"X", "Variables are not allowed in 'Topic'.  Click the Assistant Wiz for details."},
+        {"~",
+         "Square roots (~ ~) are not allowed in 'Topic'.  Click the Assistant Wiz for details."},
+        {"|",
+         "Absolute Values (|) are not allowed in 'Topic'.  Click the Assistant Wiz for details."},
+        {".", "Decimals (.) are not allowed in 'Topic'.  Click the Assistant Wiz for details."},
+        {",", "Commas (,) are not allowed in 'Topic'.  Click the Assistant Wiz for details."},
+        {":", "Ratios (:) are not allowed in 'Topic'.  Click the Assistant Wiz for details."},
+        {"%", "Percents (%) are not allowed in 'Topic'.  Click the Assistant Wiz for details."},
+        {"[", "This symbol is not allowed in 'Topic'.  Click the Assistant Wiz for details."},
+        {"#", "This symbol is not allowed in 'Topic'.  Click the Assistant Wiz for details."},
+        {"]", "This symbol is not allowed in 'Topic'.  Click the Assistant Wiz for details."},
+        {" ", "The ' ' is not allowed in 'Topic'.  Click the Assistant Wiz for details."},
+        {"é", "The 'é' is not allowed in 'Topic'.  Click the Assistant Wiz for details."}};
+    for (const auto& [character, refusal] : refusals) {
+        EXPECT_EQ(ClassRefusal(character, 0, T), refusal) << character;
+    }
+}
+
+TEST(ClassRefusal, LetsInWhatItsBitAllows) {
+    const std::pair<const char*, int> bits[] = {{"7", 1},    {"+", 2},    {"-", 2},    {"*", 4},
+                                                {"/", 8},    {"^", 16},   {"(", 32},   {")", 32},
+                                                {"=", 64},   {"x", 128},  {"~", 256},  {"|", 512},
+                                                {".", 1024}, {",", 2048}, {":", 4096}, {"%", 8192}};
+    for (const auto& [character, bit] : bits) {
+        EXPECT_EQ(ClassRefusal(character, bit, "T"), std::nullopt) << character;
+        EXPECT_NE(ClassRefusal(character, 16383 - bit, "T"), std::nullopt) << character;
+    }
+}
+
+}  // namespace
+}  // namespace numerello

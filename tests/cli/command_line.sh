@@ -1,0 +1,90 @@
+#!/bin/sh
+# The sub-commands for people: what they print and how they exit.
+cli=$1
+out=$(mktemp)
+err=$(mktemp)
+trap 'rm -f "$out" "$err"' EXIT
+failed=0
+
+# runs STATUS ARGUMENT...: runs the command and looks at its exit status
+runs() {
+    wanted=$1
+    shift
+    "$cli" "$@" >"$out" 2>"$err" </dev/null
+    status=$?
+    if [ "$status" -ne "$wanted" ]; then
+        echo "exit $status instead of $wanted: $*"
+        failed=1
+    fi
+}
+
+prints() {
+    if ! grep -qF -- "$1" "$out"; then
+        echo "standard output lacks: $1"
+        failed=1
+    fi
+}
+
+tells() {
+    if ! grep -qF -- "$1" "$err"; then
+        echo "standard error lacks: $1"
+        failed=1
+    fi
+}
+
+runs 0 solve --topic "Converting Inches To Yards" --problem 40
+prints " 1. To convert inches to yards, first convert inches to feet:"
+prints "       Convert inches to feet, then convert feet to yards."
+prints " 8. 40 inches = 1.11 yards"
+prints "       Substitute the number of inches back into the equation."
+
+runs 0 solve --topic "Converting Inches To Yards" --problem 4+0 --set RoundDigits=4
+prints "40 inches = 1.1111 yards"
+tells "The '+' sign is not allowed in 'Converting Inches To Yards'."
+
+runs 0 solve --topic "Meter Conversions" --box 4=-2.5 --list 1=6 --list 2=3
+prints "-2.5 km = -2500 m"
+
+runs 0 solve --topic "Converting Feet To Yards" --problem 7 --json
+prints '"failure":null'
+
+runs 1 solve --topic "Converting Inches To Yards" --problem 4.
+tells "The format of the entered problem was not recognized."
+runs 1 solve --topic "Converting Inches To Yards" --problem=-
+tells "not solved"
+runs 1 solve --topic "Converting Inches To Yards" --problem=- --json
+
+runs 2 solve --topic "Converting Inches To Parsecs" --problem 40
+tells "unknown topic"
+runs 2 solve --problem 40
+runs 2 solve --topic "Meter Conversions" --box 7=1
+runs 2 solve --topic "Meter Conversions" --box four=1
+runs 2 solve --topic "Meter Conversions" --list 1
+runs 2 solve --topic "Meter Conversions" --list 1=9
+runs 2 solve --topic "Meter Conversions" --set RoundDigits=9
+runs 2 solve --topic "Meter Conversions" --set Colour=1
+runs 2 solve --topic "Arithmetic" --problem 4+2
+tells "not built yet"
+runs 2
+runs 2 dance
+runs 2 solve --nonsense
+
+runs 0 type --topic "Converting Inches To Feet" -- -4
+prints "refused: The '-' sign is not allowed"
+prints "Solve! is on."
+runs 0 type --topic "Converting Inches To Feet" 4 --json
+prints '"solvable":true'
+
+runs 0 topics
+prints "    Converting Inches To Yards"
+prints "Lengths"
+runs 0 topics --json
+prints '"caption":"Solving Equations"'
+
+runs 0 --help
+prints "solve"
+runs 0 --version
+prints "numerello-cli"
+runs 0 batch
+
+exit $failed

@@ -1,0 +1,132 @@
+#include <gtest/gtest.h>
+
+#include "tests/cli/ask.h"
+
+namespace numerello {
+namespace {
+
+void ExpectRefused(std::string_view request) {
+    const Json answer = Ask(request);
+    ASSERT_TRUE(answer.is_object()) << request;
+    EXPECT_EQ(FieldsOf(answer), (std::vector<std::string>{"id", "ok", "error"})) << request;
+    EXPECT_EQ(answer.at("ok"), false) << request;
+    EXPECT_FALSE(answer.at("error").get<std::string>().empty()) << request;
+}
+
+TEST(RequestErrors, NoJson) {
+    for (const char* line :
+         {"x", "{", "{}}", "{'do':'topics'}", R"({"do":"topics",})", "[1,2",
+          "{\"do\":\"topics\"} x", "\xFF", "{\"do\":\"\xC3\"}", R"({"do":"topics","id":1e999})"}) {
+        ExpectRefused(line);
+    }
+}
+
+TEST(RequestErrors, NoObject) {
+    for (const char* line : {"1", "null", R"("solve")", "[]", R"([{"do":"topics"}])"}) {
+        ExpectRefused(line);
+    }
+}
+
+TEST(RequestErrors, MissingOrUnknownDo) {
+    ExpectRefused("{}");
+    ExpectRefused(R"({"topic":"Multiples"})");
+    ExpectRefused(R"({"do":"dance"})");
+    ExpectRefused(R"({"do":""})");
+    ExpectRefused(R"({"do":3})");
+    ExpectRefused(R"({"do":null})");
+}
+
+TEST(RequestErrors, AKeyGivenTwice) {
+    ExpectRefused(R"({"do":"topics","do":"topics"})");
+    ExpectRefused(R"({"do":"solve","code":53,"problem":"1","problem":"2"})");
+    ExpectRefused(R"({"do":"solve","code":53,"settings":{"RoundDigits":1,"RoundDigits":2}})");
+    EXPECT_EQ(Ask(R"({"id":9,"do":"topics","do":"topics"})").at("id"), 9);
+    EXPECT_EQ(Ask(R"({"do":"topics","id":{"a":{"x":1},"b":{"x":1}}})").at("ok"), true);
+}
+
+TEST(RequestErrors, TooDeepNesting) {
+    ExpectRefused(R"({"do":"topics","id":)" + std::string(100000, '[') + std::string(100000, ']') +
+                  "}");
+    ExpectRefused(std::string(100000, '['));
+    EXPECT_EQ(Ask(R"({"do":"topics","id":)" + std::string(100, '[') + std::string(100, ']') + "}")
+                  .at("ok"),
+              true);
+}
+
+TEST(RequestErrors, UnknownFieldsAndThoseOfOthers) {
+    ExpectRefused(R"({"do":"topics","colour":1})");
+    ExpectRefused(R"({"do":"topics","topic":"Multiples"})");
+    ExpectRefused(R"({"do":"type","code":53,"keys":"1","problem":"1"})");
+    ExpectRefused(R"({"do":"solve","code":53,"keys":"1"})");
+    ExpectRefused(R"({"do":"solve","code":53,"clock":"0000"})");
+    ExpectRefused(R"({"do":"typeset","variant":"paper","text":"1","code":53})");
+    ExpectRefused(R"({"do":"solve","code":53,"settings":{"mnuPencil":true}})");
+}
+
+TEST(RequestErrors, TopicAndCode) {
+    ExpectRefused(R"({"do":"solve","problem":"1"})");
+    ExpectRefused(R"({"do":"solve","topic":"Converting Inches To Yards","code":53})");
+    ExpectRefused(R"({"do":"solve","topic":"Converting inches to yards"})");
+    ExpectRefused(R"({"do":"solve","topic":"Lengths"})");
+    ExpectRefused(R"({"do":"solve","topic":""})");
+    ExpectRefused(R"({"do":"solve","topic":53})");
+    for (const char* code : {"0", "122", "-53", "55", "999999999999", "53.0", "\"53\"", "1e3"}) {
+        ExpectRefused(std::string(R"({"do":"solve","problem":"1","code":)") + code + "}");
+    }
+}
+
+TEST(RequestErrors, WrongTypesAndRanges) {
+    for (const char* field : {
+             R"("problem":1)",
+             R"("problem":null)",
+             R"("problem":"4\b")",
+             R"("boxes":"1")",
+             R"("boxes":[1])",
+             R"("boxes":["1\b"])",
+             R"("boxes":["1","2","3","4","5","6","7"])",
+             R"("filled":1)",
+             R"("lists":[0,0,0,0])",
+             R"("lists":[-2])",
+             R"("lists":[7])",
+             R"("lists":[1.0])",
+             R"("lists":["1"])",
+             R"("lists":{})",
+             R"("answers":"x")",
+             R"("answers":[1])",
+             R"("settings":[])",
+             R"("settings":{"RoundDigits":0})",
+             R"("settings":{"RoundDigits":6})",
+             R"("settings":{"RoundDigits":2.0})",
+             R"("settings":{"RoundDigits":"2"})",
+             R"("settings":{"UseFractions":1})",
+             R"("settings":{"DetailLevel":4})",
+             R"("settings":{"ExpDetail":0})",
+             R"("settings":{"ComplexEx":1})",
+             R"("settings":{"ComplexEx":3})",
+             R"("settings":{"mnuShowStep":"true"})",
+             R"("settings":{"RoundDigits":18446744073709551615})",
+         }) {
+        ExpectRefused(std::string(R"({"do":"solve","code":53,)") + field + "}");
+    }
+}
+
+TEST(RequestErrors, WhatIsNotBuiltYetSaysSo) {
+    for (const char* request : {
+             R"({"do":"solve","topic":"Arithmetic","problem":"4+2"})",
+             R"({"do":"solve","topic":"Multiples","problem":"4"})",
+             R"({"do":"solve","topic":"Addition","boxes":["1","2"]})",
+             R"({"do":"type","topic":"Arithmetic","keys":"4+2"})",
+             R"({"do":"columns","code":200})",
+             R"({"do":"example","code":53})",
+             R"({"do":"practice-test","rows":[]})",
+             R"({"do":"graph","code":108})",
+         }) {
+        ExpectRefused(request);
+        EXPECT_NE(Ask(request).at("error").get<std::string>().find("not built yet"),
+                  std::string::npos)
+            << request;
+    }
+}
+
+}  // namespace
+}  // namespace numerello

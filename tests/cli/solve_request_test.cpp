@@ -1,0 +1,129 @@
+#include <gtest/gtest.h>
+
+#include "tests/cli/ask.h"
+
+namespace numerello {
+namespace {
+
+TEST(SolveRequest, AnswersEveryFieldInItsOrder) {
+    const Json answer =
+        Ask(R"({"id":1,"do":"solve","topic":"Converting Feet To Yards","problem":"7"})");
+    const Json expected = {
+        {"id", 1},
+        {"ok", true},
+        {"code", 50},
+        {"problem", "7"},
+        {"refused", Json::array()},
+        {"solvable", true},
+        {"lines",
+         {{{"text", "7"}, {"note", ""}},
+          {{"text", "There are 3 feet in a yard."}, {"note", "3 feet = 1 yard"}},
+          {{"text", "To convert feet to yards, divide the number of feet (7) by 3:"},
+           {"note", "Dividing by 3 will convert feet to yards."}},
+          {{"text", "7 feet = 2.33333333333333 yards"}, {"note", "Feet converted to yards."}}}},
+        {"messages", Json::array()},
+        {"prompts", Json::array()},
+        {"failure", nullptr},
+        {"drawing", Json::array()},
+        {"graph", nullptr}};
+    EXPECT_EQ(answer.dump(), expected.dump());
+}
+
+TEST(SolveRequest, ACodeIsAsGoodAsACaption) {
+    EXPECT_EQ(Ask(R"({"do":"solve","code":53,"problem":"40"})"),
+              Ask(R"({"do":"solve","topic":"Converting Inches To Yards","problem":"40"})"));
+}
+
+TEST(SolveRequest, TellsRefusedKeysByPlaceAndReason) {
+    const Json answer = Ask(
+        R"({"do":"solve","topic":"Converting Inches To Yards","problem":"4+0é.5.","settings":{}})");
+    EXPECT_EQ(answer.at("problem"), "40.5");
+    const Json expected = {
+        {{"at", 1},
+         {"key", "+"},
+         {"why",
+          "The '+' sign is not allowed in 'Converting Inches To Yards'.  Enter a number without "
+          "using + or -.  Click the Assistant Wiz for details."}},
+        {{"at", 3},
+         {"key", "é"},
+         {"why",
+          "The 'é' is not allowed in 'Converting Inches To Yards'.  Click the Assistant Wiz for "
+          "details."}},
+        {{"at", 6}, {"key", "."}, {"why", "A number can only have one decimal point."}}};
+    EXPECT_EQ(answer.at("refused").dump(), expected.dump());
+    EXPECT_EQ(answer.at("failure"), nullptr);
+}
+
+TEST(SolveRequest, WithoutAProblemNothingIsSolved) {
+    for (const char* request :
+         {R"({"do":"solve","code":53})", R"({"do":"solve","code":53,"problem":"+-"})",
+          R"({"do":"solve","code":23,"boxes":["","","","5"]})"}) {
+        const Json answer = Ask(request);
+        EXPECT_EQ(answer.at("ok"), true);
+        EXPECT_EQ(answer.at("solvable"), false);
+        EXPECT_TRUE(answer.at("lines").empty());
+        EXPECT_TRUE(answer.at("messages").empty());
+        EXPECT_EQ(answer.at("failure"), nullptr);
+    }
+}
+
+TEST(SolveRequest, AnUnfinishedLineIsSolvedIntoTheFormatFailure) {
+    const Json answer = Ask(R"({"do":"solve","code":53,"problem":"4."})");
+    EXPECT_EQ(answer.at("solvable"), true);
+    EXPECT_EQ(answer.at("failure"), "format");
+    EXPECT_TRUE(answer.at("lines").empty());
+    const Json expected = Json::array(
+        {{{"title", ""},
+          {"text",
+           "The format of the entered problem was not recognized.  Click the 'Erase' button and "
+           "try again."}}});
+    EXPECT_EQ(answer.at("messages").dump(), expected.dump());
+}
+
+TEST(SolveRequest, BoxesAndListsMakeAMetricProblem) {
+    const Json answer =
+        Ask(R"({"do":"solve","topic":"Meter Conversions","boxes":["","","","2.5"],"lists":[6,3]})");
+    EXPECT_EQ(answer.at("code"), 23);
+    EXPECT_EQ(answer.at("problem"), "");
+    EXPECT_EQ(answer.at("solvable"), true);
+    EXPECT_EQ(answer.at("lines").size(), 6U);
+    EXPECT_EQ(answer.at("lines").back().at("text"), "2.5 km = 2500 m");
+}
+
+TEST(SolveRequest, BoxesAreTypedThroughTheBoxRule) {
+    const Json answer =
+        Ask(R"({"do":"solve","code":24,"boxes":["","","","1x.5.-2"],"lists":[3,3]})");
+    const Json expected = {{{"at", 1}, {"key", "x"}, {"why", ""}, {"box", 4}},
+                           {{"at", 4}, {"key", "."}, {"why", ""}, {"box", 4}},
+                           {{"at", 5}, {"key", "-"}, {"why", ""}, {"box", 4}}};
+    EXPECT_EQ(answer.at("refused").dump(), expected.dump());
+    EXPECT_EQ(answer.at("lines").back().at("text"), "1.52 g = 1.52 g");
+}
+
+TEST(SolveRequest, FilledBoxesStandAsTheyAre) {
+    const Json answer = Ask(
+        R"({"do":"solve","code":24,"boxes":["","","","123456789012"],"filled":true,"lists":[3,6]})");
+    EXPECT_TRUE(answer.at("refused").empty());
+    EXPECT_EQ(answer.at("lines").back().at("text"), "123456789012 g = 123456789.012 kg");
+}
+
+TEST(SolveRequest, TheLineOfABoxTopicTakesNoKey) {
+    const Json answer =
+        Ask(R"({"do":"solve","code":23,"problem":"5","boxes":["","","","5"],"lists":[0,1]})");
+    const Json expected = Json::array({{{"at", 0}, {"key", "5"}, {"why", ""}}});
+    EXPECT_EQ(answer.at("refused").dump(), expected.dump());
+    EXPECT_EQ(answer.at("problem"), "");
+    EXPECT_EQ(answer.at("lines").back().at("text"), "5 mm = 0.5 cm");
+}
+
+TEST(SolveRequest, SettingsShapeTheAnswer) {
+    const Json answer =
+        Ask(R"({"do":"solve","code":110,"problem":"100","settings":{"RoundDigits":4,)"
+            R"("UseFractions":false,"DetailLevel":3,"ExpDetail":1,"ComplexEx":2,)"
+            R"("mnuShowStep":false}})");
+    EXPECT_EQ(answer.at("lines").size(), 6U);
+    EXPECT_EQ(answer.at("lines").back().at("text"), "100^o^ F = 37.7778^o^ C");
+}
+
+}  // namespace
+}  // namespace numerello

@@ -1,0 +1,58 @@
+#include <gtest/gtest.h>
+
+#include "tests/cli/ask.h"
+
+namespace numerello {
+namespace {
+
+TEST(TypeRequest, JudgesEachKey) {
+    const Json answer =
+        Ask(R"({"id":"k","do":"type","topic":"Converting Inches To Feet","keys":"4,.5\b\b"})");
+    const Json expected = {
+        {"id", "k"},
+        {"ok", true},
+        {"code", 54},
+        {"keys",
+         {{{"key", "4"}, {"accepted", true}, {"why", ""}, {"line", "4"}},
+          {{"key", ","},
+           {"accepted", false},
+           {"why",
+            "Commas (,) are not allowed in 'Converting Inches To Feet'.  Click the Assistant Wiz "
+            "for details."},
+           {"line", "4"}},
+          {{"key", "."}, {"accepted", true}, {"why", ""}, {"line", "4."}},
+          {{"key", "5"}, {"accepted", true}, {"why", ""}, {"line", "4.5"}},
+          {{"key", "\b"}, {"accepted", true}, {"why", ""}, {"line", "4."}},
+          {{"key", "\b"}, {"accepted", true}, {"why", ""}, {"line", "4"}}}},
+        {"problem", "4"},
+        {"solvable", true}};
+    EXPECT_EQ(answer.dump(), expected.dump());
+}
+
+TEST(TypeRequest, BackspaceOnAnEmptyLineIsRefused) {
+    const Json answer = Ask(R"({"do":"type","code":54,"keys":"\b"})");
+    EXPECT_EQ(answer.at("keys")[0].at("accepted"), false);
+    EXPECT_EQ(answer.at("keys")[0].at("why"), "Problem has already been erased.");
+    EXPECT_EQ(answer.at("solvable"), false);
+}
+
+TEST(TypeRequest, ABoxTopicRefusesWithoutWords) {
+    const Json answer = Ask(R"({"do":"type","topic":"Meter Conversions","keys":"4\b"})");
+    for (const Json& key : answer.at("keys")) {
+        EXPECT_EQ(key.at("accepted"), false);
+        EXPECT_EQ(key.at("why"), "");
+        EXPECT_EQ(key.at("line"), "");
+    }
+    EXPECT_EQ(answer.at("keys").size(), 2U);
+    EXPECT_EQ(answer.at("problem"), "");
+}
+
+TEST(TypeRequest, NoKeysMakeAnEmptyProblem) {
+    const Json answer = Ask(R"({"do":"type","code":54,"keys":""})");
+    EXPECT_TRUE(answer.at("keys").empty());
+    EXPECT_EQ(answer.at("solvable"), false);
+    EXPECT_EQ(Ask(R"({"do":"type","code":54})").at("ok"), false);
+}
+
+}  // namespace
+}  // namespace numerello

@@ -1,0 +1,75 @@
+#include "tests/typeset/samples.h"
+
+namespace numerello {
+namespace {
+
+constexpr double kC = kCharacter;
+
+void ExpectBlue(const SampleAnswer& answer, std::vector<Piece> pieces) {
+    for (Piece& piece : pieces) {
+        piece.color = kBlue;
+    }
+    ExpectPieces(answer, pieces);
+}
+
+TEST(ExplanationLineTest, ASlashAnywhereMakesRoom) {
+    ExpectBlue(Explained("ab"), {{"a", 0, 3}, {"b", kC, 3}});
+    ExpectEnd(Explained("ab"), 0, 3 + kLine);
+    ExpectBlue(Explained("a/b"), {{"a", 0, 12}, {"/", kC, 12}, {"b", 2 * kC, 12}});
+    ExpectEnd(Explained("a/b"), 0, 12 + kLine);
+}
+
+TEST(ExplanationLineTest, RootAndFraction) {
+    const double x = 6 + 2 * kC + kBlank;
+    ExpectBlue(Explained("~4~ #1/2#"), {{"4", kC, 12},
+                                        {"_", 6, 12 - 18},
+                                        {"_", 6 + kC, 12 - 18},
+                                        {"~", -2, 12},
+                                        {"1", x, 12 - 7.2},
+                                        {"2", x, 12 - 7.2 + 20.4},
+                                        {"_", x, 12 - 7.2}});
+}
+
+TEST(ExplanationLineTest, OnlyThePlainSignComesFromTheSheetsFace) {
+    const SampleAnswer plain = Explained("~4~x");
+    ASSERT_EQ(plain.marks.size(), 5U);
+    EXPECT_EQ(TextAt(plain, 0).font.name, "Book Antiqua");
+    EXPECT_EQ(TextAt(plain, 3).text, "~");
+    EXPECT_EQ(TextAt(plain, 3).font.name, "VantrelFont");
+    EXPECT_EQ(TextAt(plain, 4).font.name, "Book Antiqua");
+
+    const SampleAnswer tall = Explained("~#1/2#~");
+    ASSERT_EQ(tall.marks.size(), 7U);
+    EXPECT_EQ(TextAt(tall, 5).text, "&");
+    EXPECT_EQ(TextAt(tall, 5).font.name, "Book Antiqua");
+    EXPECT_EQ(TextAt(tall, 6).text, "~");
+    EXPECT_EQ(TextAt(tall, 6).font.name, "Book Antiqua");
+}
+
+TEST(ExplanationLineTest, ATallRoot) {
+    ExpectBlue(Explained("~#1/2#~"), {{"1", kC, 4.8},
+                                      {"2", kC, 25.2},
+                                      {"_", kC, 4.8},
+                                      {"_", 6, 4.8 - 18},
+                                      {"_", 6 + kC, 4.8 - 18},
+                                      {"&", 2, 3},
+                                      {"~", 2 + kC - 14, 19}});
+}
+
+TEST(ExplanationLineTest, BracketsGoBackToBlue) {
+    ExpectPieces(Explained("[a]b^2^"),
+                 {{"a", 0, 3, 12, kRed}, {"b", kC, 3, 12, kBlue}, {"2", 2 * kC, 1.4, 8, kBlue}});
+    ExpectPieces(Explained("#[1]/2#"),
+                 {{"1", 0, 4.8, 12, kRed}, {"2", 0, 25.2, 12, kBlue}, {"_", 0, 4.8, 12, kBlue}});
+    ExpectPiece(Explained("~[9]~"), 1, {"_", 6, 3 - 18, 12, kBlue});
+}
+
+TEST(ExplanationLineTest, NoPageEnds) {
+    const SampleAnswer answer =
+        Typeset({.target = TypesetTarget::Explanation, .text = "x", .y = 5000});
+    ExpectBlue(answer, {{"x", 0, 5003}});
+    EXPECT_EQ(answer.pagesTurned, 0);
+}
+
+}  // namespace
+}  // namespace numerello

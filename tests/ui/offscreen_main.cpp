@@ -1,0 +1,17 @@
+#include <gtest/gtest.h>
+
+#include <QGuiApplication>
+
+#include "ui/font_metrics.h"
+
+/// Fonts and painting need the toolkit's application object, but no screen.
+int main(int argc, char** argv) {
+    ::testing::InitGoogleTest(&argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    if (!numerello::LoadSheetFont()) {
+        qCritical("VantrelFont cannot be used");
+        return 1;
+    }
+    return RUN_ALL_TESTS();
+}

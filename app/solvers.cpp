@@ -1,5 +1,6 @@
 #include "app/solvers.h"
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -30,7 +31,7 @@ void MetricLadder(SolveRun& run) {
                   MetricFactor(boxes.ListIndex[1]), UnitKind);
 }
 
-constexpr SolverRow kRows[] = {
+constexpr auto kRows = std::to_array<SolverRow>({
     {54, OnLineAlone<ConvertInchesToFeet>},
     {53, OnLine<ConvertInchesToYards>},
     {52, OnLine<ConvertInchesToMiles>},
@@ -63,7 +64,7 @@ constexpr SolverRow kRows[] = {
     {109, OnLine<ConvertCelsiusToFahrenheit>},
     {23, MetricLadder<1>},
     {24, MetricLadder<2>},
-};
+});
 
 }  // namespace
 

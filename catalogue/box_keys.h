@@ -11,7 +11,8 @@ namespace numerello {
 /// are locked by a solve take no key. Re-runs the box check. True when the key went in.
 bool BoxKey(Problem& problem, int box, std::string_view key);
 
-/// Enables Solve when the boxes and lists of a box topic make a problem. A line topic is left alone.
+/// Enables Solve when the boxes and lists of a box topic make a problem. A line topic is left
+/// alone.
 void CheckBoxesReady(Problem& problem);
 
 /// An optional "-", digits with at most one ".", at least one digit.

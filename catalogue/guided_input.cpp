@@ -136,7 +136,7 @@ void ChunkChars(TypedProblem& typed) {
 }
 
 std::string FormatForDisplay(TypedProblem& typed) {
-    const std::string number = typed.ExprCells[0];
+    std::string number = typed.ExprCells[0];
     typed.ExprCells.Clear();
     typed.ExprCellCount = 0;
     if (!number.empty()) {

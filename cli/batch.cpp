@@ -11,7 +11,7 @@ namespace numerello {
 
 namespace {
 
-constexpr std::size_t kLongestLine = 1024 * 1024;
+constexpr std::size_t kLongestLine = std::size_t{1024} * 1024;
 constexpr int kProgressEvery = 100;
 
 /// Reads a line without its end, but keeps no more than one byte past the longest. False at the

@@ -144,10 +144,8 @@ void AddSolve(CLI::App& app, SolveArguments& arguments, int& status) {
     });
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    std::ios::sync_with_stdio(false);
+/// The exit status of the command line.
+int Run(int argc, char** argv) {
     CLI::App app("The mathematics tutor without its window", "numerello-cli");
     app.set_version_flag("--version", "numerello-cli " NUMERELLO_VERSION);
     app.require_subcommand(1);
@@ -188,4 +186,16 @@ int main(int argc, char** argv) {
         return kUnusable;
     }
     return status;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        std::ios::sync_with_stdio(false);
+        return Run(argc, argv);
+    } catch (const std::exception& error) {
+        std::cerr << "numerello-cli: " << error.what() << '\n';
+        return kNotWorked;
+    }
 }

@@ -1,6 +1,7 @@
 #include "core/number.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -77,11 +78,11 @@ struct Significant {
 
 template <class Float>
 Significant SignificantDigits(Float magnitude, int count) {
-    char buffer[64];
-    const auto end = std::to_chars(buffer, buffer + sizeof buffer, magnitude,
-                                   std::chars_format::scientific, count - 1)
-                         .ptr;
-    const std::string_view written(buffer, static_cast<std::size_t>(end - buffer));
+    std::array<char, 64> buffer;
+    const auto* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude,
+                                          std::chars_format::scientific, count - 1)
+                                .ptr;
+    const std::string_view written(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
     const std::size_t mark = written.find('e');
     Significant significant;
     significant.digits.push_back(written[0]);
@@ -182,8 +183,8 @@ std::string SingleText(float value) {
 }
 
 std::string WholeText(std::int64_t value) {
-    char buffer[24];
-    return {buffer, std::to_chars(buffer, buffer + sizeof buffer, value).ptr};
+    std::array<char, 24> buffer;
+    return {buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr};
 }
 
 double Round(double value, int places) {

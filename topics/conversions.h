@@ -56,6 +56,10 @@ void ConvertMetric(Problem& problem, std::string_view ValueText, double FromFact
 /// Failure(Format) outside them, as for a list without a choice.
 double MetricFactor(int ListIndex);
 
+/// The row of a unit list as the learner reads it: "mm (0.001 meters)". Throws as MetricFactor.
+std::string_view MetricItem(int ListIndex, int UnitKind);
+inline constexpr int kMetricItems = 7;
+
 // Temperature.
 void ConvertFahrenheitToCelsius(Problem& problem, std::string_view ValueText);
 void ConvertCelsiusToFahrenheit(Problem& problem, std::string_view ValueText);

@@ -169,7 +169,7 @@ std::string Work(Problem& problem, const DirectConversion& conversion, std::stri
     }
     WriteConversionLine(problem, conversion.fact, {});
     WriteConversionLine(problem, conversion.instruction, {.v = ValueText});
-    const std::string result = Convert(problem, conversion.arithmetic, ValueText);
+    std::string result = Convert(problem, conversion.arithmetic, ValueText);
     WriteConversionLine(problem, conversion.result, {.v = ValueText, .r = result});
     return result;
 }

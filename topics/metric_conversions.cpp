@@ -14,13 +14,26 @@ namespace {
 struct MetricUnit {
     double factor;
     std::string_view prefix;
+    std::string_view lengthItem;
+    std::string_view massItem;
 };
 
 /// In the order of the unit lists.
-constexpr std::array<MetricUnit, 7> kMetricUnits{
-    {{0.001, "m"}, {0.01, "c"}, {0.1, "d"}, {1, ""}, {10, "da"}, {100, "h"}, {1000, "k"}}};
+constexpr std::array<MetricUnit, kMetricItems> kMetricUnits{
+    {{0.001, "m", "mm (0.001 meters)", "mg (0.001 grams)"},
+     {0.01, "c", "cm (0.01 meters)", "cg (0.01 grams)"},
+     {0.1, "d", "dm (0.1 meters)", "dg (0.1 grams)"},
+     {1, "", "m (1 meter)", "g (1 gram)"},
+     {10, "da", "dam (10 meters)", "dag (10 grams)"},
+     {100, "h", "hm (100 meters)", "hg (100 grams)"},
+     {1000, "k", "km (1000 meters)", "kg (1000 grams)"}}};
 
 constexpr double kFirstLineY = 243;
+
+const MetricUnit& UnitAt(int ListIndex) {
+    CheckIndex(ListIndex, kMetricItems - 1);
+    return kMetricUnits[static_cast<std::size_t>(ListIndex)];
+}
 
 std::string UnitName(double factor, int UnitKind) {
     const auto* const unit =
@@ -35,8 +48,12 @@ std::string UnitName(double factor, int UnitKind) {
 }  // namespace
 
 double MetricFactor(int ListIndex) {
-    CheckIndex(ListIndex, static_cast<int>(kMetricUnits.size()) - 1);
-    return kMetricUnits[static_cast<std::size_t>(ListIndex)].factor;
+    return UnitAt(ListIndex).factor;
+}
+
+std::string_view MetricItem(int ListIndex, int UnitKind) {
+    const MetricUnit& unit = UnitAt(ListIndex);
+    return UnitKind == 1 ? unit.lengthItem : unit.massItem;
 }
 
 void ConvertMetric(Problem& problem, std::string_view ValueText, double FromFactor, double ToFactor,

@@ -54,6 +54,20 @@ TEST(MetricConversions, EveryUnitHasItsPrefixAndFactor) {
     }
 }
 
+TEST(MetricConversions, TheListsNameUnitAndFactor) {
+    const std::vector<std::pair<std::string_view, std::string_view>> items{
+        {"mm (0.001 meters)", "mg (0.001 grams)"}, {"cm (0.01 meters)", "cg (0.01 grams)"},
+        {"dm (0.1 meters)", "dg (0.1 grams)"},     {"m (1 meter)", "g (1 gram)"},
+        {"dam (10 meters)", "dag (10 grams)"},     {"hm (100 meters)", "hg (100 grams)"},
+        {"km (1000 meters)", "kg (1000 grams)"}};
+    ASSERT_EQ(items.size(), static_cast<std::size_t>(kMetricItems));
+    for (int row = 0; row < kMetricItems; ++row) {
+        const auto& [length, mass] = items[static_cast<std::size_t>(row)];
+        EXPECT_EQ(MetricItem(row, 1), length);
+        EXPECT_EQ(MetricItem(row, 2), mass);
+    }
+}
+
 TEST(MetricConversions, RoundAtSevenPlacesWhateverTheSetting) {
     // 1.23456 mm are 0.00000123456 km.
     EXPECT_EQ(LogOf(Metric(23, "1.23456", 0, 6, 2)).back().first, "1.23456 mm = 0.0000012 km");

@@ -3,6 +3,7 @@
 #include <istream>
 #include <ostream>
 #include <string>
+#include <string_view>
 
 #include "cli/request_line.h"
 #include "cli/requests.h"
@@ -14,51 +15,62 @@ namespace {
 constexpr std::size_t kLongestLine = std::size_t{1024} * 1024;
 constexpr int kProgressEvery = 100;
 
-/// Reads a line without its end, but keeps no more than one byte past the longest. False at the
-/// end of the input.
-bool ReadLine(std::istream& in, std::string& line) {
-    line.clear();
-    std::streambuf* buffer = in.rdbuf();
+struct Line {
+    std::string text;
+    bool tooLong = false;
+};
+
+/// Reads a line without its end, carriage return and byte order mark. Of one that is too long
+/// nothing more is kept than that. False at the end of the input.
+bool ReadLine(std::istream& in, Line& line) {
+    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
     constexpr int kEnd = std::char_traits<char>::eof();
+    const std::size_t most = kLongestLine + kByteOrderMark.size() + 1;
+    line = Line();
+    std::streambuf* buffer = in.rdbuf();
     int next = buffer->sbumpc();
     const bool any = next != kEnd;
     for (; next != kEnd && next != '\n'; next = buffer->sbumpc()) {
-        if (line.size() <= kLongestLine + 1) {
-            line.push_back(static_cast<char>(next));
+        if (line.text.size() < most) {
+            line.text.push_back(static_cast<char>(next));
+        } else {
+            line.tooLong = true;
         }
     }
-    if (line.ends_with('\r')) {
-        line.pop_back();
+    if (line.text.ends_with('\r')) {
+        line.text.pop_back();
     }
+    if (line.text.starts_with(kByteOrderMark)) {
+        line.text.erase(0, kByteOrderMark.size());
+    }
+    line.tooLong = line.tooLong || line.text.size() > kLongestLine;
     return any;
 }
 
-Json AnswerLine(const std::string& line) {
+Json AnswerLine(const Line& line) {
     Json id;
-    if (line.size() > kLongestLine) {
+    if (line.tooLong) {
         return Refusal(id, "the line is longer than 1 MiB");
     }
     try {
         Json request;
-        ReadRequestLine(line, request, id);
+        ReadRequestLine(line.text, request, id);
         return Answer(request, id);
     } catch (const BadRequest& bad) {
         return Refusal(id, bad.what());
+    } catch (const std::exception&) {
+        // One request must never end the stream.
+        return Refusal(id, "the request could not be worked");
     }
 }
 
 }  // namespace
 
 void RunBatch(std::istream& in, std::ostream& out, std::ostream* progress) {
-    std::string line;
+    Line line;
     int answered = 0;
-    bool first = true;
-    while (ReadLine(in, line)) {
-        if (first && line.starts_with("\xEF\xBB\xBF")) {
-            line.erase(0, 3);
-        }
-        first = false;
-        if (line.find_first_not_of(" \t") == std::string::npos) {
+    while (out && ReadLine(in, line)) {
+        if (!line.tooLong && line.text.find_first_not_of(" \t") == std::string::npos) {
             continue;
         }
         out << JsonLine(AnswerLine(line)) << '\n' << std::flush;

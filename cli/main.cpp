@@ -95,8 +95,7 @@ int Solve(const SolveArguments& arguments) {
                        {"answers", arguments.answers},
                        {"settings", Settings(arguments.settings)}};
     const Json answer = numerello::Answer(request, nullptr);
-    return arguments.json ? numerello::PrintJson(answer, std::cout)
-                          : numerello::PrintSolved(answer, std::cout, std::cerr);
+    return numerello::PrintSolved(answer, arguments.json, std::cout, std::cerr);
 }
 
 int Type(const std::string& topic, const std::string& keys, bool json) {
@@ -193,7 +192,12 @@ int Run(int argc, char** argv) {
 int main(int argc, char** argv) {
     try {
         std::ios::sync_with_stdio(false);
-        return Run(argc, argv);
+        const int status = Run(argc, argv);
+        if (!std::cout.flush()) {
+            std::cerr << "numerello-cli: the output could not be written\n";
+            return kNotWorked;
+        }
+        return status;
     } catch (const std::exception& error) {
         std::cerr << "numerello-cli: " << error.what() << '\n';
         return kNotWorked;

@@ -38,23 +38,34 @@ void TellRefusedKeys(const Json& refused, std::ostream& err) {
     }
 }
 
-void PrintLines(const Json& lines, std::ostream& out) {
-    constexpr std::size_t kReasonColumn = 5;
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        const std::string note = String(lines[i], "note");
-        if (i == 0) {
-            out << String(lines[i], "text") << "\n\n";
-            continue;
-        }
+/// The log's first line is the problem; without a log it is what was typed.
+void PrintProblem(const Json& answer, std::ostream& out) {
+    const Json& lines = answer.at("lines");
+    const std::string problem =
+        lines.empty() ? String(answer, "problem") : String(lines.front(), "text");
+    if (!problem.empty()) {
+        out << problem << "\n\n";
+    }
+}
+
+void PrintSteps(const Json& lines, std::ostream& out) {
+    constexpr std::size_t kReasonColumn = 7;
+    for (std::size_t i = 1; i < lines.size(); ++i) {
         out << std::setw(2) << i << ". " << String(lines[i], "text") << '\n';
+        const std::string note = String(lines[i], "note");
         if (!note.empty()) {
-            out << std::string(kReasonColumn + 2, ' ') << note << '\n';
+            out << std::string(kReasonColumn, ' ') << note << '\n';
         }
     }
 }
 
-void TellMessages(const Json& messages, std::ostream& err) {
-    for (const Json& message : messages) {
+/// Everything that a learner would be told while typing and solving.
+void TellTroubles(const Json& answer, std::ostream& err) {
+    TellRefusedKeys(answer.at("refused"), err);
+    if (!answer.at("solvable").get<bool>()) {
+        err << "The problem is not entered completely, so it was not solved.\n";
+    }
+    for (const Json& message : answer.at("messages")) {
         const std::string title = String(message, "title");
         err << (title.empty() ? "" : title + "  ") << String(message, "text") << '\n';
     }
@@ -71,17 +82,19 @@ int ExitStatus(const Json& answer) {
 
 }  // namespace
 
-int PrintSolved(const Json& answer, std::ostream& out, std::ostream& err) {
+int PrintSolved(const Json& answer, bool asJson, std::ostream& out, std::ostream& err) {
+    if (asJson) {
+        PrintJson(answer, out);
+    }
     if (!Usable(answer)) {
-        return TellUnusable(answer, err);
+        return asJson ? kUnusable : TellUnusable(answer, err);
     }
-    TellRefusedKeys(answer.at("refused"), err);
-    if (!answer.at("solvable").get<bool>()) {
-        err << "The problem is not entered completely, so it was not solved.\n";
+    if (!asJson) {
+        PrintProblem(answer, out);
+        PrintSteps(answer.at("lines"), out);
     }
-    PrintLines(answer.at("lines"), out);
     out << std::flush;
-    TellMessages(answer.at("messages"), err);
+    TellTroubles(answer, err);
     return ExitStatus(answer);
 }
 

@@ -8,7 +8,8 @@
 /// worked or failed, 2 unusable arguments.
 namespace numerello {
 
-int PrintSolved(const Json& answer, std::ostream& out, std::ostream& err);
+/// The working on `out`, as text or as JSON; what was refused or went wrong on `err`.
+int PrintSolved(const Json& answer, bool asJson, std::ostream& out, std::ostream& err);
 int PrintTyped(const Json& answer, std::ostream& out, std::ostream& err);
 int PrintTopics(const Json& answer, std::ostream& out, std::ostream& err);
 

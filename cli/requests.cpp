@@ -11,7 +11,7 @@ namespace {
 
 struct Handler {
     std::string_view name;
-    Json (*handle)(Fields&);
+    void (*handle)(Fields&, Json&);
 };
 
 constexpr std::array kHandlers{
@@ -23,7 +23,7 @@ constexpr std::array kHandlers{
 
 constexpr std::array<std::string_view, 4> kNotBuilt{"columns", "example", "practice-test", "graph"};
 
-Json Handle(const Json& request) {
+void Handle(const Json& request, Json& answer) {
     Fields fields(request);
     fields.Has("id");
     const std::string name = fields.String("do", "");
@@ -31,7 +31,8 @@ Json Handle(const Json& request) {
         std::find_if(kHandlers.begin(), kHandlers.end(),
                      [&name](const auto& each) { return each.name == name; });
     if (handler != kHandlers.end()) {
-        return handler->handle(fields);
+        handler->handle(fields, answer);
+        return;
     }
     if (std::find(kNotBuilt.begin(), kNotBuilt.end(), name) != kNotBuilt.end()) {
         throw BadRequest(Text("\"", name, "\" is not built yet"));
@@ -44,10 +45,9 @@ Json Handle(const Json& request) {
 
 Json Answer(const Json& request, const Json& id) {
     try {
-        const Json handled = Handle(request);
         Json answer;
         answer["id"] = id;
-        answer.update(handled);
+        Handle(request, answer);
         return answer;
     } catch (const BadRequest& bad) {
         return Refusal(id, bad.what());

@@ -23,21 +23,14 @@ struct Entry {
     std::vector<long> lists;
 };
 
-void RejectBackspace(std::string_view name, std::string_view text) {
-    if (text.find(kBackspace) != std::string_view::npos) {
-        throw BadRequest(Text("\"", name, "\" holds a Backspace"));
-    }
-}
-
 Entry ReadEntry(Fields& fields) {
     Entry entry;
     entry.problem = fields.String("problem", "");
     entry.boxes = fields.Strings("boxes", kBoxCount);
     entry.filled = fields.Bool("filled", false);
     entry.lists = fields.Integers("lists", kListCount, EntryBoxes::kNoChoice, kTopListRow);
-    RejectBackspace("problem", entry.problem);
-    for (const std::string& box : entry.boxes) {
-        RejectBackspace("boxes", box);
+    if (entry.problem.find(kBackspace) != std::string::npos) {
+        throw BadRequest("\"problem\" holds a Backspace");
     }
     return entry;
 }
@@ -99,7 +92,7 @@ void RequireSolver(const Problem& problem) {
 
 }  // namespace
 
-Json SolveRequest(Fields& fields) {
+void SolveRequest(Fields& fields, Json& answer) {
     Problem problem;
     ChooseTopic(fields, problem);
     ApplySettings(fields, problem.settings);
@@ -108,24 +101,24 @@ Json SolveRequest(Fields& fields) {
     fields.RejectOthers();
     RequireSolver(problem);
 
-    const Json refused = Enter(problem, entry);
+    Json refused = Enter(problem, entry);
     const bool solvable = problem.controls.SolveEnabled;
     std::optional<FailureKind> failure;
     if (solvable) {
         Stage noStage;
         failure = compute_Click(problem, AllSolvers(), learner, noStage);
     }
-    return {{"ok", true},
-            {"code", problem.topic.ProblemType},
-            {"problem", problem.typed.ProblemText},
-            {"refused", refused},
-            {"solvable", solvable},
-            {"lines", Lines(problem.log)},
-            {"messages", learner.Messages()},
-            {"prompts", learner.Prompts()},
-            {"failure", failure ? Json(FailureName(*failure)) : Json(nullptr)},
-            {"drawing", Json::array()},
-            {"graph", nullptr}};
+    answer["ok"] = true;
+    answer["code"] = problem.topic.ProblemType;
+    answer["problem"] = problem.typed.ProblemText;
+    answer["refused"] = std::move(refused);
+    answer["solvable"] = solvable;
+    answer["lines"] = Lines(problem.log);
+    answer["messages"] = learner.Messages();
+    answer["prompts"] = learner.Prompts();
+    answer["failure"] = failure ? Json(FailureName(*failure)) : Json(nullptr);
+    answer["drawing"] = Json::array();
+    answer["graph"] = nullptr;
 }
 
 }  // namespace numerello

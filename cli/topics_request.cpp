@@ -34,7 +34,7 @@ Json Describe(const Topic& topic, const Clock& clock, RandomSource& random) {
 
 }  // namespace
 
-Json TopicsRequest(Fields& fields) {
+void TopicsRequest(Fields& fields, Json& answer) {
     const int moment = fields.Has("clock") ? ReadMoment(fields.String("clock", ""))
                                            : SystemClock().MinutesAndSeconds();
     AnswerSettings unused;
@@ -46,7 +46,8 @@ Json TopicsRequest(Fields& fields) {
     for (const Topic& topic : Topics()) {
         topics.push_back(Describe(topic, clock, random));
     }
-    return {{"ok", true}, {"topics", topics}};
+    answer["ok"] = true;
+    answer["topics"] = std::move(topics);
 }
 
 }  // namespace numerello

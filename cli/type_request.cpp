@@ -19,7 +19,7 @@ Json TypeKey(Problem& problem, const std::string& key) {
 
 }  // namespace
 
-Json TypeRequest(Fields& fields) {
+void TypeRequest(Fields& fields, Json& answer) {
     Problem problem;
     ChooseTopic(fields, problem);
     ApplySettings(fields, problem.settings);
@@ -34,11 +34,11 @@ Json TypeRequest(Fields& fields) {
     for (const std::string& key : Characters(keys)) {
         judged.push_back(TypeKey(problem, key));
     }
-    return {{"ok", true},
-            {"code", problem.topic.ProblemType},
-            {"keys", judged},
-            {"problem", problem.typed.ProblemText},
-            {"solvable", problem.controls.SolveEnabled}};
+    answer["ok"] = true;
+    answer["code"] = problem.topic.ProblemType;
+    answer["keys"] = std::move(judged);
+    answer["problem"] = problem.typed.ProblemText;
+    answer["solvable"] = problem.controls.SolveEnabled;
 }
 
 }  // namespace numerello

@@ -84,13 +84,13 @@ SampleRequest ReadSample(Fields& fields) {
 
 }  // namespace
 
-Json TypesetRequest(Fields& fields) {
+void TypesetRequest(Fields& fields, Json& answer) {
     const SampleAnswer sample = TypesetSample(ReadSample(fields), PlainMetrics());
-    return {{"ok", true},
-            {"marks", Marks(sample)},
-            {"end", Json::array({Rounded(sample.endX), Rounded(sample.endY)})},
-            {"pages", sample.pagesTurned},
-            {"messages", Messages(sample)}};
+    answer["ok"] = true;
+    answer["marks"] = Marks(sample);
+    answer["end"] = Json::array({Rounded(sample.endX), Rounded(sample.endY)});
+    answer["pages"] = sample.pagesTurned;
+    answer["messages"] = Messages(sample);
 }
 
 }  // namespace numerello

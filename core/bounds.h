@@ -1,7 +1,7 @@
 #pragma once
 
+#include <deque>
 #include <utility>
-#include <vector>
 
 namespace numerello {
 
@@ -9,7 +9,8 @@ namespace numerello {
 void CheckIndex(int index, int top);
 
 /// An array with indexes 0 to Top whose storage grows with use: a cell that was never written
-/// reads as the neutral value. An index outside the bounds throws Failure(Format).
+/// reads as the neutral value. An index outside the bounds throws Failure(Format). References stay
+/// valid while it grows, so that a cell may be copied to a higher one.
 template <class T, int Top>
 class BoundedArray {
   public:
@@ -43,7 +44,7 @@ class BoundedArray {
 
   private:
     T neutral;
-    std::vector<T> cells;
+    std::deque<T> cells;
 };
 
 }  // namespace numerello

@@ -189,7 +189,7 @@ std::string WholeText(std::int64_t value) {
 
 double Round(double value, int places) {
     const double scale = std::pow(10.0, places);
-    const double scaled = value * scale;
+    const double scaled = Checked(value) * scale;
     constexpr double kFirstWithoutFraction = 4503599627370496.0;  // 2^52
     return std::abs(scaled) < kFirstWithoutFraction ? NearestEven(scaled) / scale : value;
 }

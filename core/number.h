@@ -25,6 +25,7 @@ std::string SingleText(float value);
 std::string WholeText(std::int64_t value);
 
 /// Half to even at `places` (0 or more) decimal places, on the value scaled by the power of ten.
+/// Failure(Overflow) for a value that is no finite number.
 double Round(double value, int places);
 
 /// `value`, or Failure(Overflow) when it is no finite number.
@@ -39,7 +40,7 @@ std::int16_t ToInteger16(double value);
 /// Half to even, then Failure(Overflow) outside the 32-bit range.
 std::int32_t ToInteger32(double value);
 
-/// The nearest Single; Failure(Overflow) beyond its range.
+/// The nearest Single; Failure(Overflow) beyond the largest one.
 float ToSingle(double value);
 
 }  // namespace numerello

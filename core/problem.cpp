@@ -40,6 +40,10 @@ void ResetProblem(Problem& problem, bool ClearSteps) {
         problem.log.StepText.Clear();
         problem.log.StepNote.Clear();
         problem.log.StepLevels.Clear();
+        // Else a problem that begins as the last one ended would lose its first line.
+        problem.log.LastStepLine.clear();
+        problem.log.StepReason.clear();
+        problem.log.StepUnchanged = false;
     }
 }
 

@@ -7,6 +7,8 @@ namespace numerello {
 
 namespace {
 
+constexpr int kTopSheet = 9;
+
 struct TrapMessage {
     std::string_view title;
     std::string_view text;
@@ -59,6 +61,9 @@ void PrepareSheet(Problem& problem, Stage& stage) {
 void ClearStepLines(Problem& problem) {
     problem.log.StepCount = 1;
     problem.log.StepText.Clear(1, StepLog::kTopIndex);
+    // The notes stay until they are overwritten, but this one may still hold the instruction, and a
+    // log of one line does not overwrite it.
+    problem.log.StepNote[2].clear();
     problem.playback.ShownStep = problem.settings.mnuShowStep ? 2 : 0;
     problem.playback.ShowAllSteps = !problem.settings.mnuShowStep;
 }
@@ -76,18 +81,22 @@ void Dispatch(Problem& problem, const Solvers& solvers, Learner& learner) {
     solve(run);
 }
 
-/// The state that a failed problem is left in until it is erased: the note is the instruction, and
-/// nothing of the log is shown.
-void EndFailed(Problem& problem) {
-    DropRequests(problem);
-    problem.controls.GraphEnabled = false;
-    problem.playback.ShownStep = 0;
+void Work(Problem& problem, const Solvers& solvers, Learner& learner, Stage& stage) {
+    PrepareSheet(problem, stage);
+    ClearStepLines(problem);
+    Dispatch(problem, solvers, learner);
+    // Thinned before the first line is shown, so that what is played is what stays.
+    ThinSteps(problem.log, problem.settings.DetailLevel);
+    if (problem.log.StepCount > 1) {
+        stage.ShowNextStep();
+    }
 }
 
-std::optional<FailureKind> TrappedDispatch(Problem& problem, const Solvers& solvers,
-                                           Learner& learner) {
+/// The trap around all of a solve.
+std::optional<FailureKind> TrappedWork(Problem& problem, const Solvers& solvers, Learner& learner,
+                                       Stage& stage) {
     try {
-        Dispatch(problem, solvers, learner);
+        Work(problem, solvers, learner, stage);
         return std::nullopt;
     } catch (const Failure& failure) {
         return failure.Kind();
@@ -107,19 +116,19 @@ Solver Solvers::Find(int ProblemType) const {
 
 std::optional<FailureKind> compute_Click(Problem& problem, const Solvers& solvers, Learner& learner,
                                          Stage& stage) {
-    PrepareSheet(problem, stage);
-    ClearStepLines(problem);
-    const std::optional<FailureKind> failure = TrappedDispatch(problem, solvers, learner);
+    const std::optional<FailureKind> failure = TrappedWork(problem, solvers, learner, stage);
     if (failure) {
-        TellFailure(*failure, learner);
-        EndFailed(problem);
-    } else {
-        // Thinned before the first line is shown, so that what is played is what stays.
-        ThinSteps(problem.log, problem.settings.DetailLevel);
-        stage.ShowNextStep();
+        FailSolve(problem, *failure, learner);
     }
     problem.controls.SolveEnabled = false;
     return failure;
+}
+
+void FailSolve(Problem& problem, FailureKind kind, Learner& learner) {
+    TellFailure(kind, learner);
+    DropRequests(problem);
+    problem.controls.GraphEnabled = false;
+    problem.playback.ShownStep = 0;
 }
 
 void EraseProblem(Problem& problem, Stage& stage) {
@@ -133,6 +142,7 @@ void EraseProblem(Problem& problem, Stage& stage) {
     problem.boxes = EntryBoxes();
     problem.playback.LineEndX = 0;
     problem.playback.LineEndY = 0;
+    problem.playback.CurrentPage = std::min(problem.playback.CurrentPage, kTopSheet);
     stage.BlankSheets();
     problem.playback.CurrentPage = 0;
 

@@ -49,10 +49,14 @@ struct Solvers {
 };
 
 /// Works the entered problem: fills the step log, thins it, shows its first line and locks Solve
-/// until the next problem. A failure ends in the learner's message; its kind is returned, and the
+/// until the next problem. Any failure on the way ends in FailSolve; its kind is returned, and the
 /// log keeps what was recorded up to it.
 std::optional<FailureKind> compute_Click(Problem& problem, const Solvers& solvers, Learner& learner,
                                          Stage& stage);
+
+/// Ends a solve that failed, also one that fails while it is played: the learner gets the message
+/// of the failure, nothing more is shown, and all stays locked until the problem is erased.
+void FailSolve(Problem& problem, FailureKind kind, Learner& learner);
 
 /// Wipes problem and sheets: the state in which the topic's entry form opens.
 void EraseProblem(Problem& problem, Stage& stage);

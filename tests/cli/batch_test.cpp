@@ -64,6 +64,38 @@ TEST(Batch, ALineOverOneMebibyteIsRefusedWhole) {
     EXPECT_TRUE(Worked(AnswersTo(lineOf(kMebibyte) + "\r\n")[0]));
 }
 
+TEST(Batch, TheMarkAndTheEndOfALineDoNotCountAsItsLength) {
+    const std::string good(kGood);
+    const std::string mark = "\xEF\xBB\xBF";
+    constexpr std::size_t kMebibyte = 1048576;
+    const std::string longest = good + std::string(kMebibyte - good.size(), ' ');
+    EXPECT_TRUE(Worked(AnswersTo(mark + longest + "\r\n").at(0)));
+    EXPECT_FALSE(Worked(AnswersTo(mark + longest + " \r\n").at(0)));
+    EXPECT_FALSE(Worked(AnswersTo(mark + longest + longest).at(0)));
+    EXPECT_FALSE(Worked(AnswersTo(std::string(2 * kMebibyte, ' ') + good).at(0)));
+}
+
+TEST(Batch, StopsWhenNobodyTakesTheAnswers) {
+    std::istringstream in(std::string(kGood) + "\n" + std::string(kGood) + "\n");
+    std::ostringstream out;
+    out.setstate(std::ios::badbit);
+    RunBatch(in, out, nullptr);
+    EXPECT_EQ(out.str(), "");
+    EXPECT_TRUE(in.good());
+}
+
+TEST(Batch, CountsWhatIsAnsweredForWhoeverWatches) {
+    std::string requests;
+    for (int i = 0; i < 150; ++i) {
+        requests += std::string(kGood) + "\n";
+    }
+    std::istringstream in(requests);
+    std::ostringstream out;
+    std::ostringstream progress;
+    RunBatch(in, out, &progress);
+    EXPECT_EQ(progress.str(), "\r100 requests answered\r150 requests answered\n");
+}
+
 TEST(Batch, ARequestSeesNothingOfTheOneBefore) {
     const std::string solve =
         R"({"do":"solve","code":53,"problem":"40","settings":{"RoundDigits":4}})";

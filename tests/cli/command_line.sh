@@ -50,9 +50,16 @@ prints '"failure":null'
 
 runs 1 solve --topic "Converting Inches To Yards" --problem 4.
 tells "The format of the entered problem was not recognized."
+prints "4."
 runs 1 solve --topic "Converting Inches To Yards" --problem=-
 tells "not solved"
 runs 1 solve --topic "Converting Inches To Yards" --problem=- --json
+tells "not solved"
+runs 1 solve --file none.nrl
+runs 0 solve --topic "Converting Feet To Yards" --problem 3 --answer x --set UseFractions=false \
+    --set mnuShowStep=true
+runs 0 solve --topic "Meter Conversions" --box 4=5 --list 1=1 --list 1=0 --list 2=0
+prints "5 mm = 5 mm"
 
 runs 2 solve --topic "Converting Inches To Parsecs" --problem 40
 tells "unknown topic"
@@ -86,5 +93,15 @@ prints "solve"
 runs 0 --version
 prints "numerello-cli"
 runs 0 batch
+runs 2 learn
+tells "not built yet"
+runs 2 example --topic "Addition" --complex
+tells "not built yet"
+
+if "$cli" topics --json >/dev/full 2>"$err"; then
+    echo "a full disk was not noticed"
+    failed=1
+fi
+tells "could not be written"
 
 exit $failed

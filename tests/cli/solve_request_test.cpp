@@ -100,6 +100,21 @@ TEST(SolveRequest, BoxesAreTypedThroughTheBoxRule) {
     EXPECT_EQ(answer.at("lines").back().at("text"), "1.52 g = 1.52 g");
 }
 
+TEST(SolveRequest, ABackspaceInABoxTakesACharacterBack) {
+    const Json answer = Ask(R"({"do":"solve","code":24,"boxes":["","","","5\b6"],"lists":[3,3]})");
+    EXPECT_TRUE(answer.at("refused").empty());
+    EXPECT_EQ(answer.at("lines").back().at("text"), "6 g = 6 g");
+}
+
+TEST(SolveRequest, RefusedKeysOfTheLineComeBeforeThoseOfTheBoxes) {
+    const Json answer =
+        Ask(R"({"do":"solve","code":24,"problem":"7","boxes":["x","","","5y"],"lists":[3,3]})");
+    const Json expected = {{{"at", 0}, {"key", "7"}, {"why", ""}},
+                           {{"at", 0}, {"key", "x"}, {"why", ""}, {"box", 1}},
+                           {{"at", 1}, {"key", "y"}, {"why", ""}, {"box", 4}}};
+    EXPECT_EQ(answer.at("refused").dump(), expected.dump());
+}
+
 TEST(SolveRequest, FilledBoxesStandAsTheyAre) {
     const Json answer = Ask(
         R"({"do":"solve","code":24,"boxes":["","","","123456789012"],"filled":true,"lists":[3,6]})");

@@ -32,6 +32,13 @@ TEST(BoundedArray, AnIndexPastItsBoundsIsAFormatFailure) {
     EXPECT_THROW(static_cast<void>(std::as_const(lines)[201]), Failure);
 }
 
+TEST(BoundedArray, ACellCanBeCopiedToAHigherOne) {
+    BoundedArray<std::string, 2000> cells;
+    cells[4] = "a text that is too long to be kept in the string itself";
+    cells[1900] = cells[4];
+    EXPECT_EQ(cells[1900], "a text that is too long to be kept in the string itself");
+}
+
 TEST(BoundedArray, ClearsAllOrARange) {
     BoundedArray<std::string, 25> names;
     names[1] = "x";

@@ -30,6 +30,9 @@ TEST(ToNumber, ReadsWhatALearnerTypes) {
     EXPECT_EQ(ToNumber("-.25"), -0.25);
     EXPECT_EQ(ToNumber("+3"), 3);
     EXPECT_EQ(ToNumber(" 12 "), 12);
+    EXPECT_EQ(ToNumber("-0"), 0);
+    EXPECT_EQ(ToNumber("0E400"), 0);
+    EXPECT_EQ(ToNumber("4.9E-324"), std::numeric_limits<double>::denorm_min());
 }
 
 TEST(ToNumber, EmptyTextIsZero) {
@@ -111,6 +114,8 @@ TEST(SingleText, HasSevenSignificantDigits) {
     EXPECT_EQ(SingleText(9999999), "9999999");
     EXPECT_EQ(SingleText(1e7F), "1E+07");
     EXPECT_EQ(SingleText(-2.5F), "-2.5");
+    EXPECT_EQ(SingleText(1e-7F), "0.0000001");
+    EXPECT_EQ(SingleText(1e-8F), "1E-08");
 }
 
 TEST(WholeText, IsDecimal) {
@@ -141,7 +146,10 @@ TEST(Round, LeavesTheRest) {
     EXPECT_EQ(Round(3.336, 2), 3.34);
     EXPECT_EQ(Round(-3.336, 2), -3.34);
     EXPECT_EQ(Round(7, 2), 7);
+    EXPECT_EQ(Round(123456789012.345, 2), 123456789012.34);  // the scaled value is a tie
     EXPECT_EQ(Round(1e300, 5), 1e300);
+    EXPECT_EQ(KindOf([] { Round(INFINITY, 2); }), FailureKind::Overflow);
+    EXPECT_EQ(KindOf([] { Round(NAN, 2); }), FailureKind::Overflow);
     EXPECT_EQ(Round(DBL_MAX, 5), DBL_MAX);
 }
 

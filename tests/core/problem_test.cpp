@@ -23,7 +23,10 @@ TEST(ResetProblem, LeavesNothingTyped) {
     problem.typed.ExprVariants[0] = "x";
     problem.input.EqualsTyped = problem.input.InExponent = problem.input.InFraction = true;
     problem.input.RootOpen = problem.input.AbsOpen = true;
-    problem.input.ParenDepth = 2;
+    problem.input.ParenDepth = problem.input.AbsDepth = problem.input.FractionDepth = 2;
+    problem.input.KeyAccepted = true;
+    problem.input.InputError = "why";
+    problem.typed.DisplayLine = "3x+y";
     problem.log.FreshProblem = false;
 
     ResetProblem(problem, true);
@@ -46,6 +49,11 @@ TEST(ResetProblem, LeavesNothingTyped) {
     EXPECT_FALSE(problem.input.RootOpen);
     EXPECT_FALSE(problem.input.AbsOpen);
     EXPECT_EQ(problem.input.ParenDepth, 0);
+    EXPECT_EQ(problem.input.AbsDepth, 0);
+    EXPECT_EQ(problem.input.FractionDepth, 0);
+    EXPECT_FALSE(problem.input.KeyAccepted);
+    EXPECT_EQ(problem.input.InputError, "");
+    EXPECT_EQ(typed.DisplayLine, "");
     EXPECT_TRUE(problem.log.FreshProblem);
 }
 
@@ -72,6 +80,19 @@ TEST(ResetProblem, ClearsTheStepsOnlyWhenTold) {
     EXPECT_EQ(problem.log.StepText[1], "");
     EXPECT_EQ(problem.log.StepNote[7], "");
     EXPECT_EQ(problem.log.StepLevels[1], 99);
+}
+
+TEST(ResetProblem, ForgetsTheLastRecordedLineWithTheSteps) {
+    Problem problem;
+    problem.log.LastStepLine = "5";
+    problem.log.StepReason = "Subtract 5 from 10.";
+    problem.log.StepUnchanged = true;
+    ResetProblem(problem, false);
+    EXPECT_EQ(problem.log.LastStepLine, "5");
+    ResetProblem(problem, true);
+    EXPECT_EQ(problem.log.LastStepLine, "");
+    EXPECT_EQ(problem.log.StepReason, "");
+    EXPECT_FALSE(problem.log.StepUnchanged);
 }
 
 TEST(ResetProblem, ClearsASideLeftAtOne) {

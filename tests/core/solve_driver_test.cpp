@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -28,12 +29,29 @@ class RecordingLearner : public Learner {
 
 class RecordingStage : public Stage {
   public:
+    explicit RecordingStage(const Problem& problem) : problem(problem) {}
+
     std::vector<std::string> calls;
+    int shownStepCount = 0;  ///< StepCount when the first line was shown
+    int blankedPage = -1;    ///< CurrentPage when the sheets were blanked
+    bool failsToShow = false;
 
     void CloseGraph() override { calls.emplace_back("CloseGraph"); }
     void CloseExplanation() override { calls.emplace_back("CloseExplanation"); }
-    void ShowNextStep() override { calls.emplace_back("ShowNextStep"); }
-    void BlankSheets() override { calls.emplace_back("BlankSheets"); }
+    void ShowNextStep() override {
+        calls.emplace_back("ShowNextStep");
+        shownStepCount = problem.log.StepCount;
+        if (failsToShow) {
+            throw Failure(FailureKind::Overflow);
+        }
+    }
+    void BlankSheets() override {
+        calls.emplace_back("BlankSheets");
+        blankedPage = problem.playback.CurrentPage;
+    }
+
+  private:
+    const Problem& problem;
 };
 
 void WriteTwoLines(SolveRun& run) {
@@ -44,6 +62,8 @@ void WriteTwoLines(SolveRun& run) {
 void FailAfterALine(SolveRun& run, FailureKind kind) {
     run.problem.log.Write("begun", "");
     run.problem.columns.ColumnAdd = true;
+    run.problem.graph.GraphMode = 3;
+    run.problem.playback.DrawingRow = 243;
     run.problem.controls.GraphEnabled = true;
     throw Failure(kind);
 }
@@ -68,6 +88,9 @@ constexpr SolverRow kRows[] = {
          }
      }},
     {20, WriteTwoLines},
+    {59, [](SolveRun&) { throw std::out_of_range("a mistake of ours"); }},
+    {60, [](SolveRun& run) { run.problem.log.Write("5", ""); }},
+    {61, [](SolveRun&) {}},
     {91, RecordFiveLines},
 };
 
@@ -92,7 +115,7 @@ class Compute : public testing::Test {
 
     Problem problem;
     RecordingLearner learner;
-    RecordingStage stage;
+    RecordingStage stage{problem};
 };
 
 TEST_F(Compute, FillsTheLogAndShowsItsFirstLine) {
@@ -149,6 +172,7 @@ TEST_F(Compute, ShowsAllAtOnceWhenUnticked) {
 TEST_F(Compute, ThinsARecordedLogBeforeItIsShown) {
     problem.settings.DetailLevel = 2;
     Solve(91);
+    EXPECT_EQ(stage.shownStepCount, 5);
     EXPECT_EQ(problem.log.StepCount, 5);
     EXPECT_EQ(problem.log.StepText[3], "4");
 }
@@ -180,9 +204,40 @@ TEST_F(Compute, AllElseHasTheFormatMessage) {
               "try again.");
 }
 
+TEST_F(Compute, AMistakeOfOursHasTheFormatMessageToo) {
+    EXPECT_EQ(Solve(59), FailureKind::Format);
+    ASSERT_EQ(learner.messages.size(), 1U);
+    EXPECT_EQ(learner.messages[0].first, "");
+}
+
 TEST_F(Compute, AnUnansweredPromptEndsWithoutAMessage) {
     EXPECT_EQ(Solve(57), FailureKind::Unanswered);
     EXPECT_TRUE(learner.messages.empty());
+    EXPECT_FALSE(problem.controls.SolveEnabled);
+    EXPECT_EQ(problem.playback.ShownStep, 0);
+    EXPECT_EQ(stage.calls, (std::vector<std::string>{"CloseGraph"}));
+}
+
+TEST_F(Compute, AFailureWhileTheFirstLineIsShownIsTrappedToo) {
+    stage.failsToShow = true;
+    EXPECT_EQ(Solve(53), FailureKind::Overflow);
+    ASSERT_EQ(learner.messages.size(), 1U);
+    EXPECT_EQ(learner.messages[0].first, "Overflow!");
+    EXPECT_FALSE(problem.controls.SolveEnabled);
+    EXPECT_EQ(problem.playback.ShownStep, 0);
+}
+
+TEST_F(Compute, ALogOfOneLineHasNoNoteToShow) {
+    problem.log.StepNote[2] = "Enter a number.";
+    Solve(60);
+    EXPECT_EQ(problem.playback.ShownStep, 2);
+    EXPECT_EQ(problem.log.StepNote[2], "");
+    EXPECT_EQ(stage.calls, (std::vector<std::string>{"CloseGraph", "ShowNextStep"}));
+}
+
+TEST_F(Compute, WithoutALineNothingIsShown) {
+    Solve(61);
+    EXPECT_EQ(stage.calls, (std::vector<std::string>{"CloseGraph"}));
 }
 
 TEST_F(Compute, TooManyLinesAreAFormatFailure) {
@@ -202,6 +257,8 @@ TEST_F(Compute, AFailureKeepsTheLogShowsNothingAndStaysLocked) {
     EXPECT_FALSE(problem.playback.TypingEnabled);
     EXPECT_EQ(problem.playback.ShownStep, 0);
     EXPECT_FALSE(problem.columns.ColumnAdd);
+    EXPECT_EQ(problem.graph.GraphMode, 0);
+    EXPECT_EQ(problem.playback.DrawingRow, std::nullopt);
 }
 
 TEST_F(Compute, AnUnfinishedLineFailsBeforeAnyStep) {
@@ -218,6 +275,7 @@ TEST_F(Compute, TheLineOfABoxTopicIsNotLookedAt) {
 TEST_F(Compute, NoTopicSolvesNothingAndLocksSolve) {
     EXPECT_EQ(Solve(0), std::nullopt);
     EXPECT_EQ(problem.log.StepCount, 1);
+    EXPECT_EQ(stage.calls, (std::vector<std::string>{"CloseGraph"}));
     EXPECT_FALSE(problem.controls.SolveEnabled);
     EXPECT_TRUE(learner.messages.empty());
 }
@@ -243,8 +301,12 @@ class Clear : public Compute {
         problem.input.InputError = "why";
         problem.playback.LineEndX = 300;
         problem.playback.LineEndY = 100;
-        problem.playback.CurrentPage = 3;
         Solve();
+        problem.playback.CurrentPage = 12;
+        problem.columns.ColumnMultiply = true;
+        problem.graph.GraphMode = 2;
+        problem.playback.DrawingRow = 243;
+        problem.controls.Pencil = EntryControls::PencilPicture::Eraser;
         learner.messages.clear();
         stage.calls.clear();
     }
@@ -272,7 +334,11 @@ TEST_F(Clear, WipesTheProblem) {
     EXPECT_EQ(problem.playback.LineEndX, 0);
     EXPECT_EQ(problem.playback.LineEndY, 0);
     EXPECT_EQ(problem.playback.CurrentPage, 0);
+    EXPECT_EQ(stage.blankedPage, 9);
     EXPECT_EQ(stage.calls, (std::vector<std::string>{"CloseExplanation", "BlankSheets"}));
+    EXPECT_FALSE(problem.columns.ColumnMultiply);
+    EXPECT_EQ(problem.graph.GraphMode, 0);
+    EXPECT_EQ(problem.playback.DrawingRow, std::nullopt);
 }
 
 TEST_F(Clear, LocksTheCommandsAndUnlocksTyping) {
@@ -283,6 +349,7 @@ TEST_F(Clear, LocksTheCommandsAndUnlocksTyping) {
     EXPECT_FALSE(problem.controls.GraphEnabled);
     EXPECT_EQ(problem.controls.Light, EntryControls::LightPicture::Neutral);
     EXPECT_EQ(problem.controls.LightToolTip, "Click the red light for incorrect input details.");
+    EXPECT_EQ(problem.controls.Pencil, EntryControls::PencilPicture::Pencil);
     EXPECT_TRUE(problem.playback.TypingEnabled);
 }
 
@@ -292,7 +359,7 @@ TEST_F(Clear, TheInstructionIsTheNoteAgain) {
     EXPECT_EQ(problem.playback.ShownStep, 7);
     EXPECT_EQ(problem.log.StepNote[7], "Enter a number.  Example: 8");
     EXPECT_EQ(problem.log.StepNote[0], "Enter a number.  Example: 8");
-    EXPECT_EQ(problem.log.StepNote[1], "");
+    EXPECT_EQ(problem.log.StepNote[2], "");
 }
 
 }  // namespace

@@ -168,5 +168,23 @@ TEST(FractionTest, EachPartHoldsFiftyCharacters) {
     EXPECT_EQ(answer.marks.size(), 150U);
 }
 
+TEST(FractionTest, BracketsAndBlanksDoNotCountAsWidth) {
+    // One against three, and two against four: two blanks in front of the shorter part.
+    const SampleAnswer brackets = OnPaper("#[1]/234#");
+    EXPECT_NEAR(TextAt(brackets, 0).x, kMargin + 2 * kBlank, 1e-9);
+    EXPECT_EQ(TextAt(brackets, 0).color, kRed);
+    EXPECT_NEAR(TextAt(OnPaper("#1  2/3456#"), 0).x, kMargin + 2 * kBlank, 1e-9);
+}
+
+TEST(FractionTest, ASlashInsideAnExponentSplitsToo) {
+    // The last "/" decides: "x^1/2^" over "3". Without the carets four characters count against
+    // one, so the denominator gets 2 * (4 - 1 - 1) blanks.
+    const SampleAnswer answer = OnPaper("#x^1/2^/3#");
+    EXPECT_EQ(TextAt(answer, 0).text, "x");
+    EXPECT_EQ(TextAt(answer, 1).text, "1/2");
+    EXPECT_EQ(TextAt(answer, 2).text, "3");
+    EXPECT_NEAR(TextAt(answer, 2).x, kMargin + 4 * kBlank, 1e-9);
+}
+
 }  // namespace
 }  // namespace numerello

@@ -102,5 +102,28 @@ TEST(TroubleTest, InvalidBytesStandAlone) {
     ExpectMessages(answer, 0);
 }
 
+TEST(TroubleTest, AnOpenMarkerBehindAWrapEndsOnTheNewRow) {
+    // 740 + 12 and two characters are 767.8, past 765: the base goes from 12 to 24.
+    const SampleAnswer answer = Typeset({.target = TypesetTarget::Print, .text = "xx#1", .x = 740});
+    EXPECT_EQ(answer.messages.size(), 1U);
+    EXPECT_NEAR(answer.endX, 0, 1e-9);
+    EXPECT_NEAR(answer.endY, 24 + kLine, 1e-9);
+}
+
+TEST(TroubleTest, WhatAnInnerConstructDrewBeforeItFailedStays) {
+    // The caret in the root has no partner: "a" is drawn, and the line goes on behind the fraction.
+    const SampleAnswer answer = OnPaper("#~a^b~/2#c");
+    EXPECT_EQ(answer.messages.size(), 1U);
+    ASSERT_EQ(answer.marks.size(), 2U);
+    EXPECT_EQ(TextAt(answer, 0).text, "a");
+    EXPECT_EQ(TextAt(answer, 1).text, "c");
+    EXPECT_NEAR(TextAt(answer, 1).y, kBase, 1e-9);
+}
+
+TEST(TroubleTest, ACutInsideAConstructGivesASecondMessage) {
+    const std::string tooLong = std::string(2999, 'x') + "#1/2#";
+    EXPECT_EQ(Typeset({.target = TypesetTarget::Preview, .text = tooLong}).messages.size(), 2U);
+}
+
 }  // namespace
 }  // namespace numerello

@@ -1,14 +1,14 @@
 #include <gtest/gtest.h>
 
-#include <QGuiApplication>
+#include <QApplication>
 
 #include "ui/font_metrics.h"
 
-/// Fonts and painting need the toolkit's application object, but no screen.
+/// Fonts, painting and windows need the toolkit's application object, but no screen.
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
+    const QApplication application(argc, argv);
     if (!numerello::LoadSheetFont()) {
         qCritical("VantrelFont cannot be used");
         return 1;

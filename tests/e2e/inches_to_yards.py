@@ -1,0 +1,72 @@
+#!/usr/bin/env python3
+"""A learner with a keyboard alone: chooses a topic, types a problem, plays it to the check mark."""
+
+import sys
+
+import screen
+
+TOPIC = "Converting Inches To Yards"
+LINES = [
+    "40",
+    "To convert inches to yards, first convert inches to feet:",
+    "There are 12 inches in a foot.",
+    "To convert inches to feet, divide the number of inches (40) by 12:",
+    "40 inches = 3.33 feet",
+    "There are 3 feet in a yard.",
+    "To convert feet to yards, divide the number of feet (3.33) by 3:",
+    "3.33 feet = 1.11 yards",
+    "40 inches = 1.11 yards",
+]
+
+
+def sheet_lines():
+    sheet = screen.find(TOPIC)
+    return sheet.get_description().split("\n") if sheet else []
+
+
+def expect_lines(count):
+    screen.until(
+        lambda: sheet_lines() == LINES[:count],
+        f"the first {count} lines on the sheet; it holds {sheet_lines()}",
+    )
+
+
+def main():
+    program, pictures = sys.argv[1:]
+    with screen.Screen(program, pictures) as desk:
+        desk.open_program()
+        desk.wait_for_window("Choose problem type:")
+        desk.picture("chooser-topic")
+        nameless = screen.showing_without_name()
+        assert not nameless, f"in the chooser, without a name: {nameless}"
+        desk.key("ctrl+Tab")
+        desk.type("converting inches to y")
+        desk.picture("chooser-index")
+        desk.key("Return")
+
+        desk.wait_for_window("Vantrel - Numerello")
+        screen.until(lambda: screen.find(TOPIC), "the sheet")
+        desk.picture("empty-sheet")
+        nameless = screen.showing_without_name()
+        assert not nameless, f"on the sheet, without a name: {nameless}"
+
+        desk.type("4+0")
+        expect_lines(1)
+        desk.key("Return")
+        for shown in range(2, len(LINES) + 1):
+            expect_lines(shown)
+            if shown == 5:
+                desk.picture("half-played")
+            if shown < len(LINES):
+                assert screen.find("Next Step"), f"no arrow behind line {shown}"
+                desk.key("Return")
+        screen.until(lambda: not screen.find("Next Step"), "the arrow to go")
+        desk.picture("finished")
+
+        desk.key("ctrl+q")
+        assert desk.exit_status() == 0
+    print("inches to yards: played to the check mark")
+
+
+if __name__ == "__main__":
+    main()

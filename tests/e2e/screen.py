@@ -1,0 +1,151 @@
+"""A screen of our own with a window manager, the real program on it, and hands to use it."""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import tempfile
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi  # noqa: E402
+
+KEY_DELAY_MS = 12
+
+
+class Screen:
+    """Starts Xvfb, openbox and the program; ends them all when left."""
+
+    def __init__(self, program, pictures, size="1280x800", environment=None):
+        self.program = program
+        self.pictures = pathlib.Path(pictures)
+        self.pictures.mkdir(parents=True, exist_ok=True)
+        self.size = size
+        self.environment = environment or {}
+        self.children = []
+
+    def __enter__(self):
+        self.home = tempfile.mkdtemp(prefix="numerello-e2e-")
+        read, write = os.pipe()
+        self._start(
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{self.size}x24", "-nolisten", "tcp"],
+            pass_fds=(write,),
+        )
+        os.close(write)
+        with os.fdopen(read) as number:
+            os.environ["DISPLAY"] = ":" + number.readline().strip()
+        os.environ.update(
+            {
+                "QT_QPA_PLATFORM": "xcb",
+                "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+                "HOME": self.home,
+                "XDG_CONFIG_HOME": self.home + "/config",
+                "XDG_RUNTIME_DIR": self.home,
+                **self.environment,
+            }
+        )
+        self._start(["openbox", "--sm-disable"])
+        return self
+
+    def __exit__(self, *_):
+        for child in reversed(self.children):
+            child.terminate()
+        for child in reversed(self.children):
+            try:
+                child.wait(5)
+            except subprocess.TimeoutExpired:
+                child.kill()
+        shutil.rmtree(self.home, ignore_errors=True)
+
+    def _start(self, command, **options):
+        child = subprocess.Popen(
+            command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **options
+        )
+        self.children.append(child)
+        return child
+
+    def open_program(self, *arguments):
+        self.run = subprocess.Popen([self.program, *arguments])
+        self.children.append(self.run)
+
+    def exit_status(self, seconds=10):
+        return self.run.wait(seconds)
+
+    def wait_for_window(self, title, seconds=15):
+        """Waits until a window of that title has the focus."""
+        return until(lambda: self._active_title() == title, f"the window {title!r}", seconds)
+
+    def _active_title(self):
+        found = subprocess.run(
+            ["xdotool", "getactivewindow", "getwindowname"], capture_output=True, text=True
+        )
+        return found.stdout.strip()
+
+    def type(self, text):
+        subprocess.run(["xdotool", "type", "--delay", str(KEY_DELAY_MS), text], check=True)
+
+    def key(self, *names):
+        subprocess.run(["xdotool", "key", "--delay", str(KEY_DELAY_MS), *names], check=True)
+
+    def click(self, x, y):
+        subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True)
+
+    def picture(self, name):
+        subprocess.run(["scrot", "-o", str(self.pictures / f"{name}.png")], check=True)
+
+
+def until(condition, what, seconds=10):
+    """The condition's first true value; fails when there is none in time."""
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        value = condition()
+        if value:
+            return value
+        time.sleep(0.05)
+    raise AssertionError(f"waited {seconds} s for {what}")
+
+
+def accessibles(root=None):
+    """Every object of the program's accessibility tree."""
+    if root is None:
+        desktop = Atspi.get_desktop(0)
+        roots = [desktop.get_child_at_index(i) for i in range(desktop.get_child_count())]
+    else:
+        roots = [root]
+    for each in roots:
+        if each is None:
+            continue
+        yield each
+        for i in range(each.get_child_count()):
+            child = each.get_child_at_index(i)
+            if child is not None:
+                yield from accessibles(child)
+
+
+def find(name, role=None):
+    """The showing object of that accessible name, None when there is none."""
+    for each in accessibles():
+        try:
+            if each.get_name() != name or (role and each.get_role_name() != role):
+                continue
+            if each.get_state_set().contains(Atspi.StateType.SHOWING):
+                return each
+        except Exception:  # objects may vanish while they are looked at
+            continue
+    return None
+
+
+def showing_without_name():
+    """The showing objects that take the focus but have no name."""
+    nameless = []
+    for each in accessibles():
+        states = each.get_state_set()
+        if (
+            states.contains(Atspi.StateType.SHOWING)
+            and states.contains(Atspi.StateType.FOCUSABLE)
+            and not each.get_name()
+        ):
+            nameless.append(f"{each.get_role_name()} {each.get_description()}".strip())
+    return nameless

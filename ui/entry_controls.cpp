@@ -1,0 +1,133 @@
+#include "ui/entry_controls.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeyEvent>
+
+#include "catalogue/box_keys.h"
+#include "catalogue/guided_input.h"
+#include "core/text.h"
+#include "ui/text.h"
+
+namespace numerello {
+
+namespace {
+
+constexpr int kNarrow = 54;
+constexpr int kNarrowLength = 3;
+constexpr int kCharacterStep = 12;
+constexpr int kHeight = 30;
+
+int WidthFor(qsizetype length) {
+    return length <= kNarrowLength
+               ? kNarrow
+               : kNarrow + static_cast<int>(length - kNarrowLength) * kCharacterStep;
+}
+
+bool IsShortcut(const QKeyEvent& event) {
+    return (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+}
+
+}  // namespace
+
+EntryBox::EntryBox(int number, Problem& problem, QWidget* sheet)
+    : QLineEdit(sheet), number(number), problem(problem) {
+    setObjectName(QStringLiteral("Text%1").arg(number));
+    setAttribute(Qt::WA_InputMethodEnabled, false);
+    setFixedSize(kNarrow, kHeight);
+    QFont digits(QStringLiteral("VantrelFont"));
+    digits.setPixelSize(18);
+    setFont(digits);
+    ShowText();
+}
+
+void EntryBox::ShowText() {
+    const std::string& text = problem.boxes.Text[static_cast<std::size_t>(number) - 1];
+    setText(ToQString(text));
+    setCursorPosition(static_cast<int>(text.size()));
+    setFixedWidth(WidthFor(static_cast<qsizetype>(text.size())));
+}
+
+void EntryBox::Type(const QString& keys) {
+    bool any = false;
+    for (const std::string& key : Characters(keys.toStdString())) {
+        any = BoxKey(problem, number, key) || any;
+    }
+    if (any) {
+        ShowText();
+        emit Typed();
+    }
+}
+
+void EntryBox::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        event->ignore();
+    } else if (event->matches(QKeySequence::Paste)) {
+        Type(QGuiApplication::clipboard()->text());
+    } else if (event->key() == Qt::Key_Backspace) {
+        Type(ToQString(kBackspace));
+    } else if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab ||
+               event->key() == Qt::Key_Escape || IsShortcut(*event) || event->text().isEmpty()) {
+        event->ignore();
+    } else {
+        Type(event->text());
+    }
+}
+
+void EntryBox::mousePressEvent(QMouseEvent* /*event*/) {
+    end(false);
+}
+
+void EntryBox::mouseMoveEvent(QMouseEvent* /*event*/) {}
+
+void EntryBox::mouseDoubleClickEvent(QMouseEvent* /*event*/) {}
+
+void EntryBox::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    end(false);
+}
+
+void EntryBox::contextMenuEvent(QContextMenuEvent* event) {
+    event->ignore();
+}
+
+EntryList::EntryList(int number, Problem& problem, QWidget* sheet)
+    : QComboBox(sheet), number(number), problem(problem) {
+    setObjectName(QStringLiteral("Combo%1").arg(number));
+    setPlaceholderText(QStringLiteral("Select a choice from the list."));
+    setFixedHeight(kHeight);
+    connect(this, &QComboBox::activated, this, &EntryList::Choose);
+}
+
+void EntryList::ShowChoice() {
+    setCurrentIndex(problem.boxes.ListIndex[static_cast<std::size_t>(number) - 1]);
+}
+
+void EntryList::Choose(int row) {
+    problem.boxes.ListIndex[static_cast<std::size_t>(number) - 1] = row;
+    problem.topic.ClickedOnly = true;
+    CheckBoxesReady(problem);
+    emit Chosen();
+}
+
+void EntryList::showPopup() {
+    if (!Locked()) {
+        QComboBox::showPopup();
+    }
+}
+
+void EntryList::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter || Locked()) {
+        event->ignore();
+        return;
+    }
+    QComboBox::keyPressEvent(event);
+}
+
+void EntryList::wheelEvent(QWheelEvent* event) {
+    // A wheel over the sheet scrolls the desk; it must not change what was entered.
+    event->ignore();
+}
+
+}  // namespace numerello

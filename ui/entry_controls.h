@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QComboBox>
+#include <QLineEdit>
+
+#include "core/problem.h"
+
+namespace numerello {
+
+/// One of the boxes Text1 to Text6. Every key, also a pasted one, goes through the box rule; the
+/// caret stays at the end, and the box widens with its text.
+class EntryBox : public QLineEdit {
+    Q_OBJECT
+
+  public:
+    EntryBox(int number, Problem& problem, QWidget* sheet);
+
+    /// Takes over the text that the problem holds.
+    void ShowText();
+
+  signals:
+    void Typed();
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+  private:
+    void Type(const QString& keys);
+
+    int number;
+    Problem& problem;
+};
+
+/// One of the lists Combo1 to Combo3. Once the problem is solved it shows its choice and takes
+/// none.
+class EntryList : public QComboBox {
+    Q_OBJECT
+
+  public:
+    EntryList(int number, Problem& problem, QWidget* sheet);
+
+    void ShowChoice();
+
+  signals:
+    void Chosen();
+
+  protected:
+    void showPopup() override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    void Choose(int row);
+    bool Locked() const { return !problem.playback.TypingEnabled; }
+
+    int number;
+    Problem& problem;
+};
+
+}  // namespace numerello

@@ -1,0 +1,60 @@
+#include "ui/frm_logo.h"
+
+#include <QCloseEvent>
+#include <QPainter>
+#include <chrono>
+
+#include "ui/artwork.h"
+#include "ui/font_metrics.h"
+
+namespace numerello {
+
+namespace {
+
+constexpr QSize kSize(480, 300);
+constexpr std::chrono::milliseconds kShown(1000);
+constexpr QColor kInk(0x2B, 0x3A, 0x55);
+
+}  // namespace
+
+FrmLogo::FrmLogo() : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint) {
+    setObjectName(QStringLiteral("frmLogo"));
+    setWindowTitle(QStringLiteral("Vantrel - Numerello"));
+    setAccessibleName(QStringLiteral("Numerello"));
+    setFixedSize(kSize);
+    logotime.setObjectName(QStringLiteral("logotime"));
+    logotime.setSingleShot(true);
+    connect(&logotime, &QTimer::timeout, this, &QWidget::close);
+    logotime.start(kShown);
+}
+
+void FrmLogo::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, Artwork(QStringLiteral("splash"), kSize, devicePixelRatioF()));
+    QFont face(QStringLiteral("VantrelFont"));
+    face.setPixelSize(52);
+    painter.setFont(face);
+    painter.setPen(kInk);
+    painter.drawText(QRect(76, 200, 380, 64), Qt::AlignLeft | Qt::AlignVCenter,
+                     QStringLiteral("Numerello"));
+    face.setPixelSize(17);
+    painter.setFont(face);
+    painter.drawText(QRect(78, 258, 380, 26), Qt::AlignLeft | Qt::AlignVCenter,
+                     QStringLiteral("Mathematics, line by line"));
+}
+
+void FrmLogo::keyPressEvent(QKeyEvent* /*event*/) {
+    close();
+}
+
+void FrmLogo::mousePressEvent(QMouseEvent* /*event*/) {
+    close();
+}
+
+void FrmLogo::closeEvent(QCloseEvent* event) {
+    logotime.stop();
+    event->accept();
+    emit Closed();
+}
+
+}  // namespace numerello

@@ -1,0 +1,290 @@
+#include "ui/frm_main.h"
+
+#include <QGuiApplication>
+#include <QMenuBar>
+#include <QScreen>
+#include <QSet>
+#include <QToolBar>
+#include <QToolButton>
+#include <array>
+
+#include "catalogue/chooser.h"
+#include "ui/artwork.h"
+#include "ui/desk.h"
+#include "ui/frm_select.h"
+#include "ui/pointer.h"
+
+namespace numerello {
+
+namespace {
+
+constexpr QSize kOpeningSize(1100, 800);
+constexpr QSize kSmallestSize(640, 480);
+constexpr int kCaptionHeight = 32;  ///< what the desktop adds above a window, at a guess
+constexpr int kPictureSize = 48;
+
+struct Entry {
+    const char* name;
+    const char* caption;
+    const char* shortcut = "";
+    bool ticks = false;
+};
+
+/// An entry without a caption is a separator.
+constexpr Entry kSeparator{"", ""};
+
+struct Menu {
+    const char* name;
+    const char* caption;
+    std::array<Entry, 10> entries;
+    int count;  ///< of the entries, separators included
+};
+
+constexpr std::array kMenus{
+    Menu{"mnuFile",
+         "&File",
+         {Entry{"mnuNew", "&New Problem", "Ctrl+N"}, kSeparator,
+          Entry{"mnuPrint", "&Print", "Ctrl+P"}, Entry{"mnuPrintSetup", "P&rint Setup"}, kSeparator,
+          Entry{"mnuSave", "Save Problem", "Ctrl+S"}, Entry{"mnuLoad", "Load Problem", "Ctrl+O"},
+          kSeparator, Entry{"mnuExit", "&Exit", "Ctrl+Q"}},
+         9},
+    Menu{"mnuCreate",
+         "&Tools",
+         {Entry{"mnuSolve", "&Solve!"}, Entry{"mnuExample", "E&xample Problem"},
+          Entry{"mnuErase", "Erase &Problem"}, kSeparator, Entry{"mnuGraph", "Create &Graph"},
+          Entry{"mnuPracticeTest", "Practice &Test"}, kSeparator, Entry{"mnuExp", "&Explanation"}},
+         8},
+    Menu{"mnuSpecial",
+         "&Functions",
+         {Entry{"mnuSquareRoot", "Square &Root"}, Entry{"mnuExponet", "&Exponent (^)"},
+          Entry{"mnuAbsValue", "Absolute &Value (|)"}, Entry{"mnuAddition", "&Add (+)"},
+          Entry{"mnuSubtraction", "&Subtract (-)"}, Entry{"mnuMultiplication", "&Multiply (*)"},
+          Entry{"mnuDivision", "&Divide (/)"}, kSeparator,
+          Entry{"mnuConvertDF", "&Fraction/Decimal Conversion"}},
+         9},
+    Menu{"mnuOptions",
+         "&Options",
+         {Entry{"mnuPencil", "Use &Pencil", "", true},
+          Entry{"mnuShowStep", "&Show Step-By-Step", "", true},
+          Entry{"mnuHideWiz", "Show &Wiz Assistant", "", true},
+          Entry{"mnuShowLight", "Show &Guided Input Light", "", true}, kSeparator,
+          Entry{"mnuChange", "Se&ttings"}},
+         6},
+    Menu{"mnuHelp",
+         "&Help",
+         {Entry{"mnuHelpTopics", "Help Topics", "F1"}, Entry{"mnuOnlineSupport", "Online Support"},
+          kSeparator, Entry{"mnuAbout", "&About Numerello"}},
+         4},
+};
+
+struct WebEntry {
+    const char* name;
+    const char* caption;
+};
+constexpr std::array kWebEntries{WebEntry{"mnuAlgSol", "Numerello &Solved!"},
+                                 WebEntry{"mnuHomePage", "Vantrel &Home Page"}};
+
+/// A button of the toolbar: its key, and the menu entry that it stands for. An empty key is a
+/// separator.
+struct Button {
+    const char* key;
+    const char* command;
+    const char* toolTip;
+};
+
+constexpr std::array kButtons{
+    Button{"new", "mnuNew", "New Problem"},
+    Button{"", "", ""},
+    Button{"save", "mnuSave", "Save Problem"},
+    Button{"open", "mnuLoad", "Load Problem"},
+    Button{"print", "mnuPrint", "Print"},
+    Button{"", "", ""},
+    Button{"practice", "mnuPracticeTest", "Practice Test"},
+    Button{"graph", "mnuGraph", "Graph"},
+    Button{"", "", ""},
+    Button{"solve", "mnuSolve", "Solve!"},
+    Button{"", "", ""},
+    Button{"example", "mnuExample", "Example"},
+    Button{"clear", "mnuErase", "Erase"},
+    Button{"", "", ""},
+    Button{"root", "mnuSquareRoot", "Insert Root"},
+    Button{"power", "mnuExponet", "Insert Exponent"},
+    Button{"", "", ""},
+    Button{"fracdec", "mnuConvertDF", "Convert Between Fraction and Decimal Format"},
+    Button{"", "", ""},
+    Button{"web", "mnuHomePage", "Vantrel on the Web"},
+};
+
+}  // namespace
+
+FrmMain::FrmMain() {
+    setObjectName(QStringLiteral("frmMain"));
+    setWindowTitle(QStringLiteral("Vantrel - Numerello"));
+    setMinimumSize(kSmallestSize);
+    setCentralWidget(new Desk(this));
+    MakeMenus();
+    MakeToolbar();
+
+    Command("mnuShowStep")->setChecked(problem.settings.mnuShowStep);
+    Command("mnuShowLight")->setChecked(true);
+    OnTrigger("mnuNew", &FrmMain::mnuNew_Click);
+    OnTrigger("mnuSolve", &FrmMain::mnuSolve_Click);
+    OnTrigger("mnuErase", &FrmMain::mnuErase_Click);
+    OnTrigger("mnuShowStep", &FrmMain::mnuShowStep_Click);
+    OnTrigger("mnuShowLight", &FrmMain::mnuShowLight_Click);
+    OnTrigger("mnuConvertDF", &FrmMain::mnuConvertDF_Click);
+    OnTrigger("mnuExit", &FrmMain::mnuExit_Click);
+    ShowNumberForm();
+    UpdateCommands();
+}
+
+void FrmMain::Open() {
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    if (screen.width() < kOpeningSize.width() ||
+        screen.height() < kOpeningSize.height() + kCaptionHeight) {
+        showMaximized();
+        return;
+    }
+    QRect place(QPoint(), kOpeningSize);
+    place.moveCenter(screen.center());
+    setGeometry(place);
+    show();
+}
+
+void FrmMain::MakeMenus() {
+    for (const Menu& menu : kMenus) {
+        QMenu* made = menuBar()->addMenu(QString::fromUtf8(menu.caption));
+        made->setObjectName(QString::fromUtf8(menu.name));
+        for (int i = 0; i < menu.count; ++i) {
+            const Entry& entry = menu.entries[static_cast<std::size_t>(i)];
+            if (*entry.name == '\0') {
+                made->addSeparator();
+                continue;
+            }
+            QAction* action = made->addAction(QString::fromUtf8(entry.caption));
+            action->setObjectName(QString::fromUtf8(entry.name));
+            action->setShortcut(QKeySequence(QString::fromUtf8(entry.shortcut)));
+            action->setCheckable(entry.ticks);
+            action->setIconVisibleInMenu(false);
+            commands.insert(action->objectName(), action);
+        }
+        if (made->objectName() == QLatin1String("mnuHelp")) {
+            auto* web = new QMenu(QStringLiteral("Vantrel on the &Web"), made);
+            web->setObjectName(QStringLiteral("mnuWeb"));
+            for (const WebEntry& entry : kWebEntries) {
+                QAction* action = web->addAction(QString::fromUtf8(entry.caption));
+                action->setObjectName(QString::fromUtf8(entry.name));
+                action->setIconVisibleInMenu(false);
+                commands.insert(action->objectName(), action);
+            }
+            made->insertMenu(Command("mnuOnlineSupport"), web);
+        }
+    }
+}
+
+void FrmMain::MakeToolbar() {
+    auto* toolbar = addToolBar(QStringLiteral("Toolbar"));
+    toolbar->setObjectName(QStringLiteral("Toolbar1"));
+    toolbar->setMovable(false);
+    toolbar->setIconSize({kPictureSize, kPictureSize});
+    toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
+    for (const Button& button : kButtons) {
+        if (*button.key == '\0') {
+            toolbar->addSeparator();
+            continue;
+        }
+        QAction* action = Command(button.command);
+        action->setIcon(ToolbarIcon(QString::fromUtf8(button.key)));
+        action->setToolTip(QString::fromUtf8(button.toolTip));
+        toolbar->addAction(action);
+        QWidget* widget = toolbar->widgetForAction(action);
+        widget->setObjectName(QString::fromUtf8(button.key));
+        widget->setAccessibleName(QString::fromUtf8(button.toolTip));
+        // Keys go on to the sheet after a click on a button.
+        widget->setFocusPolicy(Qt::NoFocus);
+    }
+}
+
+void FrmMain::OnTrigger(const char* name, void (FrmMain::*procedure)()) {
+    connect(Command(name), &QAction::triggered, this, [this, procedure] { (this->*procedure)(); });
+}
+
+void FrmMain::mnuNew_Click() {
+    const SavedTopic saved(problem.topic);
+    std::vector<TreeNode> nodes;
+    {
+        const PointerGuard busy(Qt::BusyCursor);
+        nodes = BuildTopicTree(problem.topic, true);
+    }
+    FrmSelect chooser(problem.topic, std::move(nodes), clock, random, this);
+    chooser.exec();
+    if (!saved.RestoreWhenCancelled(problem.topic)) {
+        LoadPaper();
+    }
+}
+
+void FrmMain::LoadPaper() {
+    // The old form goes first: it plays the same problem.
+    delete takeCentralWidget();
+    paper = new FrmPaper(problem, learner, this);
+    setCentralWidget(paper);
+    paper->ShowLight(Command("mnuShowLight")->isChecked());
+    connect(paper, &FrmPaper::Changed, this, &FrmMain::UpdateCommands);
+    paper->setFocus();
+    UpdateCommands();
+}
+
+void FrmMain::UpdateCommands() {
+    const bool open = paper != nullptr;
+    QSet<QString> enabled{QStringLiteral("mnuNew"), QStringLiteral("mnuConvertDF"),
+                          QStringLiteral("mnuShowStep"), QStringLiteral("mnuShowLight"),
+                          QStringLiteral("mnuExit")};
+    if (open) {
+        enabled.insert(QStringLiteral("mnuErase"));
+    }
+    if (open && problem.controls.SolveEnabled) {
+        enabled.insert(QStringLiteral("mnuSolve"));
+    }
+    for (QAction* action : std::as_const(commands)) {
+        action->setEnabled(enabled.contains(action->objectName()));
+    }
+}
+
+void FrmMain::ShowNumberForm() {
+    const bool fractions = problem.settings.UseFractions;
+    Command("mnuConvertDF")
+        ->setIcon(ToolbarIcon(fractions ? QStringLiteral("fracdec") : QStringLiteral("fracdec2")));
+}
+
+void FrmMain::mnuSolve_Click() {
+    paper->compute_Click();
+}
+
+void FrmMain::mnuErase_Click() {
+    paper->clear_Click();
+}
+
+void FrmMain::mnuShowStep_Click() {
+    const bool ticked = Command("mnuShowStep")->isChecked();
+    problem.settings.mnuShowStep = ticked;
+    if (paper != nullptr) {
+        paper->mnuShowStep_Click(ticked);
+    }
+}
+
+void FrmMain::mnuShowLight_Click() {
+    if (paper != nullptr) {
+        paper->ShowLight(Command("mnuShowLight")->isChecked());
+    }
+}
+
+void FrmMain::mnuConvertDF_Click() {
+    problem.settings.UseFractions = !problem.settings.UseFractions;
+    ShowNumberForm();
+}
+
+void FrmMain::mnuExit_Click() {
+    close();
+}
+
+}  // namespace numerello

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QMap>
+
+#include "core/clock.h"
+#include "core/problem.h"
+#include "core/random_source.h"
+#include "ui/frm_paper.h"
+#include "ui/window_learner.h"
+
+namespace numerello {
+
+/// The frame: menu bar, toolbar, and the entry form as its content.
+class FrmMain : public QMainWindow {
+    Q_OBJECT
+
+  public:
+    FrmMain();
+
+    /// Shows the frame in the middle of the screen, or as large as a smaller screen.
+    void Open();
+
+    void mnuNew_Click();
+
+    const Problem& CurrentProblem() const { return problem; }
+
+  private:
+    void MakeMenus();
+    void MakeToolbar();
+    QAction* Command(const char* name) const { return commands.value(QLatin1String(name)); }
+    void OnTrigger(const char* name, void (FrmMain::*procedure)());
+    void LoadPaper();
+    void UpdateCommands();
+    void ShowNumberForm();
+
+    void mnuSolve_Click();
+    void mnuErase_Click();
+    void mnuShowStep_Click();
+    void mnuShowLight_Click();
+    void mnuConvertDF_Click();
+    void mnuExit_Click();
+
+    Problem problem;
+    SystemClock clock;
+    MersenneSource random;
+    WindowLearner learner{this};
+    FrmPaper* paper = nullptr;
+    QMap<QString, QAction*> commands;  ///< by control name
+};
+
+}  // namespace numerello

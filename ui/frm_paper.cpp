@@ -1,0 +1,322 @@
+#include "ui/frm_paper.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <chrono>
+
+#include "app/solvers.h"
+#include "catalogue/guided_input.h"
+#include "core/text.h"
+#include "topics/conversions.h"
+#include "ui/artwork.h"
+#include "ui/desk.h"
+#include "ui/pointer.h"
+#include "ui/text.h"
+
+namespace numerello {
+
+namespace {
+
+constexpr std::chrono::milliseconds kFlash(400);
+constexpr double kTypedLineLimit = 730;
+
+constexpr QSize kSheetSize(800, 657);
+constexpr QSize kLightSize(48, 120);
+constexpr int kLightTop = 24;
+
+constexpr int kMeterTopic = 23;
+constexpr int kGramTopic = 24;
+constexpr QPoint kValuePlace(67, 72);
+constexpr QPoint kFromPlace(67, 122);
+constexpr QPoint kToPlace(350, 122);
+constexpr QPoint kToLabelPlace(318, 122);
+constexpr int kListWidth = 236;
+
+bool IsShortcut(const QKeyEvent& event) {
+    return (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+}
+
+/// What a key types on the line. A dead accent counts as its character at once.
+QString TypedBy(const QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Backspace:
+            return ToQString(kBackspace);
+        case Qt::Key_Dead_Circumflex:
+            return QStringLiteral("^");
+        case Qt::Key_Dead_Tilde:
+            return QStringLiteral("~");
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
+        case Qt::Key_Escape:
+        case Qt::Key_Delete:
+            return {};
+        default:
+            return event.text();
+    }
+}
+
+}  // namespace
+
+FrmPaper::FrmPaper(Problem& problem, WindowLearner& learner, QWidget* parent)
+    : QScrollArea(parent),
+      problem(problem),
+      learner(learner),
+      worksheet(problem, metrics, learner) {
+    setObjectName(QStringLiteral("frmPaper"));
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_InputMethodEnabled, false);
+    setAccessibleName(ToQString(problem.topic.TopicTitle));
+    MakeDesk();
+
+    timer2.setObjectName(QStringLiteral("Timer2"));
+    timer2.setInterval(kFlash);
+    connect(&timer2, &QTimer::timeout, this, [this] {
+        worksheet.Timer2_Timer();
+        papers[static_cast<std::size_t>(this->problem.playback.CurrentPage)]->Arrow().SetFrame(
+            worksheet.ArrowFrame());
+    });
+
+    worksheet.Open(viewport()->width());
+    EraseProblem(problem, worksheet);
+    MakeEntry();
+    Refresh();
+}
+
+void FrmPaper::MakeDesk() {
+    desk = new Desk;
+    setWidget(desk);
+    for (int i = 0; i < Worksheet::kSheetCount; ++i) {
+        auto* paper = new SheetWidget(i, metrics, desk);
+        papers[static_cast<std::size_t>(i)] = paper;
+        connect(&paper->Arrow(), &QAbstractButton::clicked, this, &FrmPaper::NextStep);
+    }
+    light = new QLabel(desk);
+    light->setObjectName(QStringLiteral("Light"));
+    light->setFixedSize(kLightSize);
+}
+
+void FrmPaper::MakeEntry() {
+    QWidget* sheet = papers[0];
+    const int code = problem.topic.ProblemType;
+    if (code == kMeterTopic || code == kGramTopic) {
+        constexpr int kValueBox = 4;
+        auto* value = new EntryBox(kValueBox, problem, sheet);
+        value->move(kValuePlace);
+        value->setAccessibleName(QStringLiteral("Value"));
+        boxes.push_back(value);
+        const int kind = code == kMeterTopic ? 1 : 2;
+        AddUnitList(1, kind, kFromPlace);
+        AddLabel(QStringLiteral("to"), kToLabelPlace);
+        AddUnitList(2, kind, kToPlace);
+        lists[0]->setAccessibleName(QStringLiteral("From"));
+        lists[1]->setAccessibleName(QStringLiteral("To"));
+        connect(value, &EntryBox::Typed, this, &FrmPaper::Refresh);
+        setFocusProxy(value);
+    } else if (!IsTypedOnLine(code) || !GrammarStands(problem.topic)) {
+        AddLabel(QStringLiteral("The entry of this topic is not built yet."), kValuePlace);
+    }
+}
+
+void FrmPaper::AddUnitList(int number, int UnitKind, QPoint place) {
+    auto* list = new EntryList(number, problem, papers[0]);
+    for (int row = 0; row < kMetricItems; ++row) {
+        list->addItem(ToQString(MetricItem(row, UnitKind)));
+    }
+    list->move(place);
+    list->setFixedWidth(kListWidth);
+    list->ShowChoice();
+    connect(list, &EntryList::Chosen, this, &FrmPaper::Refresh);
+    lists.push_back(list);
+}
+
+QLabel* FrmPaper::AddLabel(const QString& text, QPoint place) {
+    auto* label = new QLabel(text, papers[0]);
+    label->setFixedHeight(30);
+    QPalette ink = label->palette();
+    ink.setColor(QPalette::WindowText, Qt::black);
+    label->setPalette(ink);
+    label->move(place);
+    return label;
+}
+
+void FrmPaper::compute_Click() {
+    if (!problem.controls.SolveEnabled) {
+        return;
+    }
+    if (AllSolvers().Find(problem.topic.ProblemType) == nullptr) {
+        learner.MessageBox("",
+                           "Solving this topic is not built yet.  Your problem stays as it is.");
+        return;
+    }
+    {
+        const PointerGuard busy(Qt::BusyCursor);
+        numerello::compute_Click(problem, AllSolvers(), learner, worksheet);
+    }
+    Refresh();
+}
+
+void FrmPaper::clear_Click() {
+    if (numerello::clear_Click(problem, learner, worksheet)) {
+        FitDesk();
+        Refresh();
+        setFocus();
+    }
+}
+
+void FrmPaper::NextStep() {
+    worksheet.blinker_Click();
+    Refresh();
+}
+
+void FrmPaper::mnuShowStep_Click(bool ticked) {
+    worksheet.mnuShowStep_Click(ticked);
+    Refresh();
+}
+
+void FrmPaper::ShowLight(bool shown) {
+    light->setVisible(shown);
+}
+
+void FrmPaper::Form_KeyPress(std::string_view key) {
+    const bool typing = IsTypedOnLine(problem.topic.ProblemType) && problem.playback.TypingEnabled;
+    if (!typing || (problem.playback.LineEndX >= kTypedLineLimit && key != kBackspace)) {
+        return;
+    }
+    numerello::Form_KeyPress(problem, key);
+    worksheet.DrawTypedLine();
+}
+
+void FrmPaper::TypeText(const QString& text) {
+    for (const std::string& key : Characters(text.toStdString())) {
+        Form_KeyPress(key);
+    }
+    Refresh();
+}
+
+void FrmPaper::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        if (event->isAutoRepeat()) {
+            return;
+        }
+        if (problem.controls.SolveEnabled) {
+            compute_Click();
+        } else if (worksheet.ArrowVisible()) {
+            NextStep();
+        }
+        return;
+    }
+    if (event->matches(QKeySequence::Paste)) {
+        TypeText(QGuiApplication::clipboard()->text());
+        return;
+    }
+    const QString typed = IsShortcut(*event) ? QString() : TypedBy(*event);
+    if (typed.isEmpty()) {
+        QScrollArea::keyPressEvent(event);
+        return;
+    }
+    TypeText(typed);
+}
+
+void FrmPaper::resizeEvent(QResizeEvent* event) {
+    QScrollArea::resizeEvent(event);
+    worksheet.Centre(viewport()->width());
+    Refresh();
+}
+
+void FrmPaper::showEvent(QShowEvent* event) {
+    QScrollArea::showEvent(event);
+    KeepTimer();
+}
+
+void FrmPaper::hideEvent(QHideEvent* event) {
+    QScrollArea::hideEvent(event);
+    KeepTimer();
+}
+
+bool FrmPaper::focusNextPrevChild(bool next) {
+    // The scroll area would scroll to whatever gets the focus; the sheet has its own order.
+    return QAbstractScrollArea::focusNextPrevChild(next);
+}
+
+void FrmPaper::Refresh() {
+    ShowSheets();
+    ShowEntry();
+    ShowLightPicture();
+    FitDesk();
+    KeepTimer();
+    desk->update();
+    emit Changed();
+}
+
+void FrmPaper::ShowSheets() {
+    for (int i = 0; i < Worksheet::kSheetCount; ++i) {
+        SheetWidget* paper = papers[static_cast<std::size_t>(i)];
+        paper->Show(worksheet.SheetAt(i));
+        paper->Arrow().SetFrame(worksheet.ArrowFrame());
+    }
+    for (const int index : worksheet.StackingOrder()) {
+        papers[static_cast<std::size_t>(index)]->raise();
+    }
+    light->raise();
+    setAccessibleDescription(
+        problem.input.InputError.empty() ? SheetText() : ToQString(problem.input.InputError));
+}
+
+/// What stands on the sheets, for those who hear it.
+QString FrmPaper::SheetText() const {
+    QString text = ToQString(problem.typed.ProblemText);
+    const int shown = std::min(problem.playback.ShownStep, problem.log.StepCount - 1);
+    for (int i = 2; i <= shown; ++i) {
+        text += u'\n' + ToQString(std::as_const(problem.log).StepText[i]);
+    }
+    return text;
+}
+
+void FrmPaper::ShowEntry() {
+    for (EntryBox* box : boxes) {
+        box->ShowText();
+        box->setReadOnly(!problem.playback.TypingEnabled);
+    }
+    for (EntryList* list : lists) {
+        list->ShowChoice();
+    }
+}
+
+void FrmPaper::ShowLightPicture() {
+    using Picture = EntryControls::LightPicture;
+    const Picture picture = problem.controls.Light;
+    const QString key = picture == Picture::Correct     ? QStringLiteral("light2")
+                        : picture == Picture::Incorrect ? QStringLiteral("light3")
+                                                        : QStringLiteral("light1");
+    light->setPixmap(Artwork(key, kLightSize, devicePixelRatioF()));
+    light->setToolTip(ToQString(problem.controls.LightToolTip));
+    light->setAccessibleName(QStringLiteral("Guided Input Light"));
+}
+
+/// The desk fills the view and reaches around all sheets.
+void FrmPaper::FitDesk() {
+    QSize size = viewport()->size();
+    for (const int index : worksheet.StackingOrder()) {
+        const Sheet& sheet = worksheet.SheetAt(index);
+        size = size.expandedTo(
+            {qRound(sheet.left) + kSheetSize.width(), qRound(sheet.top) + kSheetSize.height()});
+    }
+    desk->resize(size);
+    const int sheetRight = qRound(worksheet.SheetAt(0).left) + kSheetSize.width();
+    const int figureLeft = std::min(sheetRight + 16, viewport()->width() - 116);
+    light->move(figureLeft + (108 - kLightSize.width()) / 2, kLightTop);
+}
+
+void FrmPaper::KeepTimer() {
+    const bool flashing = worksheet.Timer2Enabled() && isVisible();
+    if (flashing && !timer2.isActive()) {
+        timer2.start();
+    } else if (!flashing) {
+        timer2.stop();
+    }
+}
+
+}  // namespace numerello

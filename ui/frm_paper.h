@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QLabel>
+#include <QScrollArea>
+#include <QTimer>
+#include <array>
+#include <vector>
+
+#include "core/problem.h"
+#include "ui/entry_controls.h"
+#include "ui/font_metrics.h"
+#include "ui/sheet_widget.h"
+#include "ui/window_learner.h"
+#include "worksheet/worksheet.h"
+
+namespace numerello {
+
+/// The entry form: the desk with its sheets, the typing line or the boxes of the topic, and the
+/// played solution. Made anew for every topic.
+class FrmPaper : public QScrollArea {
+    Q_OBJECT
+
+  public:
+    /// The problem, its topic already chosen, and the learner must outlive the form.
+    FrmPaper(Problem& problem, WindowLearner& learner, QWidget* parent);
+
+    void compute_Click();
+    void clear_Click();
+
+    /// A key of the typing line: a character or a Backspace.
+    void Form_KeyPress(std::string_view key);
+
+    /// Shows the next line, as a click on the arrow does.
+    void NextStep();
+
+    void mnuShowStep_Click(bool ticked);
+    void ShowLight(bool shown);
+
+  signals:
+    /// Which commands are open may have changed.
+    void Changed();
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+
+  private:
+    void MakeDesk();
+    void MakeEntry();
+    void AddUnitList(int number, int UnitKind, QPoint place);
+    QLabel* AddLabel(const QString& text, QPoint place);
+    void TypeText(const QString& text);
+    void Refresh();
+    void ShowSheets();
+    void ShowLightPicture();
+    void ShowEntry();
+    void FitDesk();
+    void KeepTimer();
+    QString SheetText() const;
+
+    Problem& problem;
+    WindowLearner& learner;
+    FontMetrics metrics{FontMetrics::Medium::Sheet};
+    Worksheet worksheet;
+    QWidget* desk;
+    std::array<SheetWidget*, Worksheet::kSheetCount> papers{};
+    QLabel* light;
+    std::vector<EntryBox*> boxes;
+    std::vector<EntryList*> lists;
+    QTimer timer2;
+};
+
+}  // namespace numerello

@@ -1,0 +1,416 @@
+#include "ui/frm_select.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <map>
+#include <utility>
+
+#include "catalogue/topics.h"
+#include "ui/artwork.h"
+#include "ui/double_click.h"
+#include "ui/text.h"
+
+namespace numerello {
+
+namespace {
+
+constexpr QSize kSmallest(440, 520);
+constexpr int kMargin = 8;
+constexpr int kPicture = 20;
+constexpr int kRowPadding = 8;
+constexpr int kUsualRow = kPicture + kRowPadding;
+constexpr int kIndentation = 24;
+constexpr int kNodeRole = Qt::UserRole;
+
+ChooserKey KeyOf(const QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return ChooserKey::Enter;
+        case Qt::Key_Escape:
+            return ChooserKey::Escape;
+        case Qt::Key_Up:
+            return ChooserKey::Up;
+        case Qt::Key_Right:
+            return ChooserKey::Right;
+        case Qt::Key_Down:
+            return ChooserKey::Down;
+        default:
+            return ChooserKey::Other;
+    }
+}
+
+bool MovesThroughList(const QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+        case Qt::Key_PageUp:
+        case Qt::Key_PageDown:
+            return true;
+        default:
+            return false;
+    }
+}
+
+int RowHeight(const QWidget& window) {
+    return std::max(kPicture, window.fontMetrics().height()) + kRowPadding;
+}
+
+int NodeOf(const QTreeWidgetItem& item) {
+    return item.data(0, kNodeRole).toInt();
+}
+
+}  // namespace
+
+/// A control that tells the chooser of its keys before it takes them itself.
+template <class Control>
+class FrmSelect::Forwarding : public Control {
+  public:
+    using KeyDown = void (Chooser::*)(ChooserKey);
+
+    Forwarding(FrmSelect& form, ChooserControl name, KeyDown keyDown)
+        : Control(&form), form(form), name(name), keyDown(keyDown) {}
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        form.Forward([&] {
+            const ChooserKey key = KeyOf(*event);
+            (form.chooser.*keyDown)(key);
+            if (key != ChooserKey::Enter && key != ChooserKey::Escape) {
+                Control::keyPressEvent(event);
+            }
+        });
+    }
+
+    void focusInEvent(QFocusEvent* event) override {
+        Control::focusInEvent(event);
+        form.chooser.Control_GotFocus(name);
+    }
+
+    FrmSelect& form;
+
+  private:
+    ChooserControl name;
+    KeyDown keyDown;
+};
+
+/// A view that shows what the chooser knows after each click, and takes the left button alone.
+template <class View>
+class FrmSelect::ForwardingView : public Forwarding<View> {
+  public:
+    using MouseUp = void (Chooser::*)();
+
+    ForwardingView(FrmSelect& form, ChooserControl name, typename Forwarding<View>::KeyDown keyDown,
+                   MouseUp mouseUp = nullptr)
+        : Forwarding<View>(form, name, keyDown), mouseUp(mouseUp) {}
+
+  protected:
+    bool viewportEvent(QEvent* event) override {
+        if (!IsMouse(*event)) {
+            return View::viewportEvent(event);
+        }
+        const auto& mouse = static_cast<const QMouseEvent&>(*event);
+        if (event->type() != QEvent::MouseMove && mouse.button() != Qt::LeftButton) {
+            return true;
+        }
+        return Mouse(mouse, event);
+    }
+
+  private:
+    bool Mouse(const QMouseEvent& mouse, QEvent* event) {
+        FrmSelect& form = this->form;
+        const bool wasOpen = form.chooser.IsOpen();
+        const QScopedValueRollback byMouse(form.mouseMoves, true);
+        bool taken = false;
+        const auto take = [&] { taken = View::viewportEvent(event); };
+        // While the button is down the row below the pointer is lit, whatever the chooser knows;
+        // when it comes up a row is clicked or the light goes back.
+        if (event->type() == QEvent::MouseButtonRelease) {
+            form.Forward([&] {
+                take();
+                if (mouseUp != nullptr) {
+                    (form.chooser.*mouseUp)();
+                }
+            });
+        } else {
+            form.secondClick = form.secondClick && event->type() == QEvent::MouseMove;
+            take();
+        }
+        if (wasOpen && !form.chooser.IsOpen()) {
+            SwallowRestOfDoubleClick(mouse);
+        }
+        return taken;
+    }
+
+    MouseUp mouseUp;
+};
+
+/// The keys that move through a list do so in the index while the search box has the focus.
+class FrmSelect::SearchBox : public Forwarding<QLineEdit> {
+  public:
+    using Forwarding<QLineEdit>::Forwarding;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (MovesThroughList(*event)) {
+            QCoreApplication::sendEvent(form.IndexList, event);
+        } else {
+            Forwarding<QLineEdit>::keyPressEvent(event);
+        }
+    }
+};
+
+FrmSelect::FrmSelect(TopicChoice& topic, std::vector<TreeNode> nodes, const Clock& clock,
+                     RandomSource& random, QWidget* parent)
+    : QDialog(parent), topic(topic), chooser(topic, std::move(nodes), clock, random) {
+    setObjectName(QStringLiteral("frmSelect"));
+    setWindowTitle(QStringLiteral("Choose problem type:"));
+    setModal(true);
+    childrenTimer.setSingleShot(true);
+    connect(&childrenTimer, &QTimer::timeout, this, [this] { ShowChildren(); });
+
+    MakeTree();
+    MakeIndex();
+    MakeTabs();
+    resize(PreferredSize());
+}
+
+void FrmSelect::MakeTree() {
+    TreeView1 = new ForwardingView<QTreeWidget>(*this, ChooserControl::TreeView1,
+                                                &Chooser::TreeView1_KeyDown);
+    TreeView1->setObjectName(QStringLiteral("TreeView1"));
+    TreeView1->setAccessibleName(QStringLiteral("Topics by chapter"));
+    TreeView1->setHeaderHidden(true);
+    TreeView1->setIconSize({kPicture, kPicture});
+    TreeView1->setIndentation(kIndentation);
+    TreeView1->setUniformRowHeights(true);
+    // A double click on a folder opens it by its first half.
+    TreeView1->setExpandsOnDoubleClick(false);
+    TreeView1->setEditTriggers(QAbstractItemView::NoEditTriggers);
+
+    std::map<std::string_view, QTreeWidgetItem*> folders;
+    for (const TreeNode& node : chooser.Nodes()) {
+        QTreeWidgetItem* item =
+            MakeItem(node, node.parent.empty() ? nullptr : folders.at(node.parent));
+        item->setData(0, kNodeRole, static_cast<int>(items.size()));
+        items.push_back(item);
+        if (!node.key.empty()) {
+            folders[node.key] = item;
+        }
+    }
+    ConnectTree();
+}
+
+QTreeWidgetItem* FrmSelect::MakeItem(const TreeNode& node, QTreeWidgetItem* folder) {
+    auto* item = folder == nullptr ? new QTreeWidgetItem(TreeView1) : new QTreeWidgetItem(folder);
+    item->setText(0, ToQString(node.caption));
+    item->setIcon(0, ArtworkIcon(ToQString(node.image)));
+    item->setSizeHint(0, {0, RowHeight(*this)});
+    return item;
+}
+
+void FrmSelect::ConnectTree() {
+    connect(TreeView1, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
+        if (!std::exchange(secondClick, false)) {
+            Forward([&] { chooser.TreeView1_NodeClick(NodeOf(*item)); });
+        }
+    });
+    connect(TreeView1, &QTreeWidget::itemDoubleClicked, this, [this] {
+        secondClick = true;
+        Forward([&] { chooser.TreeView1_DblClick(); });
+    });
+    connect(TreeView1, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* item) {
+        Forward([&] { chooser.TreeView1_Expand(NodeOf(*item)); });
+        // A row must not be scrolled away between the halves of a double click.
+        childrenTimer.start(mouseMoves ? QApplication::doubleClickInterval() : 0);
+    });
+    connect(TreeView1, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* item) {
+        Forward([&] { chooser.TreeView1_Collapse(NodeOf(*item)); });
+    });
+    connect(TreeView1, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
+        if (item != nullptr && !mouseMoves) {
+            Forward([&] { chooser.TreeView1_Moved(NodeOf(*item)); });
+        }
+    });
+}
+
+void FrmSelect::MakeIndex() {
+    Text1 = new SearchBox(*this, ChooserControl::Text1, &Chooser::Text1_KeyDown);
+    Text1->setObjectName(QStringLiteral("Text1"));
+    Text1->setAccessibleName(QStringLiteral("Search"));
+    Text1->setPlaceholderText(QStringLiteral("Search"));
+    Text1->setClearButtonEnabled(true);
+    connect(Text1, &QLineEdit::textChanged, this, [this](const QString& text) {
+        Forward([&] { chooser.Text1_Change(text.toStdString()); });
+    });
+
+    IndexList = new ForwardingView<QListWidget>(
+        *this, ChooserControl::IndexList, &Chooser::IndexList_KeyDown, &Chooser::IndexList_MouseUp);
+    IndexList->setObjectName(QStringLiteral("IndexList"));
+    IndexList->setAccessibleName(QStringLiteral("Topics in alphabetic order"));
+    IndexList->setUniformItemSizes(true);
+    IndexList->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    for (const std::string_view caption : IndexRows()) {
+        auto* row = new QListWidgetItem(ToQString(caption), IndexList);
+        row->setSizeHint({0, RowHeight(*this)});
+    }
+    connect(IndexList, &QListWidget::currentRowChanged, this,
+            [this](int row) { Forward([&] { chooser.IndexList_Moved(row); }); });
+    connect(IndexList, &QListWidget::itemDoubleClicked, this,
+            [this] { Forward([&] { chooser.IndexList_DblClick(); }); });
+}
+
+void FrmSelect::MakeTabs() {
+    auto* topicPage = new QWidget;
+    auto* topicColumn = new QVBoxLayout(topicPage);
+    topicColumn->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    topicColumn->addWidget(TreeView1);
+
+    auto* indexPage = new QWidget;
+    auto* indexColumn = new QVBoxLayout(indexPage);
+    indexColumn->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    indexColumn->setSpacing(kMargin);
+    indexColumn->addWidget(Text1);
+    indexColumn->addWidget(IndexList);
+
+    SSTab1 = new QTabWidget(this);
+    SSTab1->setObjectName(QStringLiteral("SSTab1"));
+    SSTab1->setAccessibleName(QStringLiteral("Topics"));
+    SSTab1->addTab(topicPage, QStringLiteral("Topic"));
+    SSTab1->addTab(indexPage, QStringLiteral("Index"));
+    SSTab1->tabBar()->setAccessibleName(QStringLiteral("Topic or index"));
+    SSTab1->tabBar()->installEventFilter(this);
+    connect(SSTab1, &QTabWidget::currentChanged, this, [this](int tab) {
+        Forward([&] { chooser.SSTab1_Click(tab == 0 ? ChooserTab::Topic : ChooserTab::Index); });
+    });
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->addWidget(SSTab1);
+}
+
+/// Room for the longest caption three folders deep, and for the rows of a larger interface font.
+QSize FrmSelect::PreferredSize() const {
+    int widest = 0;
+    for (const std::string_view caption : IndexRows()) {
+        widest = std::max(widest, fontMetrics().horizontalAdvance(ToQString(caption)));
+    }
+    const QSize needed(widest + 3 * kIndentation + kPicture + 7 * kMargin,
+                       kSmallest.height() * RowHeight(*this) / kUsualRow);
+    return needed.expandedTo(kSmallest).boundedTo(screen()->availableSize() * 0.9);
+}
+
+void FrmSelect::reject() {
+    chooser.Form_Unload();
+    QDialog::reject();
+}
+
+void FrmSelect::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (!event->spontaneous() && !chooser.IsOpen()) {
+        chooser.Form_Load();
+        Mirror();
+        TreeView1->scrollToTop();
+    }
+}
+
+/// Keys that no control took, those of the tabs among them.
+void FrmSelect::keyPressEvent(QKeyEvent* event) {
+    const ChooserKey key = KeyOf(*event);
+    Forward([&] { chooser.SSTab1_KeyDown(key); });
+    if (key != ChooserKey::Escape) {
+        QDialog::keyPressEvent(event);
+    }
+}
+
+bool FrmSelect::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn) {
+        chooser.Control_GotFocus(ChooserControl::SSTab1);
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+/// Hands events on to the chooser. One event may cause others; what comes of them is shown at the
+/// end.
+template <class Action>
+void FrmSelect::Forward(Action action) {
+    if (mirroring) {
+        return;
+    }
+    {
+        const QScopedValueRollback oneMore(openEvents, openEvents + 1);
+        action();
+    }
+    if (openEvents == 0) {
+        Mirror();
+    }
+}
+
+void FrmSelect::Mirror() {
+    if (!isVisible()) {
+        return;
+    }
+    if (!chooser.IsOpen()) {
+        done(topic.ChooserCancelled ? Rejected : Accepted);
+        return;
+    }
+    const QScopedValueRollback fromHere(mirroring, true);
+    SSTab1->setCurrentIndex(chooser.Tab() == ChooserTab::Topic ? 0 : 1);
+    MirrorTree();
+    MirrorIndex();
+    QWidget* focus = ControlOf(chooser.Focus());
+    if (focusWidget() != focus) {
+        focus->setFocus();
+    }
+}
+
+void FrmSelect::MirrorTree() {
+    for (std::size_t node = 0; node < items.size(); ++node) {
+        items[node]->setExpanded(chooser.IsExpanded(static_cast<int>(node)));
+    }
+    TreeView1->setCurrentItem(items[static_cast<std::size_t>(chooser.SelectedNode())], 0,
+                              QItemSelectionModel::ClearAndSelect);
+}
+
+void FrmSelect::MirrorIndex() {
+    IndexList->setCurrentRow(chooser.IndexRow(), QItemSelectionModel::ClearAndSelect);
+    const QString search = ToQString(chooser.SearchText());
+    if (Text1->text() != search) {
+        Text1->setText(search);
+    }
+}
+
+QWidget* FrmSelect::ControlOf(ChooserControl control) const {
+    switch (control) {
+        case ChooserControl::Text1:
+            return Text1;
+        case ChooserControl::IndexList:
+            return IndexList;
+        case ChooserControl::SSTab1:
+            return SSTab1->tabBar();
+        case ChooserControl::TreeView1:
+            break;
+    }
+    return TreeView1;
+}
+
+/// A folder opened at the lower edge would else seem to do nothing.
+void FrmSelect::ShowChildren() {
+    QTreeWidgetItem* folder = TreeView1->currentItem();
+    if (folder != nullptr && folder->isExpanded()) {
+        TreeView1->scrollToItem(folder->child(folder->childCount() - 1));
+        TreeView1->scrollToItem(folder);
+    }
+}
+
+}  // namespace numerello

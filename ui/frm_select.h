@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QDialog>
+#include <QTimer>
+#include <vector>
+
+#include "catalogue/chooser.h"
+
+class QLineEdit;
+class QListWidget;
+class QTabWidget;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace numerello {
+
+/// The chooser's window: the topics as a tree and as an alphabetic index with a search box. It
+/// forwards its events to a Chooser and shows what stands there. What was chosen stands in the
+/// topic; the dialog's result is Accepted when something was.
+class FrmSelect : public QDialog {
+  public:
+    /// `nodes` are those of BuildTopicTree. `topic`, `clock` and `random` have to outlive the
+    /// window. It loads when it is shown, as often as that happens.
+    FrmSelect(TopicChoice& topic, std::vector<TreeNode> nodes, const Clock& clock,
+              RandomSource& random, QWidget* parent = nullptr);
+
+    /// The close box; Esc takes another way.
+    void reject() override;
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    template <class Control>
+    class Forwarding;
+    template <class View>
+    class ForwardingView;
+    class SearchBox;
+
+    void MakeTree();
+    void MakeIndex();
+    void MakeTabs();
+    QTreeWidgetItem* MakeItem(const TreeNode& node, QTreeWidgetItem* folder);
+    void ConnectTree();
+    QSize PreferredSize() const;
+
+    template <class Action>
+    void Forward(Action action);
+    void Mirror();
+    void MirrorTree();
+    void MirrorIndex();
+    QWidget* ControlOf(ChooserControl control) const;
+    void ShowChildren();
+
+    const TopicChoice& topic;
+    Chooser chooser;
+    std::vector<QTreeWidgetItem*> items;  ///< by the number of their node
+    QTabWidget* SSTab1 = nullptr;
+    QTreeWidget* TreeView1 = nullptr;
+    QLineEdit* Text1 = nullptr;
+    QListWidget* IndexList = nullptr;
+    QTimer childrenTimer;      ///< until the opened folder's children are scrolled into view
+    int openEvents = 0;        ///< events that are being forwarded, one inside the other
+    bool mirroring = false;    ///< what the controls tell comes from Mirror
+    bool mouseMoves = false;   ///< the tree lights a row because of the mouse
+    bool secondClick = false;  ///< the click at hand is the second half of a double click
+};
+
+}  // namespace numerello

@@ -1,0 +1,70 @@
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QIcon>
+#include <QTimer>
+#include <memory>
+
+#include "ui/artwork.h"
+#include "ui/font_metrics.h"
+#include "ui/frm_logo.h"
+#include "ui/frm_main.h"
+
+namespace {
+
+using numerello::FrmLogo;
+using numerello::FrmMain;
+
+/// The frame, then at once the question which topic.
+void ShowFrame(FrmMain& frame) {
+    frame.Open();
+    QTimer::singleShot(0, &frame, &FrmMain::mnuNew_Click);
+}
+
+/// The frame is made behind the splash, which is on the screen first.
+int RunWithSplash() {
+    std::unique_ptr<FrmMain> frame;
+    const auto makeFrame = [&frame] {
+        if (!frame) {
+            frame = std::make_unique<FrmMain>();
+        }
+    };
+    FrmLogo logo;
+    QObject::connect(&logo, &FrmLogo::Closed, [&] {
+        makeFrame();
+        ShowFrame(*frame);
+    });
+    logo.show();
+    QTimer::singleShot(100, &logo, makeFrame);
+    return QApplication::exec();
+}
+
+int RunWithoutSplash() {
+    FrmMain frame;
+    ShowFrame(frame);
+    return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Numerello"));
+    QApplication::setOrganizationName(QStringLiteral("Vantrel"));
+    QApplication::setApplicationVersion(QStringLiteral(NUMERELLO_VERSION));
+
+    QCommandLineParser arguments;
+    arguments.setApplicationDescription(QStringLiteral("A tutor for elementary mathematics"));
+    arguments.addHelpOption();
+    arguments.addVersionOption();
+    const QCommandLineOption noSplash(QStringLiteral("no-splash"),
+                                      QStringLiteral("Start without the splash."));
+    arguments.addOption(noSplash);
+    arguments.process(app);
+
+    if (!numerello::LoadSheetFont()) {
+        qCritical("The font of the sheets cannot be loaded.");
+        return 1;
+    }
+    QApplication::setWindowIcon(numerello::ArtworkIcon(QStringLiteral("icon")));
+    return arguments.isSet(noSplash) ? RunWithoutSplash() : RunWithSplash();
+}

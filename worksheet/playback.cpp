@@ -1,0 +1,170 @@
+#include <algorithm>
+#include <utility>
+
+#include "typeset/lines.h"
+#include "worksheet/worksheet.h"
+
+namespace numerello {
+
+namespace {
+
+constexpr int kLinearEquation = 105;
+constexpr int kQuadrantOfPoint = 107;
+constexpr int kPointMode = 1;
+constexpr int kEquationMode = 3;
+
+/// From the end of the line to the top left corner of a mark behind it.
+struct MarkOffset {
+    double right;
+    double up;
+};
+
+constexpr MarkOffset kArrowOffset{10, 13};
+constexpr MarkOffset kCheckOffset{5, 15};
+
+/// A mark further right would reach over the edge of the sheet.
+constexpr double kRightmostMark = 760;
+
+double MarkLeft(const Playback& playback, MarkOffset offset) {
+    return std::min(playback.LineEndX + offset.right, kRightmostMark);
+}
+
+double MarkTop(const Playback& playback, MarkOffset offset) {
+    return std::max(playback.LineEndY - offset.up, 0.0);
+}
+
+bool Any(const ColumnRequest& columns) {
+    return columns.ColumnAdd || columns.ColumnSubtract || columns.ColumnMultiply ||
+           columns.ColumnDivide;
+}
+
+}  // namespace
+
+void Worksheet::ShowNextStep() {
+    RestorePointer();
+    TakeDrawingRow();
+    const Playback& playback = problem.playback;
+    if (playback.ShownStep == 0) {
+        ShowAllLines();
+    } else if (playback.ShownStep < problem.log.StepCount - 1) {
+        PrintStep(playback.ShownStep, true);
+    } else {
+        ShowLastLine();
+    }
+    ClearExpression();
+    Changed();
+}
+
+void Worksheet::TakeDrawingRow() {
+    if (const auto row = std::exchange(problem.playback.DrawingRow, std::nullopt)) {
+        stack[0].surface.CurrentY = *row;
+    }
+}
+
+void Worksheet::ShowAllLines() {
+    for (int i = 2; i < problem.log.StepCount; ++i) {
+        PrintStep(i, false);
+        problem.playback.ShownStep = i;
+    }
+    FinishWork();
+}
+
+void Worksheet::ShowLastLine() {
+    const int shown = problem.playback.ShownStep;
+    if (!std::as_const(problem.log).StepText[shown].empty()) {
+        PrintStep(shown, false);
+    }
+    FinishWork();
+
+    const int code = problem.topic.ProblemType;
+    if (code == kLinearEquation || code == kQuadrantOfPoint) {
+        problem.graph.GraphMode = code == kLinearEquation ? kEquationMode : kPointMode;
+        OpenGraph();
+    }
+}
+
+void Worksheet::PrintStep(int index, bool showBlinker) {
+    // The learner was told once that the sheets are used up.
+    if (!outOfSheets) {
+        FPrintLine(std::as_const(problem.log).StepText[index], showBlinker, *this, problem.playback,
+                   learner);
+    }
+}
+
+/// A solution that was not drawn to its end gets no check mark.
+void Worksheet::FinishWork() {
+    if (!outOfSheets) {
+        DrawCheckMark();
+    }
+}
+
+void Worksheet::DrawCheckMark() {
+    HideArrow();
+    const Playback& playback = problem.playback;
+    Current().PaintPicture("check", MarkLeft(playback, kCheckOffset),
+                           MarkTop(playback, kCheckOffset));
+    problem.columns.ClearFlags();
+    Changed();
+}
+
+void Worksheet::PlaceBlinker() {
+    Sheet& sheet = CurrentSheet();
+    sheet.arrowLeft = MarkLeft(problem.playback, kArrowOffset);
+    sheet.arrowTop = MarkTop(problem.playback, kArrowOffset);
+    // A column problem that draws itself at once shows no arrow.
+    if (!Any(problem.columns) || problem.settings.mnuShowStep) {
+        sheet.arrowVisible = true;
+        timer2Enabled = true;
+    }
+    Changed();
+}
+
+void Worksheet::blinker_Click() {
+    if (!ArrowVisible()) {
+        return;
+    }
+    HideArrow();
+    Changed();
+    // The rest stays unseen until the problem is solved again: kept as it is.
+    if (!problem.settings.mnuShowStep) {
+        return;
+    }
+    ++problem.playback.ShownStep;
+    if (!Any(problem.columns)) {
+        ShowNextStep();
+        return;
+    }
+    StepColumns();
+    if (Any(problem.columns)) {
+        PlaceBlinker();
+    }
+}
+
+void Worksheet::mnuShowStep_Click(bool ticked) {
+    problem.settings.mnuShowStep = ticked;
+    problem.playback.ShowAllSteps = !ticked;
+    if (!ArrowVisible()) {
+        return;
+    }
+    // Ticked again, playback starts from the second line, whatever was shown: kept as it is.
+    int& shown = problem.playback.ShownStep;
+    if (!ticked) {
+        shown = 0;
+    } else if (shown == 0) {
+        shown = 2;
+    }
+}
+
+void Worksheet::Timer2_Timer() {
+    if (timer2Enabled) {
+        arrowFrame = !arrowFrame;
+        Changed();
+    }
+}
+
+void Worksheet::HideArrow() {
+    timer2Enabled = false;
+    CurrentSheet().arrowVisible = false;
+}
+
+}  // namespace numerello

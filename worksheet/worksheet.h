@@ -1,0 +1,110 @@
+#pragma once
+
+#include <functional>
+#include <utility>
+#include <vector>
+
+#include "core/solve_driver.h"
+#include "typeset/sheets.h"
+#include "worksheet/sheet_stack.h"
+
+namespace numerello {
+
+/// The paper of the entry form: draws the typed line and plays the step log line by line onto a
+/// stack of sheets. The flashing arrow waits behind the last line; a check mark ends the work.
+/// Where playback stands is kept in the problem's record.
+class Worksheet : public Stage, public PaperSheets {
+  public:
+    static constexpr int kSheetCount = SheetStack::kCount;
+
+    /// All three must outlive the worksheet.
+    Worksheet(Problem& problem, const TextMetrics& metrics, Learner& learner);
+
+    /// The sheets as a freshly loaded form shows them: the topic's titles, nothing drawn, the first
+    /// sheet centred at the upper edge of a view of this width, in pixels.
+    void Open(int viewWidth);
+
+    /// Centres the first sheet across the view, but not beyond its left edge; the sheets that lie
+    /// fanned over it move along. For a view that was resized before any sheet was dragged.
+    void Centre(int viewWidth);
+
+    /// Draws the line as it is typed, in place of the one drawn before. Nothing for a topic with
+    /// boxes, nor once typing is closed.
+    void DrawTypedLine();
+
+    /// Draws the line that ShownStep points at and the arrow behind it; the last line gets the
+    /// check mark instead. With ShownStep 0 draws all lines at once, up to the check mark.
+    void ShowNextStep() override;
+
+    /// The learner clicked the arrow. Nothing when none is visible.
+    void blinker_Click();
+
+    /// Show Step-By-Step was ticked or unticked, also while the arrow waits.
+    void mnuShowStep_Click(bool ticked);
+
+    /// The tick of every 400 ms while Timer2Enabled(): changes the arrow's picture.
+    void Timer2_Timer();
+
+    /// Ends the work: the check mark behind the last line, no arrow, no column request.
+    void DrawCheckMark();
+
+    void BlankSheets() override;
+
+    Surface& Current() override;
+    void Turn() override;
+    void PlaceBlinker() override;
+
+    /// A sheet by its number, 0 to 9; throws Failure(Format) for any other. Stays valid as long as
+    /// the worksheet.
+    const Sheet& SheetAt(int index) const { return stack[index]; }
+
+    /// The numbers of the visible sheets, the lowest first.
+    const std::vector<int>& StackingOrder() const { return stack.Order(); }
+
+    /// Whether the arrow waits on the sheet in use.
+    bool ArrowVisible() const;
+
+    /// Whether the arrow shows the second of its two pictures.
+    bool ArrowFrame() const { return arrowFrame; }
+
+    bool Timer2Enabled() const { return timer2Enabled; }
+
+    /// Calls `listener` whenever what is to be seen has changed.
+    void OnChange(std::function<void()> listener) { onChange = std::move(listener); }
+
+  protected:
+    /// The busy pointer of solving ends here.
+    virtual void RestorePointer() {}
+
+    /// Clears the tables of the expression engine; the step log stays.
+    virtual void ClearExpression() {}
+
+    /// Shows the graph that GraphMode asks for.
+    virtual void OpenGraph() {}
+
+    /// Draws the next step of the column request, and ends it by DrawCheckMark after the last.
+    virtual void StepColumns() {}
+
+  private:
+    void ShowAllLines();
+    void ShowLastLine();
+    void PrintStep(int index, bool showBlinker);
+    void FinishWork();
+    void TakeDrawingRow();
+
+    void ClearTo(int lastSheet);
+    void HideArrow();
+    Sheet& CurrentSheet();
+    void Changed();
+
+    Problem& problem;
+    Learner& learner;
+    SheetStack stack;
+    int lastViewWidth = 0;
+    bool timer2Enabled = false;
+    bool arrowFrame = false;
+    bool outOfSheets = false;  ///< the log outgrew the tenth sheet: the rest stays undrawn
+    std::function<void()> onChange;
+};
+
+}  // namespace numerello

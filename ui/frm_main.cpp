@@ -228,6 +228,7 @@ void FrmMain::LoadPaper() {
     delete takeCentralWidget();
     paper = new FrmPaper(problem, learner, this);
     setCentralWidget(paper);
+    paper->show();
     paper->ShowLight(Command("mnuShowLight")->isChecked());
     connect(paper, &FrmPaper::Changed, this, &FrmMain::UpdateCommands);
     paper->setFocus();
@@ -274,7 +275,8 @@ void FrmMain::mnuShowStep_Click() {
 
 void FrmMain::mnuShowLight_Click() {
     if (paper != nullptr) {
-        paper->ShowLight(Command("mnuShowLight")->isChecked());
+        paper->show();
+    paper->ShowLight(Command("mnuShowLight")->isChecked());
     }
 }
 

@@ -156,6 +156,7 @@ void FrmPaper::compute_Click() {
         numerello::compute_Click(problem, AllSolvers(), learner, worksheet);
     }
     Refresh();
+    ScrollToLineEnd();
 }
 
 void FrmPaper::clear_Click() {
@@ -169,6 +170,15 @@ void FrmPaper::clear_Click() {
 void FrmPaper::NextStep() {
     worksheet.blinker_Click();
     Refresh();
+    ScrollToLineEnd();
+}
+
+/// Brings the arrow or the check mark behind the last line into view.
+void FrmPaper::ScrollToLineEnd() {
+    constexpr int kAround = 48;
+    const Sheet& sheet = worksheet.SheetAt(problem.playback.CurrentPage);
+    ensureVisible(qRound(sheet.left + problem.playback.LineEndX),
+                  qRound(sheet.top + problem.playback.LineEndY), kAround, kAround);
 }
 
 void FrmPaper::mnuShowStep_Click(bool ticked) {

@@ -58,6 +58,7 @@ class FrmPaper : public QScrollArea {
     void ShowLightPicture();
     void ShowEntry();
     void FitDesk();
+    void ScrollToLineEnd();
     void KeepTimer();
     QString SheetText() const;
 

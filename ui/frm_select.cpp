@@ -29,7 +29,6 @@ constexpr int kMargin = 8;
 constexpr int kPicture = 20;
 constexpr int kRowPadding = 8;
 constexpr int kUsualRow = kPicture + kRowPadding;
-constexpr int kIndentation = 24;
 constexpr int kNodeRole = Qt::UserRole;
 
 ChooserKey KeyOf(const QKeyEvent& event) {
@@ -62,8 +61,17 @@ bool MovesThroughList(const QKeyEvent& event) {
     }
 }
 
+/// Pictures grow with the interface font.
+int PictureSize(const QWidget& window) {
+    return std::max(kPicture, window.fontMetrics().height());
+}
+
 int RowHeight(const QWidget& window) {
-    return std::max(kPicture, window.fontMetrics().height()) + kRowPadding;
+    return PictureSize(window) + kRowPadding;
+}
+
+int Indentation(const QWidget& window) {
+    return PictureSize(window) + kRowPadding / 2;
 }
 
 int NodeOf(const QTreeWidgetItem& item) {
@@ -191,8 +199,8 @@ void FrmSelect::MakeTree() {
     TreeView1->setObjectName(QStringLiteral("TreeView1"));
     TreeView1->setAccessibleName(QStringLiteral("Topics by chapter"));
     TreeView1->setHeaderHidden(true);
-    TreeView1->setIconSize({kPicture, kPicture});
-    TreeView1->setIndentation(kIndentation);
+    TreeView1->setIconSize({PictureSize(*this), PictureSize(*this)});
+    TreeView1->setIndentation(Indentation(*this));
     TreeView1->setUniformRowHeights(true);
     // A double click on a folder opens it by its first half.
     TreeView1->setExpandsOnDoubleClick(false);
@@ -250,8 +258,14 @@ void FrmSelect::MakeIndex() {
     Text1->setAccessibleName(QStringLiteral("Search"));
     Text1->setPlaceholderText(QStringLiteral("Search"));
     Text1->setClearButtonEnabled(true);
+    Text1->setMinimumHeight(RowHeight(*this));
+    Text1->setTextMargins(kMargin / 2, 0, kMargin / 2, 0);
     connect(Text1, &QLineEdit::textChanged, this, [this](const QString& text) {
-        Forward([&] { chooser.Text1_Change(text.toStdString()); });
+        if (!mirroring) {
+            Forward([&] { chooser.Text1_Change(text.toStdString()); });
+            // The topics that begin alike stand below the one found.
+            IndexList->scrollToItem(IndexList->currentItem(), QAbstractItemView::PositionAtTop);
+        }
     });
 
     IndexList = new ForwardingView<QListWidget>(
@@ -259,9 +273,11 @@ void FrmSelect::MakeIndex() {
     IndexList->setObjectName(QStringLiteral("IndexList"));
     IndexList->setAccessibleName(QStringLiteral("Topics in alphabetic order"));
     IndexList->setUniformItemSizes(true);
+    IndexList->setIconSize(TreeView1->iconSize());
     IndexList->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    const QIcon topicPicture = ArtworkIcon(QStringLiteral("book2"));
     for (const std::string_view caption : IndexRows()) {
-        auto* row = new QListWidgetItem(ToQString(caption), IndexList);
+        auto* row = new QListWidgetItem(topicPicture, ToQString(caption), IndexList);
         row->setSizeHint({0, RowHeight(*this)});
     }
     connect(IndexList, &QListWidget::currentRowChanged, this,
@@ -305,7 +321,7 @@ QSize FrmSelect::PreferredSize() const {
     for (const std::string_view caption : IndexRows()) {
         widest = std::max(widest, fontMetrics().horizontalAdvance(ToQString(caption)));
     }
-    const QSize needed(widest + 3 * kIndentation + kPicture + 7 * kMargin,
+    const QSize needed(widest + 4 * Indentation(*this) + 7 * kMargin,
                        kSmallest.height() * RowHeight(*this) / kUsualRow);
     return needed.expandedTo(kSmallest).boundedTo(screen()->availableSize() * 0.9);
 }

@@ -40,9 +40,14 @@ class FrmSelectTest : public testing::Test {
         topic.TopicTitle = "Arithmetic";
         topic.InputMask = 1039;
         topic.InstructionText = "old";
-        QApplication::setDoubleClickInterval(60);
-        QTest::qWait(70);  // of an earlier test's click nothing is left
+        QApplication::setDoubleClickInterval(kShortInterval);
         ShowActive(form);
+    }
+
+    /// Of this test's clicks nothing is left for the next.
+    ~FrmSelectTest() override {
+        QTest::qWait(kShortInterval + 20);
+        QApplication::setDoubleClickInterval(usualInterval);
     }
 
     QTreeWidgetItem* Item(const QString& caption) {
@@ -116,6 +121,8 @@ class FrmSelectTest : public testing::Test {
         EXPECT_EQ(topic.InputMask, mask);
     }
 
+    static constexpr int kShortInterval = 60;  // of a double click, in milliseconds
+    const int usualInterval = QApplication::doubleClickInterval();
     TopicChoice topic;
     FixedClock clock{1234};
     MersenneSource random;
@@ -395,6 +402,21 @@ TEST_F(FrmSelectTest, SearchWithoutAMatchKeepsTheSelection) {
     ExpectChosen("Ratios", 78);
 }
 
+TEST_F(FrmSelectTest, TopicFoundStandsAboveThoseThatBeginAlike) {
+    OpenIndex();
+    TypeText(form, "conv");
+    const QRect view = IndexList.viewport()->rect();
+    EXPECT_LT(IndexList.visualItemRect(IndexList.currentItem()).top(), 5);
+    EXPECT_TRUE(view.contains(IndexList.visualRect(IndexRow("Converting Feet To Inches"))));
+}
+
+TEST_F(FrmSelectTest, ClickInTheListDoesNotScrollIt) {
+    OpenIndex();
+    const QPoint place = PlaceOf(IndexList, IndexRow("Arithmetic"));
+    Click(*IndexList.viewport(), place);
+    EXPECT_EQ(IndexList.indexAt(place), IndexRow("Arithmetic"));
+}
+
 TEST_F(FrmSelectTest, EmptiedSearchGoesBackToTheFirstRow) {
     OpenIndex();
     TypeText(form, "m");
@@ -559,7 +581,7 @@ TEST_F(FrmSelectOverASheet, LaterClickDoesReachIt) {
     ClickNode("Graphing");
     const QPoint place = PlaceOf(TreeView1, NodeRow("Plotting A Point"));
     Click(*TreeView1.viewport(), place);
-    QTest::qWait(80);
+    QTest::qWait(kShortInterval + 20);
     Click(sheet, OnSheet(*TreeView1.viewport(), place));
     EXPECT_EQ(sheet.events, 2);
 }
@@ -574,7 +596,7 @@ TEST_F(FrmSelectOverASheet, ReleaseAfterADoubleClickDoesNotReachIt) {
     QCoreApplication::sendEvent(IndexList.viewport(), &second);
     ExpectChosen("Addition", 200);
     const QPoint onSheet = OnSheet(*IndexList.viewport(), place);
-    QTest::qWait(80);
+    QTest::qWait(kShortInterval + 20);
     Release(sheet, onSheet);
     EXPECT_EQ(sheet.events, 0);
     Click(sheet, onSheet);

@@ -1,4 +1,3 @@
-#include "catalogue/box_keys.h"
 #include "tests/worksheet/desk.h"
 
 namespace numerello {

@@ -104,7 +104,7 @@ QImage Grey(const QImage& plain) {
 }
 
 QImage Paint(const QString& key, QSize pixels, Look look) {
-    const QImage plain = Plain(key, pixels);
+    QImage plain = Plain(key, pixels);
     switch (look) {
         case Look::Lifted:
             return Lifted(plain);

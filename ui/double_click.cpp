@@ -1,77 +1,48 @@
 #include "ui/double_click.h"
 
 #include <QApplication>
+#include <QMouseEvent>
 #include <QStyleHints>
 #include <QTimer>
-#include <utility>
 
 namespace numerello {
 
 namespace {
 
-class RestOfDoubleClick : public QObject {
+/// Takes presses alone: a release whose press no widget got is given to none.
+class SecondClickFilter : public QObject {
   public:
-    explicit RestOfDoubleClick(const QMouseEvent& last)
-        : QObject(qApp),
-          place(last.globalPosition()),
-          held(last.type() != QEvent::MouseButtonRelease) {
+    explicit SecondClickFilter(QPointF place) : QObject(qApp), place(place) {
         qApp->installEventFilter(this);
-        QTimer::singleShot(QApplication::doubleClickInterval(), this, [this] {
-            late = true;
-            EndWhenDone();
-        });
+        QTimer::singleShot(QApplication::doubleClickInterval(), this, &QObject::deleteLater);
     }
 
     bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-        if (!IsMouse(*event)) {
+        if (event->type() != QEvent::MouseButtonPress &&
+            event->type() != QEvent::MouseButtonDblClick) {
             return false;
         }
-        const auto& mouse = static_cast<const QMouseEvent&>(*event);
-        if (mouse.button() == Qt::LeftButton && event->type() == QEvent::MouseButtonRelease) {
-            const bool rest = std::exchange(held, false);
-            EndWhenDone();
-            return rest;
-        }
-        if (mouse.button() == Qt::LeftButton) {
-            held = !late && IsNear(mouse);
-            EndWhenDone();
-        }
-        return held;
+        const auto& press = static_cast<const QMouseEvent&>(*event);
+        return press.button() == Qt::LeftButton && IsNear(press.globalPosition());
     }
 
   private:
-    bool IsNear(const QMouseEvent& mouse) const {
+    bool IsNear(QPointF other) const {
         // Wayland does not say where on the screen its windows are.
         if (QGuiApplication::platformName().startsWith(QStringLiteral("wayland"))) {
             return true;
         }
-        const QPointF way = mouse.globalPosition() - place;
-        return way.manhattanLength() <=
+        return (other - place).manhattanLength() <=
                2 * QGuiApplication::styleHints()->mouseDoubleClickDistance();
     }
 
-    void EndWhenDone() {
-        if (late && !held) {
-            qApp->removeEventFilter(this);
-            deleteLater();
-        }
-    }
-
     QPointF place;
-    bool held;
-    bool late = false;
 };
 
 }  // namespace
 
-bool IsMouse(const QEvent& event) {
-    return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseMove ||
-           event.type() == QEvent::MouseButtonDblClick ||
-           event.type() == QEvent::MouseButtonRelease;
-}
-
-void SwallowRestOfDoubleClick(const QMouseEvent& last) {
-    new RestOfDoubleClick(last);
+void SwallowSecondClick(QPointF place) {
+    new SecondClickFilter(place);
 }
 
 }  // namespace numerello

@@ -38,6 +38,8 @@ EntryBox::EntryBox(int number, Problem& problem, QWidget* sheet)
     QFont digits(QStringLiteral("VantrelFont"));
     digits.setPixelSize(18);
     setFont(digits);
+    // The face keeps room for descenders, which digits do not have.
+    setTextMargins(3, 4, 3, 0);
     ShowText();
 }
 

@@ -1,7 +1,9 @@
 #include "ui/frm_logo.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QPainter>
+#include <QScreen>
 #include <chrono>
 
 #include "ui/artwork.h"
@@ -22,6 +24,8 @@ FrmLogo::FrmLogo() : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint
     setWindowTitle(QStringLiteral("Vantrel - Numerello"));
     setAccessibleName(QStringLiteral("Numerello"));
     setFixedSize(kSize);
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    move(screen.center() - rect().center());
     logotime.setObjectName(QStringLiteral("logotime"));
     logotime.setSingleShot(true);
     connect(&logotime, &QTimer::timeout, this, &QWidget::close);

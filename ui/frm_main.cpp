@@ -7,6 +7,7 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <array>
+#include <utility>
 
 #include "catalogue/chooser.h"
 #include "ui/artwork.h"
@@ -142,6 +143,8 @@ void FrmMain::Open() {
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     if (screen.width() < kOpeningSize.width() ||
         screen.height() < kOpeningSize.height() + kCaptionHeight) {
+        // Known before the desktop has answered, so that the chooser opens in its middle.
+        setGeometry(screen);
         showMaximized();
         return;
     }
@@ -223,6 +226,12 @@ void FrmMain::mnuNew_Click() {
     }
 }
 
+void FrmMain::AskForFirstTopic() {
+    if (!std::exchange(askedForTopic, true)) {
+        mnuNew_Click();
+    }
+}
+
 void FrmMain::LoadPaper() {
     // The old form goes first: it plays the same problem.
     delete takeCentralWidget();
@@ -276,7 +285,7 @@ void FrmMain::mnuShowStep_Click() {
 void FrmMain::mnuShowLight_Click() {
     if (paper != nullptr) {
         paper->show();
-    paper->ShowLight(Command("mnuShowLight")->isChecked());
+        paper->ShowLight(Command("mnuShowLight")->isChecked());
     }
 }
 

@@ -23,6 +23,9 @@ class FrmMain : public QMainWindow {
 
     void mnuNew_Click();
 
+    /// New Problem, but only the first time that it is called.
+    void AskForFirstTopic();
+
     const Problem& CurrentProblem() const { return problem; }
 
   private:
@@ -46,6 +49,7 @@ class FrmMain : public QMainWindow {
     MersenneSource random;
     WindowLearner learner{this};
     FrmPaper* paper = nullptr;
+    bool askedForTopic = false;
     QMap<QString, QAction*> commands;  ///< by control name
 };
 

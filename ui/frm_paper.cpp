@@ -28,10 +28,10 @@ constexpr int kLightTop = 24;
 
 constexpr int kMeterTopic = 23;
 constexpr int kGramTopic = 24;
-constexpr QPoint kValuePlace(67, 72);
-constexpr QPoint kFromPlace(67, 122);
-constexpr QPoint kToPlace(350, 122);
-constexpr QPoint kToLabelPlace(318, 122);
+constexpr QPoint kValuePlace(67, 87);
+constexpr QPoint kFromPlace(67, 133);
+constexpr QPoint kToPlace(350, 133);
+constexpr QPoint kToLabelPlace(318, 133);
 constexpr int kListWidth = 236;
 
 bool IsShortcut(const QKeyEvent& event) {

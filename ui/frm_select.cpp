@@ -74,6 +74,12 @@ int Indentation(const QWidget& window) {
     return PictureSize(window) + kRowPadding / 2;
 }
 
+bool IsMouse(const QEvent& event) {
+    return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseMove ||
+           event.type() == QEvent::MouseButtonDblClick ||
+           event.type() == QEvent::MouseButtonRelease;
+}
+
 int NodeOf(const QTreeWidgetItem& item) {
     return item.data(0, kNodeRole).toInt();
 }
@@ -135,27 +141,24 @@ class FrmSelect::ForwardingView : public Forwarding<View> {
     }
 
   private:
+    /// While the button is down the row below the pointer is lit, whatever the chooser knows; when
+    /// it comes up a row is clicked or the light goes back.
     bool Mouse(const QMouseEvent& mouse, QEvent* event) {
         FrmSelect& form = this->form;
-        const bool wasOpen = form.chooser.IsOpen();
         const QScopedValueRollback byMouse(form.mouseMoves, true);
-        bool taken = false;
-        const auto take = [&] { taken = View::viewportEvent(event); };
-        // While the button is down the row below the pointer is lit, whatever the chooser knows;
-        // when it comes up a row is clicked or the light goes back.
-        if (event->type() == QEvent::MouseButtonRelease) {
-            form.Forward([&] {
-                take();
-                if (mouseUp != nullptr) {
-                    (form.chooser.*mouseUp)();
-                }
-            });
-        } else {
-            form.secondClick = form.secondClick && event->type() == QEvent::MouseMove;
-            take();
+        if (event->type() != QEvent::MouseButtonRelease) {
+            return View::viewportEvent(event);
         }
+        const bool wasOpen = form.chooser.IsOpen();
+        bool taken = false;
+        form.Forward([&] {
+            taken = View::viewportEvent(event);
+            if (mouseUp != nullptr) {
+                (form.chooser.*mouseUp)();
+            }
+        });
         if (wasOpen && !form.chooser.IsOpen()) {
-            SwallowRestOfDoubleClick(mouse);
+            SwallowSecondClick(mouse.globalPosition());
         }
         return taken;
     }
@@ -171,7 +174,7 @@ class FrmSelect::SearchBox : public Forwarding<QLineEdit> {
   protected:
     void keyPressEvent(QKeyEvent* event) override {
         if (MovesThroughList(*event)) {
-            QCoreApplication::sendEvent(form.IndexList, event);
+            QCoreApplication::sendEvent(form.indexList, event);
         } else {
             Forwarding<QLineEdit>::keyPressEvent(event);
         }
@@ -194,17 +197,17 @@ FrmSelect::FrmSelect(TopicChoice& topic, std::vector<TreeNode> nodes, const Cloc
 }
 
 void FrmSelect::MakeTree() {
-    TreeView1 = new ForwardingView<QTreeWidget>(*this, ChooserControl::TreeView1,
+    treeView1 = new ForwardingView<QTreeWidget>(*this, ChooserControl::TreeView1,
                                                 &Chooser::TreeView1_KeyDown);
-    TreeView1->setObjectName(QStringLiteral("TreeView1"));
-    TreeView1->setAccessibleName(QStringLiteral("Topics by chapter"));
-    TreeView1->setHeaderHidden(true);
-    TreeView1->setIconSize({PictureSize(*this), PictureSize(*this)});
-    TreeView1->setIndentation(Indentation(*this));
-    TreeView1->setUniformRowHeights(true);
+    treeView1->setObjectName(QStringLiteral("TreeView1"));
+    treeView1->setAccessibleName(QStringLiteral("Topics by chapter"));
+    treeView1->setHeaderHidden(true);
+    treeView1->setIconSize({PictureSize(*this), PictureSize(*this)});
+    treeView1->setIndentation(Indentation(*this));
+    treeView1->setUniformRowHeights(true);
     // A double click on a folder opens it by its first half.
-    TreeView1->setExpandsOnDoubleClick(false);
-    TreeView1->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    treeView1->setExpandsOnDoubleClick(false);
+    treeView1->setEditTriggers(QAbstractItemView::NoEditTriggers);
 
     std::map<std::string_view, QTreeWidgetItem*> folders;
     for (const TreeNode& node : chooser.Nodes()) {
@@ -220,7 +223,7 @@ void FrmSelect::MakeTree() {
 }
 
 QTreeWidgetItem* FrmSelect::MakeItem(const TreeNode& node, QTreeWidgetItem* folder) {
-    auto* item = folder == nullptr ? new QTreeWidgetItem(TreeView1) : new QTreeWidgetItem(folder);
+    auto* item = folder == nullptr ? new QTreeWidgetItem(treeView1) : new QTreeWidgetItem(folder);
     item->setText(0, ToQString(node.caption));
     item->setIcon(0, ArtworkIcon(ToQString(node.image)));
     item->setSizeHint(0, {0, RowHeight(*this)});
@@ -228,24 +231,20 @@ QTreeWidgetItem* FrmSelect::MakeItem(const TreeNode& node, QTreeWidgetItem* fold
 }
 
 void FrmSelect::ConnectTree() {
-    connect(TreeView1, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
-        if (!std::exchange(secondClick, false)) {
-            Forward([&] { chooser.TreeView1_NodeClick(NodeOf(*item)); });
-        }
+    connect(treeView1, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
+        Forward([&] { chooser.TreeView1_NodeClick(NodeOf(*item)); });
     });
-    connect(TreeView1, &QTreeWidget::itemDoubleClicked, this, [this] {
-        secondClick = true;
-        Forward([&] { chooser.TreeView1_DblClick(); });
-    });
-    connect(TreeView1, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* item) {
+    connect(treeView1, &QTreeWidget::itemDoubleClicked, this,
+            [this] { Forward([&] { chooser.TreeView1_DblClick(); }); });
+    connect(treeView1, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* item) {
         Forward([&] { chooser.TreeView1_Expand(NodeOf(*item)); });
         // A row must not be scrolled away between the halves of a double click.
         childrenTimer.start(mouseMoves ? QApplication::doubleClickInterval() : 0);
     });
-    connect(TreeView1, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* item) {
+    connect(treeView1, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* item) {
         Forward([&] { chooser.TreeView1_Collapse(NodeOf(*item)); });
     });
-    connect(TreeView1, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
+    connect(treeView1, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
         if (item != nullptr && !mouseMoves) {
             Forward([&] { chooser.TreeView1_Moved(NodeOf(*item)); });
         }
@@ -253,36 +252,36 @@ void FrmSelect::ConnectTree() {
 }
 
 void FrmSelect::MakeIndex() {
-    Text1 = new SearchBox(*this, ChooserControl::Text1, &Chooser::Text1_KeyDown);
-    Text1->setObjectName(QStringLiteral("Text1"));
-    Text1->setAccessibleName(QStringLiteral("Search"));
-    Text1->setPlaceholderText(QStringLiteral("Search"));
-    Text1->setClearButtonEnabled(true);
-    Text1->setMinimumHeight(RowHeight(*this));
-    Text1->setTextMargins(kMargin / 2, 0, kMargin / 2, 0);
-    connect(Text1, &QLineEdit::textChanged, this, [this](const QString& text) {
+    text1 = new SearchBox(*this, ChooserControl::Text1, &Chooser::Text1_KeyDown);
+    text1->setObjectName(QStringLiteral("Text1"));
+    text1->setAccessibleName(QStringLiteral("Search"));
+    text1->setPlaceholderText(QStringLiteral("Search"));
+    text1->setClearButtonEnabled(true);
+    text1->setMinimumHeight(RowHeight(*this));
+    text1->setTextMargins(kMargin / 2, 0, kMargin / 2, 0);
+    connect(text1, &QLineEdit::textChanged, this, [this](const QString& text) {
         if (!mirroring) {
             Forward([&] { chooser.Text1_Change(text.toStdString()); });
             // The topics that begin alike stand below the one found.
-            IndexList->scrollToItem(IndexList->currentItem(), QAbstractItemView::PositionAtTop);
+            indexList->scrollToItem(indexList->currentItem(), QAbstractItemView::PositionAtTop);
         }
     });
 
-    IndexList = new ForwardingView<QListWidget>(
+    indexList = new ForwardingView<QListWidget>(
         *this, ChooserControl::IndexList, &Chooser::IndexList_KeyDown, &Chooser::IndexList_MouseUp);
-    IndexList->setObjectName(QStringLiteral("IndexList"));
-    IndexList->setAccessibleName(QStringLiteral("Topics in alphabetic order"));
-    IndexList->setUniformItemSizes(true);
-    IndexList->setIconSize(TreeView1->iconSize());
-    IndexList->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    indexList->setObjectName(QStringLiteral("IndexList"));
+    indexList->setAccessibleName(QStringLiteral("Topics in alphabetic order"));
+    indexList->setUniformItemSizes(true);
+    indexList->setIconSize(treeView1->iconSize());
+    indexList->setEditTriggers(QAbstractItemView::NoEditTriggers);
     const QIcon topicPicture = ArtworkIcon(QStringLiteral("book2"));
     for (const std::string_view caption : IndexRows()) {
-        auto* row = new QListWidgetItem(topicPicture, ToQString(caption), IndexList);
+        auto* row = new QListWidgetItem(topicPicture, ToQString(caption), indexList);
         row->setSizeHint({0, RowHeight(*this)});
     }
-    connect(IndexList, &QListWidget::currentRowChanged, this,
+    connect(indexList, &QListWidget::currentRowChanged, this,
             [this](int row) { Forward([&] { chooser.IndexList_Moved(row); }); });
-    connect(IndexList, &QListWidget::itemDoubleClicked, this,
+    connect(indexList, &QListWidget::itemDoubleClicked, this,
             [this] { Forward([&] { chooser.IndexList_DblClick(); }); });
 }
 
@@ -290,29 +289,29 @@ void FrmSelect::MakeTabs() {
     auto* topicPage = new QWidget;
     auto* topicColumn = new QVBoxLayout(topicPage);
     topicColumn->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    topicColumn->addWidget(TreeView1);
+    topicColumn->addWidget(treeView1);
 
     auto* indexPage = new QWidget;
     auto* indexColumn = new QVBoxLayout(indexPage);
     indexColumn->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     indexColumn->setSpacing(kMargin);
-    indexColumn->addWidget(Text1);
-    indexColumn->addWidget(IndexList);
+    indexColumn->addWidget(text1);
+    indexColumn->addWidget(indexList);
 
-    SSTab1 = new QTabWidget(this);
-    SSTab1->setObjectName(QStringLiteral("SSTab1"));
-    SSTab1->setAccessibleName(QStringLiteral("Topics"));
-    SSTab1->addTab(topicPage, QStringLiteral("Topic"));
-    SSTab1->addTab(indexPage, QStringLiteral("Index"));
-    SSTab1->tabBar()->setAccessibleName(QStringLiteral("Topic or index"));
-    SSTab1->tabBar()->installEventFilter(this);
-    connect(SSTab1, &QTabWidget::currentChanged, this, [this](int tab) {
+    ssTab1 = new QTabWidget(this);
+    ssTab1->setObjectName(QStringLiteral("SSTab1"));
+    ssTab1->setAccessibleName(QStringLiteral("Topics"));
+    ssTab1->addTab(topicPage, QStringLiteral("Topic"));
+    ssTab1->addTab(indexPage, QStringLiteral("Index"));
+    ssTab1->tabBar()->setAccessibleName(QStringLiteral("Topic or index"));
+    ssTab1->tabBar()->installEventFilter(this);
+    connect(ssTab1, &QTabWidget::currentChanged, this, [this](int tab) {
         Forward([&] { chooser.SSTab1_Click(tab == 0 ? ChooserTab::Topic : ChooserTab::Index); });
     });
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    column->addWidget(SSTab1);
+    column->addWidget(ssTab1);
 }
 
 /// Room for the longest caption three folders deep, and for the rows of a larger interface font.
@@ -336,7 +335,6 @@ void FrmSelect::showEvent(QShowEvent* event) {
     if (!event->spontaneous() && !chooser.IsOpen()) {
         chooser.Form_Load();
         Mirror();
-        TreeView1->scrollToTop();
     }
 }
 
@@ -381,7 +379,7 @@ void FrmSelect::Mirror() {
         return;
     }
     const QScopedValueRollback fromHere(mirroring, true);
-    SSTab1->setCurrentIndex(chooser.Tab() == ChooserTab::Topic ? 0 : 1);
+    ssTab1->setCurrentIndex(chooser.Tab() == ChooserTab::Topic ? 0 : 1);
     MirrorTree();
     MirrorIndex();
     QWidget* focus = ControlOf(chooser.Focus());
@@ -394,38 +392,38 @@ void FrmSelect::MirrorTree() {
     for (std::size_t node = 0; node < items.size(); ++node) {
         items[node]->setExpanded(chooser.IsExpanded(static_cast<int>(node)));
     }
-    TreeView1->setCurrentItem(items[static_cast<std::size_t>(chooser.SelectedNode())], 0,
+    treeView1->setCurrentItem(items[static_cast<std::size_t>(chooser.SelectedNode())], 0,
                               QItemSelectionModel::ClearAndSelect);
 }
 
 void FrmSelect::MirrorIndex() {
-    IndexList->setCurrentRow(chooser.IndexRow(), QItemSelectionModel::ClearAndSelect);
+    indexList->setCurrentRow(chooser.IndexRow(), QItemSelectionModel::ClearAndSelect);
     const QString search = ToQString(chooser.SearchText());
-    if (Text1->text() != search) {
-        Text1->setText(search);
+    if (text1->text() != search) {
+        text1->setText(search);
     }
 }
 
 QWidget* FrmSelect::ControlOf(ChooserControl control) const {
     switch (control) {
         case ChooserControl::Text1:
-            return Text1;
+            return text1;
         case ChooserControl::IndexList:
-            return IndexList;
+            return indexList;
         case ChooserControl::SSTab1:
-            return SSTab1->tabBar();
+            return ssTab1->tabBar();
         case ChooserControl::TreeView1:
             break;
     }
-    return TreeView1;
+    return treeView1;
 }
 
 /// A folder opened at the lower edge would else seem to do nothing.
 void FrmSelect::ShowChildren() {
-    QTreeWidgetItem* folder = TreeView1->currentItem();
+    QTreeWidgetItem* folder = treeView1->currentItem();
     if (folder != nullptr && folder->isExpanded()) {
-        TreeView1->scrollToItem(folder->child(folder->childCount() - 1));
-        TreeView1->scrollToItem(folder);
+        treeView1->scrollToItem(folder->child(folder->childCount() - 1));
+        treeView1->scrollToItem(folder);
     }
 }
 

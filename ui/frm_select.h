@@ -57,15 +57,14 @@ class FrmSelect : public QDialog {
     const TopicChoice& topic;
     Chooser chooser;
     std::vector<QTreeWidgetItem*> items;  ///< by the number of their node
-    QTabWidget* SSTab1 = nullptr;
-    QTreeWidget* TreeView1 = nullptr;
-    QLineEdit* Text1 = nullptr;
-    QListWidget* IndexList = nullptr;
-    QTimer childrenTimer;      ///< until the opened folder's children are scrolled into view
-    int openEvents = 0;        ///< events that are being forwarded, one inside the other
-    bool mirroring = false;    ///< what the controls tell comes from Mirror
-    bool mouseMoves = false;   ///< the tree lights a row because of the mouse
-    bool secondClick = false;  ///< the click at hand is the second half of a double click
+    QTabWidget* ssTab1 = nullptr;
+    QTreeWidget* treeView1 = nullptr;
+    QLineEdit* text1 = nullptr;
+    QListWidget* indexList = nullptr;
+    QTimer childrenTimer;     ///< until the opened folder's children are scrolled into view
+    int openEvents = 0;       ///< events that are being forwarded, one inside the other
+    bool mirroring = false;   ///< what the controls tell comes from Mirror
+    bool mouseMoves = false;  ///< the tree lights a row because of the mouse
 };
 
 }  // namespace numerello

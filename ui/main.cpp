@@ -2,6 +2,8 @@
 #include <QCommandLineParser>
 #include <QIcon>
 #include <QTimer>
+#include <QWindow>
+#include <chrono>
 #include <memory>
 
 #include "ui/artwork.h"
@@ -14,10 +16,18 @@ namespace {
 using numerello::FrmLogo;
 using numerello::FrmMain;
 
-/// The frame, then at once the question which topic.
+/// The frame, then at once the question which topic. The chooser waits until the frame has the
+/// focus: a desktop that is still placing the frame would give it the focus after the chooser.
 void ShowFrame(FrmMain& frame) {
+    constexpr std::chrono::milliseconds kLongest(500);
+    QObject::connect(qApp, &QGuiApplication::focusWindowChanged, &frame,
+                     [&frame](const QWindow* window) {
+                         if (window != nullptr && window == frame.windowHandle()) {
+                             QTimer::singleShot(0, &frame, &FrmMain::AskForFirstTopic);
+                         }
+                     });
+    QTimer::singleShot(kLongest, &frame, &FrmMain::AskForFirstTopic);
     frame.Open();
-    QTimer::singleShot(0, &frame, &FrmMain::mnuNew_Click);
 }
 
 /// The frame is made behind the splash, which is on the screen first.

@@ -32,9 +32,11 @@ def expect_lines(count):
 
 
 def main():
-    program, pictures = sys.argv[1:]
-    with screen.Screen(program, pictures) as desk:
+    program, pictures, *scale = sys.argv[1:]
+    with screen.Screen(program, pictures, scale=int(scale[0]) if scale else 1) as desk:
         desk.open_program()
+        desk.wait_for_mapped("Vantrel - Numerello")
+        desk.picture("splash")
         desk.wait_for_window("Choose problem type:")
         desk.picture("chooser-topic")
         nameless = screen.showing_without_name()

@@ -18,12 +18,12 @@ KEY_DELAY_MS = 12
 class Screen:
     """Starts Xvfb, openbox and the program; ends them all when left."""
 
-    def __init__(self, program, pictures, size="1280x800", environment=None):
+    def __init__(self, program, pictures, scale=1, environment=None):
         self.program = program
         self.pictures = pathlib.Path(pictures)
         self.pictures.mkdir(parents=True, exist_ok=True)
-        self.size = size
-        self.environment = environment or {}
+        self.size = f"{1280 * scale}x{800 * scale}"
+        self.environment = {"QT_SCALE_FACTOR": str(scale), **(environment or {})}
         self.children = []
 
     def __enter__(self):
@@ -49,7 +49,9 @@ class Screen:
         self._start(["openbox", "--sm-disable"])
         return self
 
-    def __exit__(self, *_):
+    def __exit__(self, failure, *_):
+        if failure:
+            self.picture("failed")
         for child in reversed(self.children):
             child.terminate()
         for child in reversed(self.children):
@@ -77,6 +79,16 @@ class Screen:
         """Waits until a window of that title has the focus."""
         return until(lambda: self._active_title() == title, f"the window {title!r}", seconds)
 
+    def wait_for_mapped(self, title, seconds=15):
+        """Waits until a window of that title is on the screen and painted."""
+        subprocess.run(
+            ["xdotool", "search", "--sync", "--onlyvisible", "--name", title],
+            check=True,
+            timeout=seconds,
+            stdout=subprocess.DEVNULL,
+        )
+        time.sleep(0.3)
+
     def _active_title(self):
         found = subprocess.run(
             ["xdotool", "getactivewindow", "getwindowname"], capture_output=True, text=True
@@ -92,6 +104,15 @@ class Screen:
     def click(self, x, y):
         subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True)
 
+    def click_on(self, name, role=None):
+        """Clicks the middle of the showing object of that name."""
+        found = until(lambda: find(name, role), f"something named {name!r} to click on")
+        self.click(*until(lambda: resting_middle(found), f"{name!r} to stand still"))
+
+    def settle(self):
+        """Lets a list open or close and a tree scroll; the accessibility tree does not tell."""
+        time.sleep(0.8)
+
     def picture(self, name):
         subprocess.run(["scrot", "-o", str(self.pictures / f"{name}.png")], check=True)
 
@@ -105,6 +126,16 @@ def until(condition, what, seconds=10):
             return value
         time.sleep(0.05)
     raise AssertionError(f"waited {seconds} s for {what}")
+
+
+def resting_middle(found):
+    """The middle of an object on the screen, None while it is still moving."""
+    places = []
+    for _ in range(2):
+        place = found.get_extents(Atspi.CoordType.SCREEN)
+        places.append((place.x + place.width // 2, place.y + place.height // 2))
+        time.sleep(0.1)
+    return places[0] if places[0] == places[1] and min(places[0]) > 0 else None
 
 
 def accessibles(root=None):

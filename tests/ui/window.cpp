@@ -87,8 +87,8 @@ void Release(QWidget& widget, QPoint place, Qt::MouseButton button) {
     QTest::mouseRelease(NativeWindow(widget), button, {}, InWindow(widget, place));
 }
 
-void DoubleClick(QWidget& widget, QPoint place) {
-    QTest::mouseDClick(NativeWindow(widget), Qt::LeftButton, {}, InWindow(widget, place));
+void DoubleClick(QWidget& widget, QPoint place, Qt::MouseButton button) {
+    QTest::mouseDClick(NativeWindow(widget), button, {}, InWindow(widget, place));
 }
 
 QPoint PlaceOf(QAbstractItemView& view, const QModelIndex& row) {

@@ -40,13 +40,13 @@ void PressKeys(QWidget& window, std::initializer_list<Qt::Key> keys);
 void PressKey(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = {});
 void TypeText(QWidget& window, const QString& text);
 
-/// The left button goes down and up. Places are those of the widget; none is its middle.
+/// A button goes down and up. Places are those of the widget; none is its middle.
 void Click(QWidget& widget);
 void Click(QWidget& widget, QPoint place, Qt::MouseButton button = Qt::LeftButton);
 void Press(QWidget& widget, QPoint place, Qt::MouseButton button = Qt::LeftButton);
 void Release(QWidget& widget, QPoint place, Qt::MouseButton button = Qt::LeftButton);
 /// Both clicks reach the window of the widget, even if the first one closes it.
-void DoubleClick(QWidget& widget, QPoint place);
+void DoubleClick(QWidget& widget, QPoint place, Qt::MouseButton button = Qt::LeftButton);
 
 /// The middle of a row's text, in the view's viewport, scrolled into view.
 QPoint PlaceOf(QAbstractItemView& view, const QModelIndex& row);

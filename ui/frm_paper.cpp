@@ -155,8 +155,7 @@ void FrmPaper::compute_Click() {
         const PointerGuard busy(Qt::BusyCursor);
         numerello::compute_Click(problem, AllSolvers(), learner, worksheet);
     }
-    Refresh();
-    ScrollToLineEnd();
+    ShowStep();
 }
 
 void FrmPaper::clear_Click() {
@@ -169,8 +168,16 @@ void FrmPaper::clear_Click() {
 
 void FrmPaper::NextStep() {
     worksheet.blinker_Click();
+    ShowStep();
+}
+
+void FrmPaper::ShowStep() {
     Refresh();
     ScrollToLineEnd();
+    // The boxes are locked by now, so the arrow takes the keys.
+    if (worksheet.ArrowVisible() && !IsTypedOnLine(problem.topic.ProblemType)) {
+        papers[static_cast<std::size_t>(problem.playback.CurrentPage)]->Arrow().setFocus();
+    }
 }
 
 /// Brings the arrow or the check mark behind the last line into view.

@@ -54,6 +54,7 @@ class FrmPaper : public QScrollArea {
     QLabel* AddLabel(const QString& text, QPoint place);
     void TypeText(const QString& text);
     void Refresh();
+    void ShowStep();
     void ShowSheets();
     void ShowLightPicture();
     void ShowEntry();

@@ -81,11 +81,11 @@ class Screen:
 
     def wait_for_mapped(self, title, seconds=15):
         """Waits until a window of that title is on the screen and painted."""
-        subprocess.run(
-            ["xdotool", "search", "--sync", "--onlyvisible", "--name", title],
-            check=True,
-            timeout=seconds,
-            stdout=subprocess.DEVNULL,
+        search = ["xdotool", "search", "--onlyvisible", "--name", title]
+        until(
+            lambda: subprocess.run(search, capture_output=True).returncode == 0,
+            f"the window {title!r}",
+            seconds,
         )
         time.sleep(0.3)
 

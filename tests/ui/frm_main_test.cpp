@@ -342,6 +342,10 @@ TEST_F(Window, AMetricProblemIsEnteredInABoxAndTwoLists) {
     EXPECT_EQ(Now().log.StepText[6], "2.5 km = 2500 m");
     EXPECT_TRUE(Arrow().isVisible());
     EXPECT_EQ(Arrow().y(), qRound(243 + 2.4 * 12 - 13));
+    EXPECT_TRUE(Arrow().hasFocus());
+    PressKey(frame, Qt::Key_Space);
+    EXPECT_EQ(Now().playback.ShownStep, 3);
+    EXPECT_TRUE(Arrow().hasFocus());
 }
 
 TEST_F(Window, ASolvedMetricProblemIsLocked) {

@@ -24,8 +24,21 @@ int WidthFor(qsizetype length) {
                : kNarrow + static_cast<int>(length - kNarrowLength) * kCharacterStep;
 }
 
-bool IsShortcut(const QKeyEvent& event) {
-    return (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
+/// Whether a key puts a character into the box; the others belong to the form.
+bool IsTyping(const QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
+        case Qt::Key_Escape:
+        case Qt::Key_Delete:
+            return false;
+        default:
+            return !event.text().isEmpty() &&
+                   (event.modifiers() &
+                    (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == 0;
+    }
 }
 
 }  // namespace
@@ -62,17 +75,14 @@ void EntryBox::Type(const QString& keys) {
 }
 
 void EntryBox::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        event->ignore();
-    } else if (event->matches(QKeySequence::Paste)) {
+    if (event->matches(QKeySequence::Paste)) {
         Type(QGuiApplication::clipboard()->text());
     } else if (event->key() == Qt::Key_Backspace) {
         Type(ToQString(kBackspace));
-    } else if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab ||
-               event->key() == Qt::Key_Escape || IsShortcut(*event) || event->text().isEmpty()) {
-        event->ignore();
-    } else {
+    } else if (IsTyping(*event)) {
         Type(event->text());
+    } else {
+        event->ignore();
     }
 }
 

@@ -253,11 +253,6 @@ void FrmPaper::hideEvent(QHideEvent* event) {
     KeepTimer();
 }
 
-bool FrmPaper::focusNextPrevChild(bool next) {
-    // The scroll area would scroll to whatever gets the focus; the sheet has its own order.
-    return QAbstractScrollArea::focusNextPrevChild(next);
-}
-
 void FrmPaper::Refresh() {
     ShowSheets();
     ShowEntry();

@@ -45,7 +45,6 @@ class FrmPaper : public QScrollArea {
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
-    bool focusNextPrevChild(bool next) override;
 
   private:
     void MakeDesk();

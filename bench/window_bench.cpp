@@ -1,0 +1,83 @@
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QPixmap>
+
+#include "catalogue/chooser.h"
+#include "ui/font_metrics.h"
+#include "ui/frm_paper.h"
+
+namespace numerello {
+namespace {
+
+/// A sheet of the frame's usual size with 40 inches typed on it.
+class OpenSheet {
+  public:
+    OpenSheet() {
+        MersenneSource random;
+        TreeViewSelect("Converting Inches To Yards", problem.topic, SystemClock(), random);
+        paper = std::make_unique<FrmPaper>(problem, learner, nullptr);
+        paper->resize(1100, 690);
+        paper->show();
+        paper->Form_KeyPress("4");
+        paper->Form_KeyPress("0");
+    }
+
+    void Restart() {
+        EraseProblem(problem, noStage);
+        paper->Form_KeyPress("4");
+        paper->Form_KeyPress("0");
+        paper->compute_Click();
+    }
+
+    FrmPaper& Paper() { return *paper; }
+    const Problem& Now() const { return problem; }
+
+  private:
+    Problem problem;
+    WindowLearner learner{nullptr};
+    Stage noStage;
+    std::unique_ptr<FrmPaper> paper;
+};
+
+/// A click on the arrow until the sheet is painted anew.
+void NextStepPainted(benchmark::State& state) {
+    OpenSheet sheet;
+    sheet.Restart();
+    for (auto _ : state) {
+        if (sheet.Now().playback.ShownStep >= sheet.Now().log.StepCount - 1) {
+            state.PauseTiming();
+            sheet.Restart();
+            state.ResumeTiming();
+        }
+        sheet.Paper().NextStep();
+        benchmark::DoNotOptimize(sheet.Paper().grab());
+    }
+}
+BENCHMARK(NextStepPainted)->Unit(benchmark::kMillisecond);
+
+/// A key until the sheet is painted anew.
+void KeyPainted(benchmark::State& state) {
+    OpenSheet sheet;
+    bool erase = true;
+    for (auto _ : state) {
+        sheet.Paper().Form_KeyPress(erase ? "\b" : "0");
+        erase = !erase;
+        benchmark::DoNotOptimize(sheet.Paper().grab());
+    }
+}
+BENCHMARK(KeyPainted)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace numerello
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication app(argc, argv);
+    if (!numerello::LoadSheetFont()) {
+        return 1;
+    }
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

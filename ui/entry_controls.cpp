@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <algorithm>
 
 #include "catalogue/box_keys.h"
 #include "catalogue/guided_input.h"
@@ -47,6 +48,7 @@ EntryBox::EntryBox(int number, Problem& problem, QWidget* sheet)
     : QLineEdit(sheet), number(number), problem(problem) {
     setObjectName(QStringLiteral("Text%1").arg(number));
     setAttribute(Qt::WA_InputMethodEnabled, false);
+    setAcceptDrops(false);
     setFixedSize(kNarrow, kHeight);
     QFont digits(QStringLiteral("VantrelFont"));
     digits.setPixelSize(18);
@@ -92,6 +94,10 @@ void EntryBox::mousePressEvent(QMouseEvent* /*event*/) {
 
 void EntryBox::mouseMoveEvent(QMouseEvent* /*event*/) {}
 
+void EntryBox::mouseReleaseEvent(QMouseEvent* /*event*/) {
+    // The middle button would insert the selection of another window, past the box rule.
+}
+
 void EntryBox::mouseDoubleClickEvent(QMouseEvent* /*event*/) {}
 
 void EntryBox::focusInEvent(QFocusEvent* event) {
@@ -107,12 +113,21 @@ EntryList::EntryList(int number, Problem& problem, QWidget* sheet)
     : QComboBox(sheet), number(number), problem(problem) {
     setObjectName(QStringLiteral("Combo%1").arg(number));
     setPlaceholderText(QStringLiteral("Select a choice from the list."));
-    setFixedHeight(kHeight);
+    setFixedHeight(std::max(kHeight, sizeHint().height()));
     connect(this, &QComboBox::activated, this, &EntryList::Choose);
 }
 
 void EntryList::ShowChoice() {
     setCurrentIndex(problem.boxes.ListIndex[static_cast<std::size_t>(number) - 1]);
+}
+
+int EntryList::WidthForAll() const {
+    constexpr int kFrameAndArrow = 44;
+    int text = fontMetrics().horizontalAdvance(placeholderText());
+    for (int row = 0; row < count(); ++row) {
+        text = std::max(text, fontMetrics().horizontalAdvance(itemText(row)));
+    }
+    return text + kFrameAndArrow;
 }
 
 void EntryList::Choose(int row) {

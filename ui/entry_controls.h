@@ -25,6 +25,7 @@ class EntryBox : public QLineEdit {
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
@@ -45,6 +46,9 @@ class EntryList : public QComboBox {
     EntryList(int number, Problem& problem, QWidget* sheet);
 
     void ShowChoice();
+
+    /// As wide as its longest row, that without a choice included.
+    int WidthForAll() const;
 
   signals:
     void Chosen();

@@ -13,6 +13,7 @@
 #include "ui/artwork.h"
 #include "ui/desk.h"
 #include "ui/frm_select.h"
+#include "ui/held_enter.h"
 #include "ui/pointer.h"
 
 namespace numerello {
@@ -122,6 +123,8 @@ FrmMain::FrmMain() {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Vantrel - Numerello"));
     setMinimumSize(kSmallestSize);
+    // The frame's own menu would offer to take the toolbar away.
+    setContextMenuPolicy(Qt::NoContextMenu);
     setCentralWidget(new Desk(this));
     MakeMenus();
     MakeToolbar();
@@ -219,6 +222,7 @@ void FrmMain::mnuNew_Click() {
         const PointerGuard busy(Qt::BusyCursor);
         nodes = BuildTopicTree(problem.topic, true);
     }
+    const HeldEnterGuard oneEnter;
     FrmSelect chooser(problem.topic, std::move(nodes), clock, random, this);
     chooser.exec();
     if (!saved.RestoreWhenCancelled(problem.topic)) {

@@ -29,10 +29,12 @@ constexpr int kLightTop = 24;
 constexpr int kMeterTopic = 23;
 constexpr int kGramTopic = 24;
 constexpr QPoint kValuePlace(67, 87);
-constexpr QPoint kFromPlace(67, 133);
-constexpr QPoint kToPlace(350, 133);
-constexpr QPoint kToLabelPlace(318, 133);
-constexpr int kListWidth = 236;
+constexpr QPoint kUnitsPlace(67, 133);
+constexpr int kUnitsRight = 750;
+constexpr int kUnitsGap = 16;
+
+/// The light may cover the sheet, but not where anything is written.
+constexpr int kLightLeftOnSheet = 752;
 
 bool IsShortcut(const QKeyEvent& event) {
     return (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
@@ -107,34 +109,47 @@ void FrmPaper::MakeEntry() {
         value->move(kValuePlace);
         value->setAccessibleName(QStringLiteral("Value"));
         boxes.push_back(value);
-        const int kind = code == kMeterTopic ? 1 : 2;
-        AddUnitList(1, kind, kFromPlace);
-        AddLabel(QStringLiteral("to"), kToLabelPlace);
-        AddUnitList(2, kind, kToPlace);
-        lists[0]->setAccessibleName(QStringLiteral("From"));
-        lists[1]->setAccessibleName(QStringLiteral("To"));
-        connect(value, &EntryBox::Typed, this, &FrmPaper::Refresh);
+        MakeUnits(code == kMeterTopic ? 1 : 2);
+        connect(value, &EntryBox::Typed, this, [this, value] {
+            Refresh();
+            ensureWidgetVisible(value);
+        });
         setFocusProxy(value);
     } else if (!IsTypedOnLine(code) || !GrammarStands(problem.topic)) {
         AddLabel(QStringLiteral("The entry of this topic is not built yet."), kValuePlace);
     }
 }
 
-void FrmPaper::AddUnitList(int number, int UnitKind, QPoint place) {
+/// One row: the unit of the value, and the one that is asked for.
+void FrmPaper::MakeUnits(int UnitKind) {
+    QLabel* to = AddLabel(QStringLiteral("to"), kUnitsPlace);
+    EntryList* from = AddUnitList(1, UnitKind, QStringLiteral("From"));
+    EntryList* into = AddUnitList(2, UnitKind, QStringLiteral("To"));
+    to->adjustSize();
+    const int room = (kUnitsRight - kUnitsPlace.x() - to->width()) / 2 - kUnitsGap;
+    const int width = std::min(from->WidthForAll(), room);
+    from->move(kUnitsPlace);
+    from->setFixedWidth(width);
+    to->setFixedHeight(from->height());
+    to->move(from->geometry().right() + kUnitsGap, kUnitsPlace.y());
+    into->move(to->geometry().right() + kUnitsGap, kUnitsPlace.y());
+    into->setFixedWidth(width);
+}
+
+EntryList* FrmPaper::AddUnitList(int number, int UnitKind, const QString& name) {
     auto* list = new EntryList(number, problem, papers[0]);
     for (int row = 0; row < kMetricItems; ++row) {
         list->addItem(ToQString(MetricItem(row, UnitKind)));
     }
-    list->move(place);
-    list->setFixedWidth(kListWidth);
+    list->setAccessibleName(name);
     list->ShowChoice();
     connect(list, &EntryList::Chosen, this, &FrmPaper::Refresh);
     lists.push_back(list);
+    return list;
 }
 
 QLabel* FrmPaper::AddLabel(const QString& text, QPoint place) {
     auto* label = new QLabel(text, papers[0]);
-    label->setFixedHeight(30);
     QPalette ink = label->palette();
     ink.setColor(QPalette::WindowText, Qt::black);
     label->setPalette(ink);
@@ -160,8 +175,9 @@ void FrmPaper::compute_Click() {
 
 void FrmPaper::clear_Click() {
     if (numerello::clear_Click(problem, learner, worksheet)) {
-        FitDesk();
         Refresh();
+        horizontalScrollBar()->setValue(0);
+        verticalScrollBar()->setValue(0);
         setFocus();
     }
 }
@@ -211,6 +227,7 @@ void FrmPaper::TypeText(const QString& text) {
         Form_KeyPress(key);
     }
     Refresh();
+    ScrollToLineEnd();
 }
 
 void FrmPaper::keyPressEvent(QKeyEvent* event) {
@@ -245,11 +262,14 @@ void FrmPaper::resizeEvent(QResizeEvent* event) {
 
 void FrmPaper::showEvent(QShowEvent* event) {
     QScrollArea::showEvent(event);
+    onScreen = true;
     KeepTimer();
 }
 
 void FrmPaper::hideEvent(QHideEvent* event) {
+    // Also comes when the frame is minimised, while the form still counts as visible.
     QScrollArea::hideEvent(event);
+    onScreen = false;
     KeepTimer();
 }
 
@@ -273,16 +293,15 @@ void FrmPaper::ShowSheets() {
         papers[static_cast<std::size_t>(index)]->raise();
     }
     light->raise();
-    setAccessibleDescription(
-        problem.input.InputError.empty() ? SheetText() : ToQString(problem.input.InputError));
+    const bool refused = problem.controls.Light == EntryControls::LightPicture::Incorrect;
+    setAccessibleDescription(refused ? ToQString(problem.input.InputError) : SheetText());
 }
 
 /// What stands on the sheets, for those who hear it.
 QString FrmPaper::SheetText() const {
     QString text = ToQString(problem.typed.ProblemText);
-    const int shown = std::min(problem.playback.ShownStep, problem.log.StepCount - 1);
-    for (int i = 2; i <= shown; ++i) {
-        text += u'\n' + ToQString(std::as_const(problem.log).StepText[i]);
+    for (const std::string& line : worksheet.DrawnLines()) {
+        text += u'\n' + ToQString(line);
     }
     return text;
 }
@@ -319,11 +338,13 @@ void FrmPaper::FitDesk() {
     desk->resize(size);
     const int sheetRight = qRound(worksheet.SheetAt(0).left) + kSheetSize.width();
     const int figureLeft = std::min(sheetRight + 16, viewport()->width() - 116);
-    light->move(figureLeft + (108 - kLightSize.width()) / 2, kLightTop);
+    const int lightLeft = figureLeft + (108 - kLightSize.width()) / 2;
+    light->move(std::max(lightLeft, qRound(worksheet.SheetAt(0).left) + kLightLeftOnSheet),
+                kLightTop);
 }
 
 void FrmPaper::KeepTimer() {
-    const bool flashing = worksheet.Timer2Enabled() && isVisible();
+    const bool flashing = worksheet.Timer2Enabled() && onScreen;
     if (flashing && !timer2.isActive()) {
         timer2.start();
     } else if (!flashing) {

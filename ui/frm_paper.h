@@ -49,7 +49,8 @@ class FrmPaper : public QScrollArea {
   private:
     void MakeDesk();
     void MakeEntry();
-    void AddUnitList(int number, int UnitKind, QPoint place);
+    void MakeUnits(int UnitKind);
+    EntryList* AddUnitList(int number, int UnitKind, const QString& name);
     QLabel* AddLabel(const QString& text, QPoint place);
     void TypeText(const QString& text);
     void Refresh();
@@ -71,7 +72,8 @@ class FrmPaper : public QScrollArea {
     QLabel* light;
     std::vector<EntryBox*> boxes;
     std::vector<EntryList*> lists;
-    QTimer timer2;
+    QTimer timer2{this};
+    bool onScreen = false;
 };
 
 }  // namespace numerello

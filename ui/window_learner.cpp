@@ -3,6 +3,7 @@
 #include <QInputDialog>
 #include <QMessageBox>
 
+#include "ui/held_enter.h"
 #include "ui/pointer.h"
 #include "ui/text.h"
 
@@ -18,6 +19,7 @@ QString TitleOf(std::string_view title) {
 int Ask(QWidget* window, QMessageBox::Icon icon, std::string_view title, std::string_view text,
         QMessageBox::StandardButtons buttons) {
     const PointerGuard notBusy(Qt::ArrowCursor);
+    const HeldEnterGuard oneEnter;
     QMessageBox box(icon, TitleOf(title), ToQString(text), buttons, window);
     box.setObjectName(QStringLiteral("MessageBox"));
     box.setTextFormat(Qt::PlainText);

@@ -85,9 +85,13 @@ void Worksheet::ShowLastLine() {
 
 void Worksheet::PrintStep(int index, bool showBlinker) {
     // The learner was told once that the sheets are used up.
+    if (outOfSheets) {
+        return;
+    }
+    const std::string& line = std::as_const(problem.log).StepText[index];
+    FPrintLine(line, showBlinker, *this, problem.playback, learner);
     if (!outOfSheets) {
-        FPrintLine(std::as_const(problem.log).StepText[index], showBlinker, *this, problem.playback,
-                   learner);
+        drawnLines.push_back(line);
     }
 }
 

@@ -76,6 +76,7 @@ void Worksheet::ClearTo(int lastSheet) {
     timer2Enabled = false;
     arrowFrame = false;
     outOfSheets = false;
+    drawnLines.clear();
 }
 
 Sheet& Worksheet::CurrentSheet() {

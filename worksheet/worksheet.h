@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -61,6 +62,9 @@ class Worksheet : public Stage, public PaperSheets {
     /// The numbers of the visible sheets, the lowest first.
     const std::vector<int>& StackingOrder() const { return stack.Order(); }
 
+    /// The solution's lines as they were drawn, in order.
+    const std::vector<std::string>& DrawnLines() const { return drawnLines; }
+
     /// Whether the arrow waits on the sheet in use.
     bool ArrowVisible() const;
 
@@ -104,6 +108,7 @@ class Worksheet : public Stage, public PaperSheets {
     bool timer2Enabled = false;
     bool arrowFrame = false;
     bool outOfSheets = false;  ///< the log outgrew the tenth sheet: the rest stays undrawn
+    std::vector<std::string> drawnLines;
     std::function<void()> onChange;
 };
 

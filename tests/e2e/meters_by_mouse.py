@@ -33,6 +33,10 @@ def main():
         desk.wait_for_window("Vantrel - Numerello")
         screen.until(lambda: screen.find(TOPIC), "the sheet")
         desk.type("2.5")
+        desk.select_elsewhere("meter")
+        desk.click_on("Value", button=2)
+        desk.settle()
+        assert screen.find("Value").get_text(0, 20) == "2.5", "a middle click brings no foreign text"
         for name, row in (("From", 6), ("To", 3)):
             desk.click_on(name)
             desk.settle()

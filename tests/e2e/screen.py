@@ -47,7 +47,17 @@ class Screen:
             }
         )
         self._start(["openbox", "--sm-disable"])
+        until(self._has_window_manager, "the window manager")
+        # The accessibility bus has to stand before a program asks for it.
+        Atspi.get_desktop(0).get_child_count()
         return self
+
+    @staticmethod
+    def _has_window_manager():
+        found = subprocess.run(
+            ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True, text=True
+        )
+        return "window id" in found.stdout
 
     def __exit__(self, failure, *_):
         if failure:
@@ -101,13 +111,20 @@ class Screen:
     def key(self, *names):
         subprocess.run(["xdotool", "key", "--delay", str(KEY_DELAY_MS), *names], check=True)
 
-    def click(self, x, y):
-        subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", "1"], check=True)
+    def click(self, x, y, button=1):
+        subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", str(button)], check=True)
 
-    def click_on(self, name, role=None):
+    def select_elsewhere(self, text):
+        """Another program selects a text, which a middle click would insert."""
+        holder = self._start(["xsel", "--primary", "--input", "--nodetach"], stdin=subprocess.PIPE)
+        holder.stdin.write(text.encode())
+        holder.stdin.close()
+        time.sleep(0.2)
+
+    def click_on(self, name, role=None, button=1):
         """Clicks the middle of the showing object of that name."""
         found = until(lambda: find(name, role), f"something named {name!r} to click on")
-        self.click(*until(lambda: resting_middle(found), f"{name!r} to stand still"))
+        self.click(*until(lambda: resting_middle(found), f"{name!r} to stand still"), button)
 
     def settle(self):
         """Lets a list open or close and a tree scroll; the accessibility tree does not tell."""

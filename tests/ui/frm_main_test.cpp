@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
 #include <QGuiApplication>
@@ -14,12 +15,15 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 
 #include "tests/ui/window.h"
 #include "ui/font_metrics.h"
+#include "ui/frm_logo.h"
 #include "ui/sheet_widget.h"
 
 namespace numerello {
@@ -50,6 +54,14 @@ class Window : public testing::Test {
         const WhenDialogOpens chooser(QStringLiteral("frmSelect"),
                                       [](QWidget& dialog) { PressKey(dialog, Qt::Key_Escape); });
         Command("mnuNew").trigger();
+    }
+
+    void Erase() {
+        const WhenDialogOpens question(QStringLiteral("MessageBox"), [](QWidget& dialog) {
+            PressButton(dialog, QStringLiteral("OK"));
+        });
+        Command("mnuErase").trigger();
+        ShowActive(frame);
     }
 
     void Type(const QString& keys) { TypeText(frame, keys); }
@@ -177,6 +189,130 @@ TEST_F(Window, ASmallWindowScrollsToTheArrowAndTheCheckMark) {
     const QPoint end(qRound(Now().playback.LineEndX + 20), qRound(Now().playback.LineEndY));
     const QPoint mark = Find<QWidget>(frame, QStringLiteral("Paper0")).mapTo(view.viewport(), end);
     EXPECT_TRUE(view.viewport()->rect().contains(mark));
+
+    EXPECT_GT(view.verticalScrollBar()->value(), 0);
+    Erase();
+    EXPECT_EQ(view.verticalScrollBar()->value(), 0);
+    view.verticalScrollBar()->setValue(view.verticalScrollBar()->maximum());
+    Type(QStringLiteral("7"));
+    EXPECT_LT(view.verticalScrollBar()->value(), 100);
+}
+
+TEST_F(Window, AHeldEnterDoesNotAnswerABox) {
+    Choose(QStringLiteral("Converting Feet To Yards"));
+    Type(QStringLiteral("7"));
+    const WhenDialogOpens question(QStringLiteral("MessageBox"), [](QWidget& dialog) {
+        QWidget* focused = dialog.focusWidget();
+        QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"),
+                           true);
+        QCoreApplication::sendEvent(focused == nullptr ? &dialog : focused, &repeated);
+        EXPECT_TRUE(dialog.isVisible());
+        PressButton(dialog, QStringLiteral("Cancel"));
+    });
+    Command("mnuErase").trigger();
+    EXPECT_EQ(SheetText(), "7");
+}
+
+TEST_F(Window, ARefusalIsForgottenWithTheLight) {
+    Choose(QStringLiteral("Converting Feet To Yards"));
+    Type(QStringLiteral("7x"));
+    Enter();
+    EXPECT_EQ(SheetText(), "7\nThere are 3 feet in a yard.");
+}
+
+TEST_F(Window, TheDescriptionTellsWhatWasDrawn) {
+    Choose(QStringLiteral("Converting Feet To Yards"));
+    Type(QStringLiteral("7"));
+    Enter();
+    Enter();
+    const QString drawn = SheetText();
+    EXPECT_EQ(drawn.count(u'\n'), 2);
+    Command("mnuShowStep").trigger();
+    EXPECT_EQ(SheetText(), drawn);
+    Click(Arrow());
+    EXPECT_EQ(SheetText(), drawn);
+    EXPECT_FALSE(Arrow().isVisible());
+}
+
+TEST_F(Window, ForeignTextReachesNoBox) {
+    Choose(QStringLiteral("Meter Conversions"));
+    auto& value = Find<QLineEdit>(frame, QStringLiteral("Text4"));
+    QGuiApplication::clipboard()->setText(QStringLiteral("a1b2"));
+    EXPECT_FALSE(value.acceptDrops());
+    PressKey(frame, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(value.text(), "12");
+}
+
+TEST_F(Window, TheUnitsFitALargeInterfaceFont) {
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPixelSize(22);
+    QApplication::setFont(large);
+    Choose(QStringLiteral("Meter Conversions"));
+    auto& from = Find<QComboBox>(frame, QStringLiteral("Combo1"));
+    auto& to = Find<QComboBox>(frame, QStringLiteral("Combo2"));
+    EXPECT_GE(from.width(), from.fontMetrics().horizontalAdvance(from.placeholderText()));
+    EXPECT_GE(from.height(), from.sizeHint().height());
+    EXPECT_LT(from.geometry().right(), to.geometry().left());
+    EXPECT_LE(to.geometry().right(), 750);
+    QApplication::setFont(usual);
+}
+
+TEST_F(Window, AMinimisedFrameDoesNotFlash) {
+    Choose(QStringLiteral("Converting Feet To Yards"));
+    Type(QStringLiteral("7"));
+    Enter();
+    auto& timer = Find<QTimer>(frame, QStringLiteral("Timer2"));
+    EXPECT_TRUE(timer.isActive());
+    frame.hide();
+    EXPECT_FALSE(timer.isActive());
+    frame.show();
+    EXPECT_TRUE(timer.isActive());
+    while (Arrow().isVisible()) {
+        EXPECT_TRUE(timer.isActive());
+        Click(Arrow());
+    }
+    EXPECT_FALSE(timer.isActive());
+}
+
+TEST_F(Window, TheLineEndsAtTheEdgeOfTheSheet) {
+    // No number is that long, so the end of the line is set by hand.
+    Choose(QStringLiteral("Converting Feet To Yards"));
+    Type(QStringLiteral("7"));
+    const_cast<Problem&>(Now()).playback.LineEndX = 730;
+    Type(QStringLiteral("5x"));
+    EXPECT_EQ(SheetText(), "7");
+    PressKey(frame, Qt::Key_Backspace);
+    EXPECT_EQ(SheetText(), "");
+}
+
+TEST_F(Window, TheToolbarKeepsItsOrder) {
+    QStringList order;
+    auto& toolbar = Find<QToolBar>(frame, QStringLiteral("Toolbar1"));
+    for (QAction* action : toolbar.actions()) {
+        order += action->isSeparator() ? QStringLiteral("|")
+                                       : toolbar.widgetForAction(action)->objectName();
+    }
+    EXPECT_EQ(
+        order.join(u' ').toStdString(),
+        "new | save open print | practice graph | solve | example clear | root power | fracdec "
+        "| web");
+}
+
+TEST(Splash, ClosesByItselfOnAKeyAndOnAClick) {
+    LoadSheetFont();
+    const auto closed = [](const std::function<void(FrmLogo&)>& action, int patience) {
+        FrmLogo logo;
+        bool done = false;
+        QObject::connect(&logo, &FrmLogo::Closed, [&done] { done = true; });
+        ShowActive(logo);
+        action(logo);
+        return QTest::qWaitFor([&done] { return done; }, patience);
+    };
+    EXPECT_FALSE(closed([](FrmLogo&) {}, 700));
+    EXPECT_TRUE(closed([](FrmLogo&) {}, 1500));
+    EXPECT_TRUE(closed([](FrmLogo& logo) { PressKey(logo, Qt::Key_Space); }, 100));
+    EXPECT_TRUE(closed([](FrmLogo& logo) { Click(logo); }, 100));
 }
 
 TEST_F(Window, EnterSolvesThenSteps) {
@@ -209,8 +345,11 @@ TEST_F(Window, TheArrowStandsBehindTheLineAndFlashes) {
     Enter();
     EXPECT_EQ(Arrow().size(), QSize(36, 36));
     EXPECT_EQ(Arrow().toolTip(), "Next Step");
-    EXPECT_EQ(Arrow().x(), qRound(Now().playback.LineEndX + 10));
-    EXPECT_EQ(Arrow().y(), qRound(Now().playback.LineEndY - 13));
+    // Behind the line's end less 4, and 13 above the second line's base, 81 + 28.8 + 46.
+    const double width = FontMetrics(FontMetrics::Medium::Sheet)
+                             .Width("There are 3 feet in a yard.", {"VantrelFont", 12});
+    EXPECT_EQ(Arrow().x(), qRound(67 + width - 4 + 10));
+    EXPECT_EQ(Arrow().y(), qRound(81 + 28.8 + 46 - 13));
     const QImage bright = Arrow().grab().toImage();
     EXPECT_TRUE(QTest::qWaitFor([&] { return Arrow().grab().toImage() != bright; }, 1500));
     EXPECT_TRUE(QTest::qWaitFor([&] { return Arrow().grab().toImage() == bright; }, 1500));

@@ -97,7 +97,8 @@ bool GrammarStands(const TopicChoice& topic) {
 
 void Form_KeyPress(Problem& problem, std::string_view key) {
     problem.input.KeyAccepted = false;
-    if (!IsTypedOnLine(problem.topic.ProblemType) || !problem.playback.TypingEnabled) {
+    if (!IsTypedOnLine(problem.topic.ProblemType) || !GrammarStands(problem.topic) ||
+        !problem.playback.TypingEnabled) {
         return;
     }
     FormFilter(problem, key);

@@ -11,7 +11,8 @@ namespace numerello {
 
 inline constexpr std::string_view kBackspace = "\b";
 
-/// Whether the grammar of the topic's line stands. The box topics count: their line takes no key.
+/// Whether the grammar of the topic's line stands; until then the line takes no key. The box topics
+/// count: theirs never does.
 bool GrammarStands(const TopicChoice& topic);
 
 /// A key on the form: a character or kBackspace. Judges it, sets the light and enables Solve.

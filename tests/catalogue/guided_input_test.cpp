@@ -146,6 +146,13 @@ TEST(NumberLine, ABoxTopicTakesNoKey) {
     EXPECT_EQ(problem.typed.ProblemText, "");
 }
 
+TEST(NumberLine, ATopicWithoutItsGrammarTakesNoKey) {
+    Problem problem = Opened("Arithmetic");
+    Type(problem, "4+2");
+    EXPECT_EQ(problem.typed.ProblemText, "");
+    EXPECT_FALSE(problem.controls.SolveEnabled);
+}
+
 TEST(NumberLine, IsCompleteWhenItEndsInADigit) {
     Problem problem = Opened(kTopic);
     EXPECT_FALSE(LineIsComplete(problem));

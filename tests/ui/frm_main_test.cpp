@@ -546,6 +546,18 @@ TEST_F(Window, ATopicWithoutASolverSaysSoAndKeepsTheProblem) {
     EXPECT_EQ(SheetText(), "123");
 }
 
+TEST_F(Window, ATopicWithoutAnEntrySaysSoOnItsSheet) {
+    for (const char* caption : {"Arithmetic", "Area of a Circle"}) {
+        Choose(QString::fromUtf8(caption));
+        const auto labels = Find<QWidget>(frame, QStringLiteral("Paper0")).findChildren<QLabel*>();
+        ASSERT_EQ(labels.size(), 1) << caption;
+        EXPECT_EQ(labels.front()->text(), "The entry of this topic is not built yet.");
+        Type(QStringLiteral("4"));
+        EXPECT_EQ(SheetText(), "");
+        EXPECT_FALSE(Command("mnuSolve").isEnabled());
+    }
+}
+
 TEST_F(Window, AnUnfinishedNumberIsAnsweredWithTheFormatMessage) {
     Choose(QStringLiteral("Converting Feet To Yards"));
     Type(QStringLiteral("7."));

@@ -2,9 +2,7 @@
 
 import os
 import pathlib
-import shutil
 import subprocess
-import tempfile
 import time
 
 import gi
@@ -27,7 +25,6 @@ class Screen:
         self.children = []
 
     def __enter__(self):
-        self.home = tempfile.mkdtemp(prefix="numerello-e2e-")
         read, write = os.pipe()
         self._start(
             ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{self.size}x24", "-nolisten", "tcp"],
@@ -40,9 +37,6 @@ class Screen:
             {
                 "QT_QPA_PLATFORM": "xcb",
                 "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
-                "HOME": self.home,
-                "XDG_CONFIG_HOME": self.home + "/config",
-                "XDG_RUNTIME_DIR": self.home,
                 **self.environment,
             }
         )
@@ -69,7 +63,6 @@ class Screen:
                 child.wait(5)
             except subprocess.TimeoutExpired:
                 child.kill()
-        shutil.rmtree(self.home, ignore_errors=True)
 
     def _start(self, command, **options):
         child = subprocess.Popen(

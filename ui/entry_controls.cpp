@@ -1,7 +1,5 @@
 #include "ui/entry_controls.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <algorithm>
 
@@ -78,7 +76,7 @@ void EntryBox::Type(const QString& keys) {
 
 void EntryBox::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Paste)) {
-        Type(QGuiApplication::clipboard()->text());
+        Type(PastedText());
     } else if (event->key() == Qt::Key_Backspace) {
         Type(ToQString(kBackspace));
     } else if (IsTyping(*event)) {

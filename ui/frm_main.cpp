@@ -288,7 +288,6 @@ void FrmMain::mnuShowStep_Click() {
 
 void FrmMain::mnuShowLight_Click() {
     if (paper != nullptr) {
-        paper->show();
         paper->ShowLight(Command("mnuShowLight")->isChecked());
     }
 }

@@ -1,7 +1,5 @@
 #include "ui/frm_paper.h"
 
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <chrono>
@@ -243,7 +241,7 @@ void FrmPaper::keyPressEvent(QKeyEvent* event) {
         return;
     }
     if (event->matches(QKeySequence::Paste)) {
-        TypeText(QGuiApplication::clipboard()->text());
+        TypeText(PastedText());
         return;
     }
     const QString typed = IsShortcut(*event) ? QString() : TypedBy(*event);

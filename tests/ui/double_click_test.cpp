@@ -13,17 +13,6 @@ namespace {
 constexpr int kInterval = 60;  // of a double click, in milliseconds
 constexpr QPoint kPlace(100, 100);
 
-/// Counts the presses and releases that reach it.
-class Counter : public QWidget {
-  public:
-    int events = 0;
-
-  protected:
-    void mousePressEvent(QMouseEvent* /*event*/) override { ++events; }
-    void mouseReleaseEvent(QMouseEvent* /*event*/) override { ++events; }
-    void mouseDoubleClickEvent(QMouseEvent* /*event*/) override { ++events; }
-};
-
 class SecondClickTest : public testing::Test {
   protected:
     SecondClickTest() {
@@ -41,7 +30,7 @@ class SecondClickTest : public testing::Test {
     void CloseAtPlace() { SwallowSecondClick(window.mapToGlobal(kPlace)); }
 
     const int usualInterval = QApplication::doubleClickInterval();
-    Counter window;
+    MouseCounter window;
 };
 
 TEST_F(SecondClickTest, IsSwallowed) {

@@ -264,9 +264,14 @@ TEST_F(Window, AMinimisedFrameDoesNotFlash) {
     Enter();
     auto& timer = Find<QTimer>(frame, QStringLiteral("Timer2"));
     EXPECT_TRUE(timer.isActive());
-    frame.hide();
+    // A minimised frame's form is told that it is hidden, and yet counts as visible.
+    auto& sheet = Find<QWidget>(frame, QStringLiteral("frmPaper"));
+    QHideEvent minimised;
+    QCoreApplication::sendEvent(&sheet, &minimised);
+    EXPECT_TRUE(sheet.isVisible());
     EXPECT_FALSE(timer.isActive());
-    frame.show();
+    QShowEvent restored;
+    QCoreApplication::sendEvent(&sheet, &restored);
     EXPECT_TRUE(timer.isActive());
     while (Arrow().isVisible()) {
         EXPECT_TRUE(timer.isActive());
@@ -394,6 +399,16 @@ TEST_F(Window, BackspaceAndPasteEditTheLine) {
     PressKey(frame, Qt::Key_A, Qt::ControlModifier);
     PressKey(frame, Qt::Key_7, Qt::AltModifier);
     EXPECT_EQ(Now().typed.ProblemText, "13.5");
+}
+
+TEST_F(Window, AHugePasteIsCutOff) {
+    Choose(QStringLiteral("Converting Feet To Yards"));
+    QGuiApplication::clipboard()->setText(QString(480, u'x') + u'7');
+    PressKey(frame, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Now().typed.ProblemText, "");
+    QGuiApplication::clipboard()->setText(QString(479, u'x') + QStringLiteral("78"));
+    PressKey(frame, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Now().typed.ProblemText, "7");
 }
 
 TEST_F(Window, EraseAsksFirst) {

@@ -307,17 +307,6 @@ TEST_F(FrmSelectTest, RunsAsADialog) {
     ExpectChosen("Plotting A Point", 108);
 }
 
-/// Something that lies behind the chooser and counts what the mouse does to it.
-class Behind : public QWidget {
-  public:
-    int events = 0;
-
-  protected:
-    void mousePressEvent(QMouseEvent* /*event*/) override { ++events; }
-    void mouseReleaseEvent(QMouseEvent* /*event*/) override { ++events; }
-    void mouseDoubleClickEvent(QMouseEvent* /*event*/) override { ++events; }
-};
-
 /// The chooser over a sheet: what the mouse does there after the chooser has closed.
 class FrmSelectOverASheet : public FrmSelectTest {
   protected:
@@ -332,7 +321,7 @@ class FrmSelectOverASheet : public FrmSelectTest {
         return sheet.mapFromGlobal(viewport.mapToGlobal(place));
     }
 
-    Behind sheet;
+    MouseCounter sheet;
 };
 
 TEST_F(FrmSelectOverASheet, SecondHalfOfADoubleClickDoesNotReachIt) {

@@ -56,6 +56,17 @@ void DoubleClickRow(QAbstractItemView& view, const QModelIndex& row);
 /// Clicks the button of that caption, mnemonics left out.
 void PressButton(QWidget& dialog, const QString& caption);
 
+/// Counts the presses and releases that reach it.
+class MouseCounter : public QWidget {
+  public:
+    int events = 0;
+
+  protected:
+    void mousePressEvent(QMouseEvent* /*event*/) override { ++events; }
+    void mouseReleaseEvent(QMouseEvent* /*event*/) override { ++events; }
+    void mouseDoubleClickEvent(QMouseEvent* /*event*/) override { ++events; }
+};
+
 /// Waits for a modal window and acts on it, from inside of the loop that the window runs. To be
 /// made before the window opens and to be kept until it has closed. A window that does not come
 /// within two seconds, or that stands two seconds after the action, fails the test and is closed,

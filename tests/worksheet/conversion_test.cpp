@@ -42,6 +42,15 @@ class ConversionTest : public Desk {
         EXPECT_NEAR(checks[0].x, EndOf(kFortyInches.back().text) + 5, 1e-6);
         EXPECT_NEAR(checks[0].y, BaseOf(8) - 15, 1e-6);
     }
+
+    void ExpectFinished() {
+        ExpectLines(8);
+        ExpectCheckMark();
+        EXPECT_EQ(ShownStep(), 9);
+        EXPECT_EQ(Note(), kFortyInches.back().note);
+        EXPECT_FALSE(sheet.ArrowVisible());
+        EXPECT_FALSE(sheet.Timer2Enabled());
+    }
 };
 
 TEST_F(ConversionTest, EachClickOfTheArrowShowsALineUpToTheCheckMark) {
@@ -64,12 +73,7 @@ TEST_F(ConversionTest, EachClickOfTheArrowShowsALineUpToTheCheckMark) {
         sheet.blinker_Click();
     }
 
-    ExpectLines(8);
-    ExpectCheckMark();
-    EXPECT_EQ(ShownStep(), 9);
-    EXPECT_EQ(Note(), kFortyInches.back().note);
-    EXPECT_FALSE(sheet.ArrowVisible());
-    EXPECT_FALSE(sheet.Timer2Enabled());
+    ExpectFinished();
 }
 
 TEST_F(ConversionTest, AllAtOnceShowsTheSameLinesAndNoArrow) {
@@ -78,12 +82,7 @@ TEST_F(ConversionTest, AllAtOnceShowsTheSameLinesAndNoArrow) {
     Type("40");
     EXPECT_EQ(Solve(), std::nullopt);
 
-    ExpectLines(8);
-    ExpectCheckMark();
-    EXPECT_EQ(ShownStep(), 9);
-    EXPECT_EQ(Note(), kFortyInches.back().note);
-    EXPECT_FALSE(sheet.ArrowVisible());
-    EXPECT_FALSE(sheet.Timer2Enabled());
+    ExpectFinished();
 }
 
 TEST_F(ConversionTest, AMetricConversionBeginsBelowItsLists) {

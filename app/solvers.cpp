@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "catalogue/guided_input.h"
+#include "catalogue/complete_line.h"
 #include "topics/conversions.h"
 
 namespace numerello {

@@ -1,50 +1,34 @@
 #include "catalogue/guided_input.h"
 
+#include "catalogue/display_line.h"
 #include "catalogue/input_classes.h"
-#include "core/number.h"
+#include "catalogue/key_rules.h"
+#include "catalogue/point_rules.h"
 #include "core/text.h"
 
 namespace numerello {
 
 namespace {
 
-constexpr int kMaxDecimals = 2;
-constexpr int kFirstCell = 4;
-
-/// The lengths of the number before and behind its point.
-struct NumberLengths {
-    int whole = 0;
-    int decimals = 0;
-    bool hasPoint = false;
-};
-
-NumberLengths TypedNumber(const TypedProblem& typed) {
-    NumberLengths lengths;
-    for (int i = 0; i < typed.ExprCharCount; ++i) {
-        if (typed.ExprChars[i] == ".") {
-            lengths.hasPoint = true;
-        } else {
-            ++(lengths.hasPoint ? lengths.decimals : lengths.whole);
-        }
+std::string LowerCase(std::string_view character) {
+    std::string lower(character);
+    if (IsLetter(character) && character.front() <= 'Z') {
+        lower.front() = static_cast<char>(lower.front() - 'A' + 'a');
     }
-    return lengths;
+    return lower;
 }
 
-/// An empty text accepts the digit.
-std::string DigitRefusal(const Problem& problem) {
-    const NumberLengths number = TypedNumber(problem.typed);
-    if (number.decimals >= kMaxDecimals) {
-        return "Please keep all decimal portions to 2 digits or less.";
+/// The words for a key that the grammar of expressions refuses, where line start and exponent have
+/// words of their own.
+std::string Recast(const std::string& refusal, const TypingPoint& point, char key) {
+    if (point.last == Role::LineStart && key != '^') {
+        return "You can't start the problem with a '{c}'.";
     }
-    if (!number.hasPoint && number.whole >= problem.topic.MaxDigits) {
-        return Text("Please keep all numbers to ", WholeText(problem.topic.MaxDigits),
-                    " digits or less.");
+    const bool namesLastKey = refusal.find("{P}") != std::string::npos;
+    if (point.last == Role::Caret && namesLastKey) {
+        return "You can't type a '{c}' in an exponent.";
     }
-    return "";
-}
-
-std::string PointRefusal(const Problem& problem) {
-    return TypedNumber(problem.typed).hasPoint ? "A number can only have one decimal point." : "";
+    return refusal;
 }
 
 void JoinProblemText(TypedProblem& typed) {
@@ -58,18 +42,25 @@ void Store(Problem& problem, std::string_view character) {
     problem.controls.Pencil = EntryControls::PencilPicture::Pencil;
     problem.typed.ExprChars[problem.typed.ExprCharCount++] = character;
     problem.input.KeyAccepted = true;
-    problem.input.InputError.clear();
 }
 
+void RemoveLast(TypedProblem& typed) {
+    typed.ExprChars[--typed.ExprCharCount].clear();
+}
+
+/// An exponent's caret goes with its digit.
 void Undo(Problem& problem) {
-    if (problem.typed.ExprCharCount == 0) {
+    TypedProblem& typed = problem.typed;
+    if (typed.ExprCharCount == 0) {
         problem.input.InputError = "Problem has already been erased.";
         return;
     }
     problem.controls.Pencil = EntryControls::PencilPicture::Eraser;
-    problem.typed.ExprChars[--problem.typed.ExprCharCount].clear();
     problem.input.KeyAccepted = true;
-    problem.input.InputError.clear();
+    RemoveLast(typed);
+    if (typed.ExprCharCount > 0 && typed.ExprChars[typed.ExprCharCount - 1] == "^") {
+        RemoveLast(typed);
+    }
 }
 
 void Judge(Problem& problem, std::string_view key) {
@@ -83,22 +74,33 @@ void Judge(Problem& problem, std::string_view key) {
         return;
     }
     CollectVariables(problem.typed);
-    if (CheckKey(problem, key)) {
-        Store(problem, key);
+    const std::string character = LowerCase(key);
+    if (CheckKey(problem, character)) {
+        Store(problem, character);
     }
+}
+
+/// What the line shows, allows and leaves open follows from its characters alone, also after a
+/// Backspace.
+void SetOutLine(Problem& problem) {
+    TypedProblem& typed = problem.typed;
+    JoinProblemText(typed);
+    static_cast<LineFlags&>(problem.input) = ReadLine(typed.ProblemText, problem.topic.ProblemType);
+    problem.controls.SolveEnabled = typed.ExprCharCount > 0;
+    ChunkChars(problem);
+    typed.DisplayLine = FormatForDisplay(problem);
 }
 
 }  // namespace
 
-bool GrammarStands(const TopicChoice& topic) {
-    return !IsTypedOnLine(topic.ProblemType) ||
-           (topic.InputMask & ~(kNumbers | kDecimalPoint)) == 0;
+bool IsJudged(const Problem& problem, std::string_view key) {
+    return IsTypedOnLine(problem.topic.ProblemType) && problem.playback.TypingEnabled &&
+           (key == kBackspace || problem.typed.ExprCharCount < kLongestLine);
 }
 
 void Form_KeyPress(Problem& problem, std::string_view key) {
     problem.input.KeyAccepted = false;
-    if (!IsTypedOnLine(problem.topic.ProblemType) || !GrammarStands(problem.topic) ||
-        !problem.playback.TypingEnabled) {
+    if (!IsJudged(problem, key)) {
         return;
     }
     FormFilter(problem, key);
@@ -111,45 +113,28 @@ void Form_KeyPress(Problem& problem, std::string_view key) {
 
 void FormFilter(Problem& problem, std::string_view key) {
     problem.input.KeyAccepted = false;
+    problem.input.InputError.clear();
     if (problem.topic.InputMask >= 1) {
         Judge(problem, key);
     }
-    if (!problem.input.KeyAccepted) {
-        return;
+    if (problem.input.KeyAccepted) {
+        SetOutLine(problem);
     }
-    problem.controls.SolveEnabled = problem.typed.ExprCharCount > 0;
-    JoinProblemText(problem.typed);
-    ChunkChars(problem.typed);
-    problem.typed.DisplayLine = FormatForDisplay(problem.typed);
 }
 
 bool CheckKey(Problem& problem, std::string_view character) {
-    problem.input.InputError = IsDigit(character) ? DigitRefusal(problem) : PointRefusal(problem);
+    const int code = problem.topic.ProblemType;
+    const TypingPoint point = ReadLine(problem.typed.ProblemText, code);
+    const char key = character.front();
+    std::string refusal = HasPointRules(code) ? PointKeyRefusal(problem, point, key)
+                                              : KeyRefusal(problem, point, key);
+    if (!refusal.empty() && !HasPointRules(code)) {
+        refusal = Recast(refusal, point, key);
+    }
+    refusal = Replace(refusal, "{c}", character);
+    refusal = Replace(refusal, "{P}", std::string_view(&point.key, 1));
+    problem.input.InputError = Replace(refusal, "{T}", problem.topic.TopicTitle);
     return problem.input.InputError.empty();
-}
-
-void ChunkChars(TypedProblem& typed) {
-    typed.ExprCells.Clear();
-    typed.ExprCellCount = 0;
-    for (int i = 0; i < typed.ExprCharCount; ++i) {
-        typed.ExprCells[0] += typed.ExprChars[i];
-    }
-}
-
-std::string FormatForDisplay(TypedProblem& typed) {
-    std::string number = typed.ExprCells[0];
-    typed.ExprCells.Clear();
-    typed.ExprCellCount = 0;
-    if (!number.empty()) {
-        typed.ExprCells[kFirstCell] = number;
-        typed.ExprCellCount = kFirstCell;
-    }
-    return number;
-}
-
-bool LineIsComplete(const Problem& problem) {
-    const TypedProblem& typed = problem.typed;
-    return typed.ExprCharCount > 0 && IsDigit(typed.ExprChars[typed.ExprCharCount - 1]);
 }
 
 }  // namespace numerello

@@ -39,9 +39,11 @@ Entry ReadEntry(Fields& fields) {
 void TypeLine(Problem& problem, std::string_view text, Json& refused) {
     int at = 0;
     for (const std::string& key : Characters(text)) {
+        const bool judged = IsJudged(problem, key);
         Form_KeyPress(problem, key);
         if (!problem.input.KeyAccepted) {
-            refused.push_back({{"at", at}, {"key", key}, {"why", problem.input.InputError}});
+            refused.push_back(
+                {{"at", at}, {"key", key}, {"why", judged ? problem.input.InputError : ""}});
         }
         ++at;
     }
@@ -84,7 +86,6 @@ Json Lines(const StepLog& log) {
 }
 
 void RequireSolver(const Problem& problem) {
-    RequireGrammar(problem);
     if (AllSolvers().Find(problem.topic.ProblemType) == nullptr) {
         throw BadRequest(Text("solving \"", problem.topic.TopicTitle, "\" is not built yet"));
     }

@@ -3,7 +3,6 @@
 #include <limits>
 
 #include "catalogue/chooser.h"
-#include "catalogue/guided_input.h"
 #include "catalogue/topics.h"
 #include "core/number.h"
 #include "core/solve_driver.h"
@@ -41,12 +40,6 @@ void ChooseTopic(Fields& fields, Problem& problem) {
     TreeViewSelect(NamedTopic(fields).caption, problem.topic, clock, random);
     Stage noStage;
     EraseProblem(problem, noStage);
-}
-
-void RequireGrammar(const Problem& problem) {
-    if (!GrammarStands(problem.topic)) {
-        throw BadRequest(Text("typing for \"", problem.topic.TopicTitle, "\" is not built yet"));
-    }
 }
 
 }  // namespace numerello

@@ -8,7 +8,4 @@ namespace numerello {
 /// Chooses the topic that "topic" or "code" names, exactly one of them, and opens its entry form.
 void ChooseTopic(Fields& fields, Problem& problem);
 
-/// Refuses a topic whose line nobody can type yet.
-void RequireGrammar(const Problem& problem);
-
 }  // namespace numerello

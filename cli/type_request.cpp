@@ -9,11 +9,11 @@ namespace numerello {
 namespace {
 
 Json TypeKey(Problem& problem, const std::string& key) {
+    const bool judged = IsJudged(problem, key);
     Form_KeyPress(problem, key);
-    const bool accepted = problem.input.KeyAccepted;
     return {{"key", key},
-            {"accepted", accepted},
-            {"why", accepted ? "" : problem.input.InputError},
+            {"accepted", problem.input.KeyAccepted},
+            {"why", judged ? problem.input.InputError : ""},
             {"line", problem.typed.DisplayLine}};
 }
 
@@ -28,7 +28,6 @@ void TypeRequest(Fields& fields, Json& answer) {
     }
     const std::string keys = fields.String("keys", "");
     fields.RejectOthers();
-    RequireGrammar(problem);
 
     Json judged = Json::array();
     for (const std::string& key : Characters(keys)) {

@@ -42,18 +42,22 @@ struct TypedProblem {
     std::string DisplayLine;  ///< the problem as mathematics, as the sheet shows it while typed
 };
 
-/// What the keystroke filter remembers between two keys.
-struct InputState {
-    bool KeyAccepted = false;
-    std::string InputError;  ///< why the last key was refused
+/// What is open where the next key of the line lands. The line alone decides it.
+struct LineFlags {
     bool RootOpen = false;
     bool AbsOpen = false;
     int AbsDepth = 0;
     bool EqualsTyped = false;
     bool InExponent = false;
-    bool InFraction = false;
-    int FractionDepth = 0;
+    bool InFraction = false;  ///< in a denominator
+    int FractionDepth = 0;    ///< ParenDepth where the last fraction bar was typed
     int ParenDepth = 0;
+};
+
+/// What the keystroke filter remembers between two keys.
+struct InputState : LineFlags {
+    bool KeyAccepted = false;
+    std::string InputError;  ///< why the last key was refused
 };
 
 /// The boxes and lists of the entry form.

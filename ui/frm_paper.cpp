@@ -113,7 +113,7 @@ void FrmPaper::MakeEntry() {
             ensureWidgetVisible(value);
         });
         setFocusProxy(value);
-    } else if (!IsTypedOnLine(code) || !GrammarStands(problem.topic)) {
+    } else if (!IsTypedOnLine(code)) {
         AddLabel(QStringLiteral("The entry of this topic is not built yet."), kValuePlace);
     }
 }

@@ -2,27 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include "catalogue/chooser.h"
 #include "catalogue/input_classes.h"
-#include "core/solve_driver.h"
+#include "typing.h"
 
 namespace numerello {
 namespace {
-
-Problem Opened(std::string_view caption) {
-    Problem problem;
-    MersenneSource random;
-    Stage stage;
-    TreeViewSelect(caption, problem.topic, FixedClock(0), random);
-    EraseProblem(problem, stage);
-    return problem;
-}
-
-void Type(Problem& problem, std::string_view keys) {
-    for (const char key : keys) {
-        Form_KeyPress(problem, std::string_view(&key, 1));
-    }
-}
 
 constexpr std::string_view kTopic = "Converting Inches To Yards";
 
@@ -146,30 +130,81 @@ TEST(NumberLine, ABoxTopicTakesNoKey) {
     EXPECT_EQ(problem.typed.ProblemText, "");
 }
 
-TEST(NumberLine, ATopicWithoutItsGrammarTakesNoKey) {
+TEST(TypedLine, NamesALetterInLowerCase) {
+    Problem problem = Opened("Solving Equations");
+    Type(problem, "2XX");
+    EXPECT_EQ(problem.typed.ProblemText, "2x");
+    EXPECT_EQ(problem.input.InputError,
+              "You can't type the same variable twice in a row in 'Solving Equations'.");
+    Type(problem, "+Y");
+    EXPECT_EQ(problem.input.InputError,
+              "Only one different variable is allowed in 'Solving Equations'.");
+    Type(problem, "X");
+    EXPECT_TRUE(problem.input.KeyAccepted);
+}
+
+TEST(TypedLine, CountsALetterThatWasTakenBackNoMore) {
+    Problem problem = Opened("Solving Equations");
+    Type(problem, "x\by");
+    EXPECT_EQ(problem.typed.ProblemText, "y");
+}
+
+TEST(TypedLine, KeepsItsFlagsInTheRecord) {
+    Problem problem = Opened("Simplifying Polynomials");
+    Type(problem, "(3x^2");
+    EXPECT_TRUE(problem.input.InExponent);
+    EXPECT_EQ(problem.input.ParenDepth, 1);
+    Type(problem, ")/4");
+    EXPECT_FALSE(problem.input.InExponent);
+    EXPECT_TRUE(problem.input.InFraction);
+    EXPECT_EQ(problem.input.ParenDepth, 0);
+    Type(problem, "\b\b\b");
+    EXPECT_TRUE(problem.input.InExponent);
+    EXPECT_FALSE(problem.input.InFraction);
+    EXPECT_EQ(problem.input.ParenDepth, 1);
+}
+
+TEST(TypedLine, TakesAnExponentsCaretBackWithItsDigit) {
+    Problem problem = Opened("Negative Exponents");
+    Type(problem, "x^-2\b");
+    EXPECT_EQ(problem.typed.ProblemText, "x^-");
+    Type(problem, "\b");
+    EXPECT_EQ(problem.typed.ProblemText, "x");
+    Type(problem, "^2\b");
+    EXPECT_EQ(problem.typed.ProblemText, "x");
+}
+
+TEST(TypedLine, MayTypeASlashAgainBehindAFractionTakenBack) {
     Problem problem = Opened("Arithmetic");
-    Type(problem, "4+2");
-    EXPECT_EQ(problem.typed.ProblemText, "");
-    EXPECT_FALSE(problem.controls.SolveEnabled);
+    Type(problem, "3/4\b\b/");
+    EXPECT_EQ(problem.typed.DisplayLine, "#3/#");
+    EXPECT_TRUE(problem.input.KeyAccepted);
 }
 
-TEST(NumberLine, IsCompleteWhenItEndsInADigit) {
-    Problem problem = Opened(kTopic);
-    EXPECT_FALSE(LineIsComplete(problem));
-    Type(problem, "4");
-    EXPECT_TRUE(LineIsComplete(problem));
-    Type(problem, ".");
-    EXPECT_FALSE(LineIsComplete(problem));
-    Type(problem, "5");
-    EXPECT_TRUE(LineIsComplete(problem));
+TEST(TypedLine, DropsKeysBeyondItsLengthWithoutAWord) {
+    Problem problem = Opened("Medians");
+    for (int i = 0; i < 240; ++i) {
+        Type(problem, "1,");
+    }
+    ASSERT_EQ(problem.typed.ExprCharCount, 480);
+    EXPECT_FALSE(IsJudged(problem, "1"));
+    EXPECT_TRUE(IsJudged(problem, kBackspace));
+    const auto light = problem.controls.Light;
+    Type(problem, "1");
+    EXPECT_FALSE(problem.input.KeyAccepted);
+    EXPECT_EQ(problem.input.InputError, "");
+    EXPECT_EQ(problem.controls.Light, light);
+    EXPECT_EQ(problem.typed.ExprCharCount, 480);
+    Type(problem, "\b");
+    EXPECT_EQ(problem.typed.ExprCharCount, 479);
 }
 
-TEST(GrammarStands, ForOneNumberAndForBoxes) {
-    EXPECT_TRUE(GrammarStands(Opened("Converting Inches To Yards").topic));
-    EXPECT_TRUE(GrammarStands(Opened("Multiples").topic));
-    EXPECT_TRUE(GrammarStands(Opened("Gram Conversions").topic));
-    EXPECT_FALSE(GrammarStands(Opened("Arithmetic").topic));
-    EXPECT_FALSE(GrammarStands(Opened("Percent To Decimal Notation").topic));
+TEST(TypedLine, TakesTenParenthesesAtOnce) {
+    Problem problem = Opened("Complex Arithmetic Expressions");
+    Type(problem, "((((((((((");
+    EXPECT_EQ(problem.input.ParenDepth, 10);
+    Type(problem, "(");
+    EXPECT_EQ(problem.input.InputError, "Close the last parenthesis before opening a new one.");
 }
 
 TEST(ClassRefusal, HasItsWordsForEveryClass) {

@@ -139,7 +139,6 @@ TEST(RequestErrors, WhatIsNotBuiltYetSaysSo) {
              R"({"do":"solve","topic":"Arithmetic","problem":"4+2"})",
              R"({"do":"solve","topic":"Multiples","problem":"4"})",
              R"({"do":"solve","topic":"Addition","boxes":["1","2"]})",
-             R"({"do":"type","topic":"Arithmetic","keys":"4+2"})",
              R"({"do":"columns","code":200})",
              R"({"do":"example","code":53})",
              R"({"do":"practice-test","rows":[]})",

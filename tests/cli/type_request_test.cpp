@@ -47,6 +47,31 @@ TEST(TypeRequest, ABoxTopicRefusesWithoutWords) {
     EXPECT_EQ(answer.at("problem"), "");
 }
 
+TEST(TypeRequest, ShowsTheLineAsMathematics) {
+    const Json answer = Ask(R"({"do":"type","topic":"Simplifying Polynomials","keys":"(X^2/3"})");
+    std::string lines;
+    for (const Json& key : answer.at("keys")) {
+        lines += key.at("line").get<std::string>() + " ";
+    }
+    EXPECT_EQ(lines, "( (x (x^?^ (x^2^ (#x^2^/# (#x^2^/3# ");
+    EXPECT_EQ(answer.at("problem"), "(x^2/3");
+    EXPECT_EQ(answer.at("solvable"), true);
+}
+
+TEST(TypeRequest, ADroppedKeyHasNoReason) {
+    std::string keys;
+    for (int i = 0; i < 239; ++i) {
+        keys += "1,";
+    }
+    const Json request = {{"do", "type"}, {"topic", "Medians"}, {"keys", keys + "1+,+"}};
+    const Json judged = Ask(request.dump()).at("keys");
+    ASSERT_EQ(judged.size(), 482U);
+    EXPECT_EQ(judged[479].at("why"), "You can't type a '+' after a '1' in 'Medians'.");
+    EXPECT_EQ(judged[480].at("accepted"), true);
+    EXPECT_EQ(judged[481].at("accepted"), false);
+    EXPECT_EQ(judged[481].at("why"), "");
+}
+
 TEST(TypeRequest, NoKeysMakeAnEmptyProblem) {
     const Json answer = Ask(R"({"do":"type","code":54,"keys":""})");
     EXPECT_TRUE(answer.at("keys").empty());

@@ -1,0 +1,27 @@
+#pragma once
+
+/// The codes of topics that the rules of typing single out.
+namespace numerello {
+
+inline constexpr int kRanges = 59;
+inline constexpr int kMeans = 62;
+inline constexpr int kRegularToScientific = 65;
+inline constexpr int kFractionToPercent = 72;
+inline constexpr int kMixedToFraction = 74;
+inline constexpr int kFractionToMixed = 75;
+inline constexpr int kFractionArithmetic = 76;
+inline constexpr int kRatios = 78;
+inline constexpr int kSimplifyingFractions = 80;
+inline constexpr int kGreatestCommonFactors = 87;
+inline constexpr int kLeastCommonMultiples = 88;
+inline constexpr int kComparingValues = 90;
+inline constexpr int kSolvingEquations = 101;
+inline constexpr int kSimplifyingPolynomials = 102;
+inline constexpr int kEvaluatingPolynomials = 103;
+inline constexpr int kGraphingAnEquation = 105;
+inline constexpr int kLineThroughTwoPoints = 106;
+inline constexpr int kPointsQuadrant = 107;
+inline constexpr int kPlottingAPoint = 108;
+inline constexpr int kNegativeExponents = 150;
+
+}  // namespace numerello

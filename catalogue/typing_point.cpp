@@ -1,0 +1,166 @@
+#include "catalogue/typing_point.h"
+
+#include "catalogue/topic_codes.h"
+#include "core/text.h"
+
+namespace numerello {
+
+bool IsOperandEnd(Role role) {
+    switch (role) {
+        case Role::Digit:
+        case Role::ExponentDigit:
+        case Role::Letter:
+        case Role::CloseParen:
+        case Role::BarEnd:
+        case Role::RootEnd:
+        case Role::Percent:
+            return true;
+        default:
+            return false;
+    }
+}
+
+TypingPoint ReadLine(std::string_view line, int ProblemType) {
+    TypingPoint point;
+    for (const char character : line) {
+        point.Pass(character, ProblemType);
+    }
+    return point;
+}
+
+void TypingPoint::Pass(char character, int ProblemType) {
+    const std::string_view text(&character, 1);
+    if (IsDigit(text) || character == '.') {
+        PassNumber(character);
+    } else if (IsLetter(text)) {
+        last = Role::Letter;
+    } else {
+        switch (character) {
+            case '+':
+            case '-':
+            case '*':
+                PassMinusOrOperator(character);
+                break;
+            case '/':
+                PassSlash(ProblemType);
+                break;
+            case '~':
+                PassRoot();
+                break;
+            case '|':
+                PassBar();
+                break;
+            case '(':
+                PassOpenParen();
+                break;
+            case ')':
+                PassCloseParen();
+                break;
+            case '^':
+                last = Role::Caret;
+                InExponent = true;
+                break;
+            case '=':
+                last = Role::EqualSign;
+                EqualsTyped = true;
+                InExponent = false;
+                LeaveFraction();
+                break;
+            case ',':
+                last = Role::Comma;
+                break;
+            case ':':
+                last = Role::Colon;
+                break;
+            case '%':
+                last = Role::Percent;
+                break;
+            default:
+                return;
+        }
+    }
+    key = character;
+}
+
+void TypingPoint::PassNumber(char character) {
+    if (InExponent) {
+        last = Role::ExponentDigit;
+        return;
+    }
+    if (last != Role::Digit && last != Role::Point) {
+        number = NumberLengths();
+    }
+    if (character == '.') {
+        last = Role::Point;
+        number.hasPoint = true;
+    } else {
+        last = Role::Digit;
+        ++(number.hasPoint ? number.decimals : number.whole);
+    }
+}
+
+void TypingPoint::PassMinusOrOperator(char character) {
+    if (IsOperandEnd(last)) {
+        last = Role::Operator;
+        InExponent = RootOpen = false;
+        LeaveFraction();
+    } else if (character == '-') {
+        last = last == Role::Caret ? Role::ExponentSign : Role::Sign;
+    }
+}
+
+void TypingPoint::PassSlash(int ProblemType) {
+    InExponent = false;
+    if (ProblemType == kFractionArithmetic && InFraction) {
+        last = Role::DivisionSign;
+        InFraction = false;
+    } else {
+        last = Role::FractionBar;
+        InFraction = true;
+        FractionDepth = ParenDepth;
+    }
+}
+
+void TypingPoint::PassRoot() {
+    last = RootOpen ? Role::RootEnd : Role::RootStart;
+    RootOpen = !RootOpen;
+}
+
+void TypingPoint::PassBar() {
+    InExponent = false;
+    if (AbsOpen) {
+        last = Role::BarEnd;
+        InFraction = false;
+    } else {
+        last = Role::BarStart;
+    }
+    AbsOpen = !AbsOpen;
+    AbsDepth = AbsOpen ? 1 : 0;
+}
+
+void TypingPoint::PassOpenParen() {
+    // Only a parenthesis straight behind the bar belongs to the denominator: 1/2(x+4).
+    if (last == Role::Digit) {
+        LeaveFraction();
+    }
+    last = Role::OpenParen;
+    InExponent = false;
+    ++ParenDepth;
+}
+
+void TypingPoint::PassCloseParen() {
+    last = Role::CloseParen;
+    InExponent = false;
+    --ParenDepth;
+    if (ParenDepth < FractionDepth) {
+        InFraction = false;
+    }
+}
+
+void TypingPoint::LeaveFraction() {
+    if (ParenDepth <= FractionDepth) {
+        InFraction = false;
+    }
+}
+
+}  // namespace numerello

@@ -99,7 +99,7 @@ class Screen:
         return found.stdout.strip()
 
     def type(self, text):
-        subprocess.run(["xdotool", "type", "--delay", str(KEY_DELAY_MS), text], check=True)
+        subprocess.run(["xdotool", "type", "--delay", str(KEY_DELAY_MS), "--", text], check=True)
 
     def key(self, *names):
         subprocess.run(["xdotool", "key", "--delay", str(KEY_DELAY_MS), *names], check=True)

@@ -92,10 +92,11 @@ def source_glyph(character, glyph, glyphs):
             pen = SqueezePen(pen)
         elif character == "*":
             # Here it is a sign between numbers, not a note mark.
-            pen = TransformPen(pen, (1, 0, 0, 1, 0, AXIS / SCALE - 522))
+            aside = (WIDE / SCALE - glyph.width) / 2
+            pen = TransformPen(pen, (1, 0, 0, 1, aside, AXIS / SCALE - 522))
         glyph.draw(pen)
 
-    advance = round(glyph.width * SCALE)
+    advance = WIDE if character == "*" else round(glyph.width * SCALE)
     return char_string(draw, advance), advance
 
 
@@ -153,7 +154,7 @@ def plus(advance):
 
 
 def minus():
-    return [bar(DIGIT / 2, AXIS, ARM - 50)]
+    return [bar(WIDE / 2, AXIS, ARM - 50)]
 
 
 def times():
@@ -195,7 +196,7 @@ def plus_or_minus():
 
 
 def division():
-    middle = DIGIT / 2
+    middle = WIDE / 2
     radius = 118
     away = 400
     return [bar(middle, AXIS), circle(middle, AXIS + away, radius),
@@ -328,10 +329,10 @@ def own_glyphs():
         "`": ("pi", pi(), DIGIT),
         "\\": ("plusminus", plus_or_minus(), DIGIT),
         "$": ("notequal", not_equal(DIGIT), DIGIT),
-        "{": ("divide", division(), DIGIT),
+        "{": ("divide", division(), WIDE),
         "_": ("barsegment", bar_segment(), DIGIT),
         "+": ("plus", plus(WIDE), WIDE),
-        "-": ("minus", minus(), DIGIT),
+        "-": ("minus", minus(), WIDE),
         "=": ("equal", equal(WIDE), WIDE),
         "<": ("less", angle(-1), WIDE),
         ">": ("greater", angle(1), WIDE),

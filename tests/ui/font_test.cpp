@@ -110,7 +110,18 @@ TEST_F(SheetFont, SpecialCharactersHaveInkAndTheAdvanceOfADigit) {
         EXPECT_GT(glyph.boundingRect().width(), 1) << character;
         EXPECT_GT(glyph.boundingRect().height(), 0.5) << character;
         EXPECT_NE(glyph, missing) << character;
-        EXPECT_NEAR(sheet.Width(character, kTwelve), kDigit, 0.01) << character;
+        const bool isOperator = character == "{";
+        EXPECT_NEAR(sheet.Width(character, kTwelve),
+                    isOperator ? sheet.Width("+", kTwelve) : kDigit, 0.01)
+            << character;
+    }
+}
+
+TEST_F(SheetFont, OperatorsStandClearOfTheFractionsBesideThem) {
+    for (const std::string sign : {"+", "-", "*", "{", "="}) {
+        const QRectF ink = Glyph(sign, sheet).boundingRect();
+        EXPECT_GT(ink.left(), 1.5) << sign;
+        EXPECT_GT(sheet.Width(sign, kTwelve) - ink.right(), 1.5) << sign;
     }
 }
 

@@ -49,6 +49,13 @@ class LineSetter {
     const std::vector<MarkedToken>& Line() const { return line; }
 
   private:
+    bool LeavesFraction(const TypingPoint& next) const {
+        return point.InFraction && !next.InFraction;
+    }
+    /// Bars that stand in the denominator are its end, not what follows it.
+    static bool EndsInBar(const TypingPoint& next) {
+        return next.last == Role::BarEnd && next.barInFraction;
+    }
     void CloseBefore(const TypingPoint& next);
     void CloseExponent();
     void OpenFraction(std::size_t numerator);
@@ -62,7 +69,6 @@ class LineSetter {
     std::vector<std::size_t> openParens;
     std::size_t lastParen = 0;  ///< the "(" of the parentheses closed last
     std::size_t lastBar = 0;    ///< the opening bar last passed
-    bool barInFraction = false;
 };
 
 void LineSetter::Add(const std::string& token) {
@@ -76,7 +82,7 @@ void LineSetter::Add(const std::string& token) {
         line.pop_back();
     }
     line.push_back({"", next.last == Role::DivisionSign ? "{" : token, ""});
-    if (next.last == Role::BarEnd && barInFraction) {
+    if (LeavesFraction(next) && EndsInBar(next)) {
         line.back().after = "#";
     }
 
@@ -106,8 +112,7 @@ void LineSetter::CloseBefore(const TypingPoint& next) {
     if (point.InExponent && !next.InExponent) {
         CloseExponent();
     }
-    const bool endsInBar = next.last == Role::BarEnd && barInFraction;
-    if (point.InFraction && !next.InFraction && !endsInBar) {
+    if (LeavesFraction(next) && !EndsInBar(next)) {
         line.back().after += "#";
     }
     if (point.RootOpen && !next.RootOpen) {
@@ -132,7 +137,7 @@ std::size_t LineSetter::NumeratorStart() const {
     if (point.last == Role::CloseParen) {
         return lastParen;
     }
-    if (point.last == Role::BarEnd && !barInFraction) {
+    if (point.last == Role::BarEnd && !point.barInFraction) {
         return lastBar;
     }
     return termStarts.back();
@@ -140,6 +145,9 @@ std::size_t LineSetter::NumeratorStart() const {
 
 /// Remembers where a numerator would begin that ends behind the token just added.
 void LineSetter::NoteStarts(bool behindFractionBar) {
+    if (point.AbsOpen && point.barInFraction) {
+        return;
+    }
     const std::size_t here = line.size() - 1;
     switch (point.last) {
         case Role::OpenParen:
@@ -153,10 +161,7 @@ void LineSetter::NoteStarts(bool behindFractionBar) {
             break;
         case Role::BarStart:
             lastBar = here;
-            barInFraction = point.InFraction;
-            if (!barInFraction) {
-                termStarts.back() = here + 1;
-            }
+            termStarts.back() = here + 1;
             break;
         case Role::Sign:
             if (!behindFractionBar) {

@@ -9,7 +9,7 @@ namespace numerello {
 
 /// Rebuilds ExprCells from ExprChars, one token a cell from 0: a number or a fraction of two
 /// numbers stays together, every other character is a token of its own. The "~" that ends a root is
-/// none.
+/// no token.
 void ChunkChars(Problem& problem);
 
 /// Sets the tokens of ExprCells apart, token k at 4(k + 1), with the marks of the notation in the

@@ -19,12 +19,13 @@ bool IsJudged(const Problem& problem, std::string_view key);
 /// A key on the form: a character or kBackspace. Judges it, sets the light and enables Solve.
 void Form_KeyPress(Problem& problem, std::string_view key);
 
-/// Judges one key, stores an accepted one and sets out the DisplayLine anew. InputError says why a
-/// key was refused, and is empty behind an accepted one.
+/// Judges one key, stores an accepted one (a letter in lower case) as the last of ExprChars and
+/// sets out the DisplayLine anew. InputError says why a key was refused, and is empty behind an
+/// accepted one. For a line of at most kLongestLine characters.
 void FormFilter(Problem& problem, std::string_view key);
 
-/// The grammar: true to accept the character, a letter in lower case, behind what is typed; else
-/// InputError says why not.
+/// The grammar: true to accept the character, a letter in lower case, behind ProblemText, whose
+/// letters stand in VarNames; else InputError says why not.
 bool CheckKey(Problem& problem, std::string_view character);
 
 }  // namespace numerello

@@ -15,11 +15,15 @@ constexpr int kMaxParenDepth = 10;
 
 constexpr std::string_view kNotAfter = "You can't type a '{c}' after a '{P}' in '{T}'.";
 
+std::string UnlessTaken(bool taken, std::string_view refusal) {
+    return std::string(taken ? "" : refusal);
+}
+
 bool IsList(int ProblemType) {
     return ProblemType >= kRanges && ProblemType <= kMeans;
 }
 
-/// Whether what the key follows makes it a sign or an operator of a number of its own.
+/// Whether the last character is an operator, a sign or a "/".
 bool IsOperatorOrSign(Role role) {
     return role == Role::Operator || role == Role::Sign || role == Role::FractionBar ||
            role == Role::DivisionSign;
@@ -27,7 +31,7 @@ bool IsOperatorOrSign(Role role) {
 
 std::string ExponentDigitRefusal(const TypingPoint& point) {
     const bool first = point.last == Role::Caret || point.last == Role::ExponentSign;
-    return first ? "" : "Exponents can't be greater than one digit.";
+    return UnlessTaken(first, "Exponents can't be greater than one digit.");
 }
 
 std::string DigitRefusal(const Problem& problem, const TypingPoint& point) {
@@ -109,7 +113,7 @@ bool TakesSlash(const Problem& problem, const TypingPoint& point) {
 }
 
 std::string SlashRefusal(const Problem& problem, const TypingPoint& point) {
-    return TakesSlash(problem, point) ? "" : "You can't type a '/' after a '{P}'.";
+    return UnlessTaken(TakesSlash(problem, point), "You can't type a '/' after a '{P}'.");
 }
 
 bool TakesRoot(const TypingPoint& point) {
@@ -122,7 +126,7 @@ bool TakesRoot(const TypingPoint& point) {
 
 std::string RootRefusal(const TypingPoint& point) {
     // The blank at the end belongs to the text.
-    return TakesRoot(point) ? "" : "You can't type a ~~ after a '{P}'. ";
+    return UnlessTaken(TakesRoot(point), "You can't type a ~~ after a '{P}'. ");
 }
 
 std::string ExponentRefusal(const TypingPoint& point) {
@@ -154,7 +158,7 @@ std::string OpenParenRefusal(const TypingPoint& point) {
         case Role::RootEnd:
             return std::string(kNotAfter);
         default:
-            return point.RootOpen ? std::string(kNotAfter) : "";
+            return UnlessTaken(!point.RootOpen, kNotAfter);
     }
 }
 
@@ -165,14 +169,14 @@ std::string CloseParenRefusal(const TypingPoint& point) {
     if (point.ParenDepth == 0) {
         return "The ')' is not allowed because there are no open parenthesis.";
     }
-    return std::string(IsOperandEnd(point.last) ? "" : kNotAfter);
+    return UnlessTaken(IsOperandEnd(point.last), kNotAfter);
 }
 
 std::string EqualSignRefusal(const TypingPoint& point) {
     if (point.ParenDepth > 0) {
         return "You must close the parenthesis before typing the equal sign (=).";
     }
-    return std::string(!point.EqualsTyped && IsOperandEnd(point.last) ? "" : kNotAfter);
+    return UnlessTaken(!point.EqualsTyped && IsOperandEnd(point.last), kNotAfter);
 }
 
 std::string PointRefusal(const TypingPoint& point) {
@@ -188,7 +192,7 @@ std::string PointRefusal(const TypingPoint& point) {
         case Role::Colon:
             return "";
         default:
-            return std::string(IsOperatorOrSign(point.last) ? "" : kNotAfter);
+            return UnlessTaken(IsOperatorOrSign(point.last), kNotAfter);
     }
 }
 
@@ -197,16 +201,16 @@ std::string BarRefusal(const TypingPoint& point) {
                        point.last == Role::Sign || point.last == Role::OpenParen ||
                        point.last == Role::EqualSign;
     const bool taken = point.AbsOpen ? IsOperandEnd(point.last) : opens;
-    return std::string(taken ? "" : kNotAfter);
+    return UnlessTaken(taken, kNotAfter);
 }
 
 std::string ColonRefusal(const Problem& problem, const TypingPoint& point) {
     const bool typed = problem.typed.ProblemText.find(':') != std::string::npos;
-    return std::string(point.last == Role::Digit && !typed ? "" : kNotAfter);
+    return UnlessTaken(point.last == Role::Digit && !typed, kNotAfter);
 }
 
 std::string BehindDigitOnly(const TypingPoint& point) {
-    return std::string(point.last == Role::Digit ? "" : kNotAfter);
+    return UnlessTaken(point.last == Role::Digit, kNotAfter);
 }
 
 bool TakesOperator(const Problem& problem, char key) {
@@ -243,7 +247,7 @@ bool TakesSign(const Problem& problem, const TypingPoint& point) {
 std::string SignRefusal(const Problem& problem, const TypingPoint& point, char key) {
     const bool taken = IsOperandEnd(point.last) ? TakesOperator(problem, key)
                                                 : key == '-' && TakesSign(problem, point);
-    return std::string(taken ? "" : kNotAfter);
+    return UnlessTaken(taken, kNotAfter);
 }
 
 }  // namespace

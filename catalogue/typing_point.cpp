@@ -133,6 +133,7 @@ void TypingPoint::PassBar() {
         InFraction = false;
     } else {
         last = Role::BarStart;
+        barInFraction = InFraction;
     }
     AbsOpen = !AbsOpen;
     AbsDepth = AbsOpen ? 1 : 0;
@@ -158,7 +159,8 @@ void TypingPoint::PassCloseParen() {
 }
 
 void TypingPoint::LeaveFraction() {
-    if (ParenDepth <= FractionDepth) {
+    const bool inBarsBelow = AbsOpen && barInFraction;
+    if (ParenDepth <= FractionDepth && !inBarsBelow) {
         InFraction = false;
     }
 }

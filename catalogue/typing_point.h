@@ -41,8 +41,9 @@ struct NumberLengths {
 /// Where the next key of a line lands.
 struct TypingPoint : LineFlags {
     Role last = Role::LineStart;
-    char key = '\0';       ///< the last character; '\0' on an empty line
-    NumberLengths number;  ///< the number that the last character belongs to
+    char key = '\0';             ///< the last character; '\0' on an empty line
+    NumberLengths number;        ///< the number that the last character belongs to
+    bool barInFraction = false;  ///< the last bars opened stand in a denominator
 
     /// Goes past a character that the line of this topic holds. Others than those of the notation
     /// are passed over.

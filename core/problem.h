@@ -31,7 +31,7 @@ struct TypedProblem {
 
     BoundedArray<std::string, kTopCell> ExprChars;  ///< one character a cell, from 0
     int ExprCharCount = 0;                          ///< the next key lands at this index
-    BoundedArray<std::string, kTopCell> ExprCells;  ///< tokens at 4, 8, 12 ..., marks between
+    BoundedArray<std::string, kTopCell> ExprCells;  ///< once set out: tokens at 4, 8, 12 ...
     int ExprCellCount = 0;                          ///< top used index of ExprCells
     BoundedArray<std::string, kTopCell> ExprTokens;
     int TokenCount = 0;

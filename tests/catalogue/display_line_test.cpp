@@ -23,6 +23,24 @@ std::string Line(std::string_view caption, std::string_view keys) {
     return Typed(caption, keys).typed.DisplayLine;
 }
 
+TEST(ChunkChars, PutsOneTokenIntoACell) {
+    Problem problem = Typed("Simplifying Polynomials", "12x^2-3/4");
+    ChunkChars(problem);
+    const std::string tokens[] = {"12", "x", "^", "2", "-", "3/4", ""};
+    for (int i = 0; i < 7; ++i) {
+        EXPECT_EQ(problem.typed.ExprCells[i], tokens[i]) << i;
+    }
+    EXPECT_EQ(problem.typed.ExprCellCount, 5);
+}
+
+TEST(ChunkChars, DividesNumbersOnlyByNumbers) {
+    Problem problem = Typed("Complex Arithmetic Expressions", "3/(4-2)");
+    ChunkChars(problem);
+    EXPECT_EQ(problem.typed.ExprCells[0], "3");
+    EXPECT_EQ(problem.typed.ExprCells[1], "/");
+    EXPECT_EQ(problem.typed.ExprCells[2], "(");
+}
+
 TEST(DisplayLine, SetsTokensFourCellsApart) {
     EXPECT_EQ(Cells(Typed("Arithmetic", "4+2*35")), "4:4 8:+ 12:2 16:* 20:35");
     EXPECT_EQ(Cells(Typed("Arithmetic", "12.5")), "4:12.5");
@@ -89,7 +107,14 @@ TEST(DisplayLine, SetsBarsInNumeratorsAndDenominators) {
     EXPECT_EQ(Line("Absolute Values", "2*|3-4|/2"), "2*#|3-4|/2#");
     EXPECT_EQ(Line("Absolute Values", "|4/2|"), "|#4/2#|");
     EXPECT_EQ(Line("Absolute Values", "4/-|3|"), "#4/-|3|#");
+    EXPECT_EQ(Line("Absolute Values", "4/-|3-5|"), "#4/-|3-5|#");
+    EXPECT_EQ(Line("Absolute Values", "4/-|3-5|+1/2"), "#4/-|3-5|#+#1/2#");
     EXPECT_EQ(Line("Absolute Values", "4/-|3|/2"), "#4/-|3|/2#");
+}
+
+TEST(DisplayLine, TakesNoFractionWithinBarsInADenominator) {
+    EXPECT_EQ(Typed("Absolute Values", "4/-|3-5/2").typed.ProblemText, "4/-|3-52");
+    EXPECT_EQ(Line("Absolute Values", "|3-5/2|"), "|3-#5/2#|");
 }
 
 TEST(DisplayLine, KeepsAWrittenCoefficientOfOne) {

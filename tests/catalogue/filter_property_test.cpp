@@ -50,7 +50,30 @@ TEST(RandomKeys, LeaveNoMalformedLine) {
         complete += LineIsComplete(problem) ? 1 : 0;
         return WhatIsWrong(problem);
     });
+    // Else the keys led nowhere, and nothing was tested.
     EXPECT_GT(complete, 50000);
+}
+
+TEST(ShortLines, AreWellFormedWhateverTheKeys) {
+    // All lines of these keys: what random ones hit too seldom.
+    const std::pair<const char*, std::string_view> kKeySets[] = {
+        {"Absolute Values", "2-|/"},
+        {"Fraction Arithmetic", "2-/*"},
+        {"Simplifying Polynomials", "2x/()"}};
+    for (const auto& [topic, keys] : kKeySets) {
+        std::vector<Problem> lines{Opened(topic)};
+        for (std::size_t next = 0; next < lines.size(); ++next) {
+            for (std::size_t i = 0; i < keys.size() && lines[next].typed.ExprCharCount < 8; ++i) {
+                Problem longer = lines[next];
+                Form_KeyPress(longer, keys.substr(i, 1));
+                if (longer.input.KeyAccepted) {
+                    ASSERT_EQ(WhatIsWrong(longer), "") << topic << ": " << longer.typed.ProblemText;
+                    lines.push_back(std::move(longer));
+                }
+            }
+        }
+        EXPECT_GT(lines.size(), 500U) << topic;
+    }
 }
 
 TEST(RandomKeys, LeaveTheStateOfTheLineTypedAfresh) {

@@ -130,6 +130,28 @@ TEST(NumberLine, ABoxTopicTakesNoKey) {
     EXPECT_EQ(problem.typed.ProblemText, "");
 }
 
+TEST(TypedLine, TakesNothingWithoutAMask) {
+    Problem problem = Opened("Arithmetic");
+    Type(problem, "4");
+    problem.topic.InputMask = 0;
+    for (const std::string_view key : {"4", "\b"}) {
+        Type(problem, key);
+        EXPECT_FALSE(problem.input.KeyAccepted);
+        EXPECT_EQ(problem.input.InputError, "");
+        EXPECT_EQ(problem.typed.ProblemText, "4");
+    }
+}
+
+TEST(CheckKey, JudgesBehindTheLineWithoutTypingTheKey) {
+    Problem problem = Opened("Arithmetic");
+    Type(problem, "4+");
+    EXPECT_TRUE(CheckKey(problem, "2"));
+    EXPECT_EQ(problem.input.InputError, "");
+    EXPECT_FALSE(CheckKey(problem, "+"));
+    EXPECT_EQ(problem.input.InputError, "You can't type a '+' after a '+' in 'Arithmetic'.");
+    EXPECT_EQ(problem.typed.ProblemText, "4+");
+}
+
 TEST(TypedLine, NamesALetterInLowerCase) {
     Problem problem = Opened("Solving Equations");
     Type(problem, "2XX");

@@ -59,6 +59,26 @@ bool EndsInOperand(const Problem& problem) {
            (last == "," && (code == 87 || code == 88));
 }
 
+/// Every fraction holds its bar, whole parentheses and whole absolute bars, and no "/" stands
+/// outside of one.
+bool FractionsAreWhole(const std::string& line) {
+    bool inFraction = false;
+    std::string part;
+    for (const char character : line + "#") {
+        if (character != '#') {
+            part += character;
+            continue;
+        }
+        const bool holdsBar = part.find('/') != std::string::npos;
+        if (holdsBar != inFraction || (inFraction && (!Balanced(part) || IsOdd(part, '|')))) {
+            return false;
+        }
+        inFraction = !inFraction;
+        part.clear();
+    }
+    return true;
+}
+
 /// The characters that the display adds or leaves out are the marks, the "?" of an exponent
 /// without a digit, and the 1 before a root.
 std::string WithoutMarks(const std::string& line) {
@@ -125,6 +145,9 @@ std::string WhatIsWrong(const Problem& problem) {
     }
     if (IsOdd(line, '|') || !Balanced(line) || line.find('?') != std::string::npos) {
         return "a complete line with something open: " + line;
+    }
+    if (!FractionsAreWhole(line)) {
+        return "a fraction that is cut up: " + line;
     }
     return EndsInOperand(problem) ? "" : "a complete line without an operand at its end: " + line;
 }

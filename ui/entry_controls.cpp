@@ -1,6 +1,7 @@
 #include "ui/entry_controls.h"
 
 #include <QKeyEvent>
+#include <QStyleOptionComboBox>
 #include <algorithm>
 
 #include "catalogue/box_keys.h"
@@ -55,6 +56,11 @@ EntryBox::EntryBox(int number, Problem& problem, QWidget* sheet)
     setAttribute(Qt::WA_InputMethodEnabled, false);
     setAcceptDrops(false);
     setFont(EntryFont(kEntryTextSize));
+    // Paper and ink, whatever the desktop's colours.
+    QPalette paper = palette();
+    paper.setColor(QPalette::Base, Qt::white);
+    paper.setColor(QPalette::Text, Qt::black);
+    setPalette(paper);
     // The face keeps room for descenders, which digits do not have.
     setTextMargins(3, 4, 3, 0);
     ShowText();
@@ -126,20 +132,32 @@ void EntryList::ShowChoice() {
 
 int EntryList::WidthForAll() const {
     constexpr int kFrameAndArrow = 44;
-    int text = fontMetrics().horizontalAdvance(placeholderText());
+    return std::max(LongestRow(), fontMetrics().horizontalAdvance(placeholderText())) +
+           kFrameAndArrow;
+}
+
+int EntryList::LongestRow() const {
+    int longest = 0;
     for (int row = 0; row < count(); ++row) {
-        text = std::max(text, fontMetrics().horizontalAdvance(itemText(row)));
+        longest = std::max(longest, fontMetrics().horizontalAdvance(itemText(row)));
     }
-    return text + kFrameAndArrow;
+    return longest;
 }
 
 void EntryList::FitRows(int width) {
+    setFixedWidth(width);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    option.rect = {0, 0, width, height()};
+    const int room =
+        style()
+            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
+            .width();
     QFont font = this->font();
-    for (int size = fontInfo().pixelSize(); WidthForAll() > width && size > kSmallestLetters;) {
+    for (int size = fontInfo().pixelSize(); LongestRow() > room && size > kSmallestLetters;) {
         font.setPixelSize(--size);
         setFont(font);
     }
-    setFixedWidth(width);
 }
 
 void EntryList::Choose(int row) {

@@ -71,6 +71,7 @@ class EntryList : public QComboBox {
     void wheelEvent(QWheelEvent* event) override;
 
   private:
+    int LongestRow() const;
     void Choose(int row);
     bool IsForTheForm(const QKeyEvent& event) const;
     bool Locked() const { return !problem.playback.TypingEnabled; }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "catalogue/entry_layouts.h"
 #include "catalogue/guided_input.h"
 #include "core/text.h"
 
@@ -47,8 +48,43 @@ bool Fits(int code, int box, std::string_view text, std::string_view key) {
     return IsDigit(key);
 }
 
-bool MetricReady(const EntryBoxes& boxes) {
-    return IsNumeric(boxes.Text[3]) && boxes.ListIndex[0] >= 0 && boxes.ListIndex[1] >= 0;
+/// How the boxes of a layout are filled. What is neither empty nor a number is in the way.
+struct Filling {
+    int numbers = 0;
+    int empty = 0;
+    int others = 0;
+};
+
+Filling FillingOf(const EntryLayout& layout, const EntryBoxes& boxes) {
+    Filling filling;
+    for (const EntryBoxLayout& box : layout.boxes) {
+        const std::string& text = boxes.Text[static_cast<std::size_t>(box.number) - 1];
+        ++(text.empty() ? filling.empty : IsNumeric(text) ? filling.numbers : filling.others);
+    }
+    return filling;
+}
+
+/// The first triangle has to be complete; the second needs one side.
+bool TrianglesReady(const EntryBoxes& boxes, const Filling& filling) {
+    const bool firstIsComplete = std::all_of(boxes.Text.begin(), boxes.Text.begin() + 3, IsNumeric);
+    return firstIsComplete && filling.numbers > 3 && filling.others == 0;
+}
+
+bool IsReady(const EntryLayout& layout, const EntryBoxes& boxes) {
+    const Filling filling = FillingOf(layout, boxes);
+    switch (layout.readiness) {
+        case Readiness::AllBoxes:
+            return filling.empty == 0 && filling.others == 0;
+        case Readiness::AllButOne:
+            return filling.empty == 1 && filling.others == 0;
+        case Readiness::SimilarTriangles:
+            return TrianglesReady(boxes, filling);
+        case Readiness::ValueAndUnits:
+            return filling.numbers == 1 && boxes.ListIndex[0] >= 0 && boxes.ListIndex[1] >= 0;
+        case Readiness::Line:
+            break;
+    }
+    return false;
 }
 
 }  // namespace
@@ -76,7 +112,8 @@ void CheckBoxesReady(Problem& problem) {
     if (IsTypedOnLine(code)) {
         return;
     }
-    problem.controls.SolveEnabled = (code == 23 || code == 24) && MetricReady(problem.boxes);
+    const EntryLayout* layout = FindEntryLayout(code);
+    problem.controls.SolveEnabled = layout != nullptr && IsReady(*layout, problem.boxes);
 }
 
 bool IsNumeric(std::string_view text) {

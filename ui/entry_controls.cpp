@@ -1,9 +1,11 @@
 #include "ui/entry_controls.h"
 
 #include <QKeyEvent>
+#include <QStyleOptionComboBox>
 #include <algorithm>
 
 #include "catalogue/box_keys.h"
+#include "catalogue/entry_layouts.h"
 #include "catalogue/guided_input.h"
 #include "core/text.h"
 #include "ui/text.h"
@@ -12,16 +14,7 @@ namespace numerello {
 
 namespace {
 
-constexpr int kNarrow = 54;
-constexpr int kNarrowLength = 3;
-constexpr int kCharacterStep = 12;
-constexpr int kHeight = 30;
-
-int WidthFor(qsizetype length) {
-    return length <= kNarrowLength
-               ? kNarrow
-               : kNarrow + static_cast<int>(length - kNarrowLength) * kCharacterStep;
-}
+constexpr int kSmallestLetters = 9;
 
 /// Whether a key puts a character into the box; the others belong to the form.
 bool IsTyping(const QKeyEvent& event) {
@@ -42,15 +35,32 @@ bool IsTyping(const QKeyEvent& event) {
 
 }  // namespace
 
+QFont EntryFont(int size) {
+    QFont font(QStringLiteral("VantrelFont"));
+    font.setPixelSize(size);
+    return font;
+}
+
+QLabel* InkLabel(std::string_view text, QWidget* sheet) {
+    auto* label = new QLabel(ToQString(text), sheet);
+    label->setTextFormat(Qt::PlainText);
+    QPalette ink = label->palette();
+    ink.setColor(QPalette::WindowText, Qt::black);
+    label->setPalette(ink);
+    return label;
+}
+
 EntryBox::EntryBox(int number, Problem& problem, QWidget* sheet)
     : QLineEdit(sheet), number(number), problem(problem) {
     setObjectName(QStringLiteral("Text%1").arg(number));
     setAttribute(Qt::WA_InputMethodEnabled, false);
     setAcceptDrops(false);
-    setFixedSize(kNarrow, kHeight);
-    QFont digits(QStringLiteral("VantrelFont"));
-    digits.setPixelSize(18);
-    setFont(digits);
+    setFont(EntryFont(kEntryTextSize));
+    // Paper and ink, whatever the desktop's colours.
+    QPalette paper = palette();
+    paper.setColor(QPalette::Base, Qt::white);
+    paper.setColor(QPalette::Text, Qt::black);
+    setPalette(paper);
     // The face keeps room for descenders, which digits do not have.
     setTextMargins(3, 4, 3, 0);
     ShowText();
@@ -58,9 +68,11 @@ EntryBox::EntryBox(int number, Problem& problem, QWidget* sheet)
 
 void EntryBox::ShowText() {
     const std::string& text = problem.boxes.Text[static_cast<std::size_t>(number) - 1];
-    setText(ToQString(text));
-    setCursorPosition(static_cast<int>(text.size()));
-    setFixedWidth(WidthFor(static_cast<qsizetype>(text.size())));
+    if (const QString shown = ToQString(text); shown != this->text()) {
+        setText(shown);
+    }
+    end(false);
+    setReadOnly(!problem.playback.TypingEnabled);
 }
 
 void EntryBox::Type(const QString& keys) {
@@ -69,7 +81,6 @@ void EntryBox::Type(const QString& keys) {
         any = BoxKey(problem, number, key) || any;
     }
     if (any) {
-        ShowText();
         emit Typed();
     }
 }
@@ -111,7 +122,7 @@ EntryList::EntryList(int number, Problem& problem, QWidget* sheet)
     : QComboBox(sheet), number(number), problem(problem) {
     setObjectName(QStringLiteral("Combo%1").arg(number));
     setPlaceholderText(QStringLiteral("Select a choice from the list."));
-    setFixedHeight(std::max(kHeight, sizeHint().height()));
+    setFixedHeight(std::max(kBoxHeight, sizeHint().height()));
     connect(this, &QComboBox::activated, this, &EntryList::Choose);
 }
 
@@ -121,11 +132,32 @@ void EntryList::ShowChoice() {
 
 int EntryList::WidthForAll() const {
     constexpr int kFrameAndArrow = 44;
-    int text = fontMetrics().horizontalAdvance(placeholderText());
+    return std::max(LongestRow(), fontMetrics().horizontalAdvance(placeholderText())) +
+           kFrameAndArrow;
+}
+
+int EntryList::LongestRow() const {
+    int longest = 0;
     for (int row = 0; row < count(); ++row) {
-        text = std::max(text, fontMetrics().horizontalAdvance(itemText(row)));
+        longest = std::max(longest, fontMetrics().horizontalAdvance(itemText(row)));
     }
-    return text + kFrameAndArrow;
+    return longest;
+}
+
+void EntryList::FitRows(int width) {
+    setFixedWidth(width);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    option.rect = {0, 0, width, height()};
+    const int room =
+        style()
+            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
+            .width();
+    QFont font = this->font();
+    for (int size = fontInfo().pixelSize(); LongestRow() > room && size > kSmallestLetters;) {
+        font.setPixelSize(--size);
+        setFont(font);
+    }
 }
 
 void EntryList::Choose(int row) {
@@ -143,11 +175,18 @@ void EntryList::showPopup() {
 
 void EntryList::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter || Locked()) {
+    if (enter || Locked() || IsForTheForm(*event)) {
         event->ignore();
         return;
     }
     QComboBox::keyPressEvent(event);
+}
+
+/// Beside a typed line a list takes no characters: they belong to the line. Digits never choose.
+bool EntryList::IsForTheForm(const QKeyEvent& event) const {
+    const bool besideLine = IsTypedOnLine(problem.topic.ProblemType);
+    return (besideLine && (IsTyping(event) || event.matches(QKeySequence::Paste))) ||
+           (IsTyping(event) && IsDigit(event.text().toStdString()));
 }
 
 void EntryList::wheelEvent(QWheelEvent* event) {

@@ -1,11 +1,19 @@
 #pragma once
 
 #include <QComboBox>
+#include <QFont>
+#include <QLabel>
 #include <QLineEdit>
 
 #include "core/problem.h"
 
 namespace numerello {
+
+/// The sheets' face for boxes and their labels, its letters so many pixels high.
+QFont EntryFont(int size);
+
+/// A text on a sheet: ink, whatever the desktop's colours.
+QLabel* InkLabel(std::string_view text, QWidget* sheet);
 
 /// One of the boxes Text1 to Text6. Every key, also a pasted one, goes through the box rule; the
 /// caret stays at the end, and the box widens with its text.
@@ -15,7 +23,8 @@ class EntryBox : public QLineEdit {
   public:
     EntryBox(int number, Problem& problem, QWidget* sheet);
 
-    /// Takes over the text that the problem holds.
+    /// Takes over the text that the problem holds, and whether it still takes keys. Where the box
+    /// stands and how wide it is, is its form's business.
     void ShowText();
 
   signals:
@@ -50,6 +59,9 @@ class EntryList : public QComboBox {
     /// As wide as its longest row, that without a choice included.
     int WidthForAll() const;
 
+    /// Takes on this width; rows that are too long for it are set smaller, not cut.
+    void FitRows(int width);
+
   signals:
     void Chosen();
 
@@ -59,7 +71,9 @@ class EntryList : public QComboBox {
     void wheelEvent(QWheelEvent* event) override;
 
   private:
+    int LongestRow() const;
     void Choose(int row);
+    bool IsForTheForm(const QKeyEvent& event) const;
     bool Locked() const { return !problem.playback.TypingEnabled; }
 
     int number;

@@ -7,7 +7,6 @@
 #include "app/solvers.h"
 #include "catalogue/guided_input.h"
 #include "core/text.h"
-#include "topics/conversions.h"
 #include "ui/artwork.h"
 #include "ui/desk.h"
 #include "ui/pointer.h"
@@ -24,12 +23,6 @@ constexpr QSize kSheetSize(800, 657);
 constexpr QSize kLightSize(48, 120);
 constexpr int kLightTop = 24;
 
-constexpr int kMeterTopic = 23;
-constexpr int kGramTopic = 24;
-constexpr QPoint kValuePlace(67, 87);
-constexpr QPoint kUnitsPlace(67, 133);
-constexpr int kUnitsRight = 750;
-constexpr int kUnitsGap = 16;
 
 /// The light may cover the sheet, but not where anything is written.
 constexpr int kLightLeftOnSheet = 752;
@@ -99,60 +92,14 @@ void FrmPaper::MakeDesk() {
 }
 
 void FrmPaper::MakeEntry() {
-    QWidget* sheet = papers[0];
-    const int code = problem.topic.ProblemType;
-    if (code == kMeterTopic || code == kGramTopic) {
-        constexpr int kValueBox = 4;
-        auto* value = new EntryBox(kValueBox, problem, sheet);
-        value->move(kValuePlace);
-        value->setAccessibleName(QStringLiteral("Value"));
-        boxes.push_back(value);
-        MakeUnits(code == kMeterTopic ? 1 : 2);
-        connect(value, &EntryBox::Typed, this, [this, value] {
-            Refresh();
-            ensureWidgetVisible(value);
-        });
-        setFocusProxy(value);
-    } else if (!IsTypedOnLine(code)) {
-        AddLabel(QStringLiteral("The entry of this topic is not built yet."), kValuePlace);
+    entry = new EntryForm(problem, papers[0]);
+    connect(entry, &EntryForm::Changed, this, [this](QWidget* field) {
+        Refresh();
+        ensureWidgetVisible(field);
+    });
+    if (entry->FirstBox() != nullptr) {
+        setFocusProxy(entry->FirstBox());
     }
-}
-
-/// One row: the unit of the value, and the one that is asked for.
-void FrmPaper::MakeUnits(int UnitKind) {
-    QLabel* to = AddLabel(QStringLiteral("to"), kUnitsPlace);
-    EntryList* from = AddUnitList(1, UnitKind, QStringLiteral("From"));
-    EntryList* into = AddUnitList(2, UnitKind, QStringLiteral("To"));
-    to->adjustSize();
-    const int room = (kUnitsRight - kUnitsPlace.x() - to->width()) / 2 - kUnitsGap;
-    const int width = std::min(from->WidthForAll(), room);
-    from->move(kUnitsPlace);
-    from->setFixedWidth(width);
-    to->setFixedHeight(from->height());
-    to->move(from->geometry().right() + kUnitsGap, kUnitsPlace.y());
-    into->move(to->geometry().right() + kUnitsGap, kUnitsPlace.y());
-    into->setFixedWidth(width);
-}
-
-EntryList* FrmPaper::AddUnitList(int number, int UnitKind, const QString& name) {
-    auto* list = new EntryList(number, problem, papers[0]);
-    for (int row = 0; row < kMetricItems; ++row) {
-        list->addItem(ToQString(MetricItem(row, UnitKind)));
-    }
-    list->setAccessibleName(name);
-    list->ShowChoice();
-    connect(list, &EntryList::Chosen, this, &FrmPaper::Refresh);
-    lists.push_back(list);
-    return list;
-}
-
-QLabel* FrmPaper::AddLabel(const QString& text, QPoint place) {
-    auto* label = new QLabel(text, papers[0]);
-    QPalette ink = label->palette();
-    ink.setColor(QPalette::WindowText, Qt::black);
-    label->setPalette(ink);
-    label->move(place);
-    return label;
 }
 
 void FrmPaper::compute_Click() {
@@ -273,7 +220,7 @@ void FrmPaper::hideEvent(QHideEvent* event) {
 
 void FrmPaper::Refresh() {
     ShowSheets();
-    ShowEntry();
+    entry->Show();
     ShowLightPicture();
     FitDesk();
     KeepTimer();
@@ -302,16 +249,6 @@ QString FrmPaper::SheetText() const {
         text += u'\n' + ToQString(line);
     }
     return text;
-}
-
-void FrmPaper::ShowEntry() {
-    for (EntryBox* box : boxes) {
-        box->ShowText();
-        box->setReadOnly(!problem.playback.TypingEnabled);
-    }
-    for (EntryList* list : lists) {
-        list->ShowChoice();
-    }
 }
 
 void FrmPaper::ShowLightPicture() {

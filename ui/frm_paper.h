@@ -4,10 +4,9 @@
 #include <QScrollArea>
 #include <QTimer>
 #include <array>
-#include <vector>
 
 #include "core/problem.h"
-#include "ui/entry_controls.h"
+#include "ui/entry_form.h"
 #include "ui/font_metrics.h"
 #include "ui/sheet_widget.h"
 #include "ui/window_learner.h"
@@ -49,15 +48,11 @@ class FrmPaper : public QScrollArea {
   private:
     void MakeDesk();
     void MakeEntry();
-    void MakeUnits(int UnitKind);
-    EntryList* AddUnitList(int number, int UnitKind, const QString& name);
-    QLabel* AddLabel(const QString& text, QPoint place);
     void TypeText(const QString& text);
     void Refresh();
     void ShowStep();
     void ShowSheets();
     void ShowLightPicture();
-    void ShowEntry();
     void FitDesk();
     void ScrollToLineEnd();
     void KeepTimer();
@@ -70,8 +65,7 @@ class FrmPaper : public QScrollArea {
     QWidget* desk;
     std::array<SheetWidget*, Worksheet::kSheetCount> papers{};
     QLabel* light;
-    std::vector<EntryBox*> boxes;
-    std::vector<EntryList*> lists;
+    EntryForm* entry;
     QTimer timer2{this};
     bool onScreen = false;
 };

@@ -1,6 +1,6 @@
 #include "worksheet/entry_rows.h"
 
-#include "core/problem.h"
+#include "catalogue/entry_layouts.h"
 
 namespace numerello {
 
@@ -12,11 +12,6 @@ constexpr double kRowBelowBoxes = 173;
 
 constexpr int kTopBoxTopic = 27;
 
-/// Whether the boxes stand on a drawing. Up to 19 all codes but 14, a percent, are geometry.
-bool HasPicture(int ProblemType) {
-    return ProblemType >= 1 && ProblemType <= 19 && ProblemType != 14;
-}
-
 }  // namespace
 
 std::optional<double> EntryRow(int ProblemType) {
@@ -26,7 +21,8 @@ std::optional<double> EntryRow(int ProblemType) {
     if (ProblemType > kTopBoxTopic) {
         return std::nullopt;
     }
-    return HasPicture(ProblemType) ? kRowBelowPicture : kRowBelowBoxes;
+    const EntryLayout* layout = FindEntryLayout(ProblemType);
+    return layout != nullptr && !layout->picture.empty() ? kRowBelowPicture : kRowBelowBoxes;
 }
 
 }  // namespace numerello

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <string>
+#include <vector>
+
 namespace numerello {
 namespace {
 
@@ -96,6 +100,134 @@ TEST(CheckBoxesReady, MetricTopicsNeedAValueAndBothUnits) {
         EXPECT_FALSE(ready("5", -1, 6));
         EXPECT_FALSE(ready("5", 0, -1));
     }
+}
+
+using Texts = std::array<std::string, 6>;
+
+bool Ready(int code, const Texts& texts) {
+    Problem problem = WithCode(code);
+    problem.boxes.Text = texts;
+    problem.boxes.ListIndex = {0, 6, 0};
+    problem.controls.SolveEnabled = false;
+    CheckBoxesReady(problem);
+    return problem.controls.SolveEnabled;
+}
+
+/// Numbers in these boxes, 1 to 6, and nothing in the others.
+Texts Filled(const std::vector<int>& boxes) {
+    Texts texts;
+    for (const int box : boxes) {
+        texts[static_cast<std::size_t>(box) - 1] = "7";
+    }
+    return texts;
+}
+
+Texts With(Texts texts, int box, const std::string& text) {
+    texts[static_cast<std::size_t>(box) - 1] = text;
+    return texts;
+}
+
+/// Which boxes a group of topics asks for.
+struct Asked {
+    std::vector<int> codes;
+    std::vector<int> boxes;
+};
+
+const std::vector<Asked> kAllAsked = {{{2, 3, 6, 8, 9, 13, 25, 200, 201, 202, 203}, {1, 2}},
+                                      {{1, 4, 10, 19}, {1, 2, 3}},
+                                      {{26, 27}, {1, 2, 3, 4}},
+                                      {{5, 7, 15, 16, 17, 18}, {2}},
+                                      {{23, 24}, {4}}};
+const std::vector<Asked> kAllButOneAsked = {{{12, 14, 21, 22}, {1, 2, 4}}, {{20}, {1, 2, 3, 4}}};
+
+const std::vector<std::string> kNumbers = {"5.", ".5", "-5", "-.5", "0", "0.00", "1234567890"};
+const std::vector<std::string> kNoNumbers = {"-", ".", "-.", "1.2.3", "5-", "x"};
+
+TEST(CheckBoxesReady, MostTopicsWantANumberInEachOfTheirBoxes) {
+    for (const auto& [codes, boxes] : kAllAsked) {
+        for (const int code : codes) {
+            SCOPED_TRACE(code);
+            const Texts all = Filled(boxes);
+            EXPECT_TRUE(Ready(code, all));
+            EXPECT_FALSE(Ready(code, Texts()));
+            for (const int box : boxes) {
+                SCOPED_TRACE(box);
+                EXPECT_FALSE(Ready(code, With(all, box, "")));
+                EXPECT_EQ(Ready(code, With(Texts(), box, "7")), boxes.size() == 1);
+                for (const std::string& number : kNumbers) {
+                    EXPECT_TRUE(Ready(code, With(all, box, number))) << number;
+                }
+                for (const std::string& text : kNoNumbers) {
+                    EXPECT_FALSE(Ready(code, With(all, box, text))) << text;
+                }
+            }
+        }
+    }
+}
+
+TEST(CheckBoxesReady, MissingValueTopicsWantExactlyOneEmptyBox) {
+    for (const auto& [codes, boxes] : kAllButOneAsked) {
+        for (const int code : codes) {
+            SCOPED_TRACE(code);
+            const Texts all = Filled(boxes);
+            EXPECT_FALSE(Ready(code, all));
+            EXPECT_FALSE(Ready(code, Texts()));
+            for (const int empty : boxes) {
+                const Texts oneEmpty = With(all, empty, "");
+                EXPECT_TRUE(Ready(code, oneEmpty)) << empty;
+                for (const std::string& text : kNoNumbers) {
+                    EXPECT_FALSE(Ready(code, With(all, empty, text))) << text;
+                }
+                for (const int other : boxes) {
+                    if (other == empty) {
+                        continue;
+                    }
+                    EXPECT_FALSE(Ready(code, With(oneEmpty, other, ""))) << empty << other;
+                    for (const std::string& number : kNumbers) {
+                        EXPECT_TRUE(Ready(code, With(oneEmpty, other, number))) << number;
+                    }
+                    for (const std::string& text : kNoNumbers) {
+                        EXPECT_FALSE(Ready(code, With(oneEmpty, other, text))) << text;
+                    }
+                }
+            }
+        }
+    }
+}
+
+TEST(CheckBoxesReady, SimilarTrianglesWantTheLeftOneAndASideOfTheRightOne) {
+    constexpr int kCode = 11;
+    EXPECT_FALSE(Ready(kCode, Texts()));
+    EXPECT_FALSE(Ready(kCode, Filled({1, 2, 3})));
+    EXPECT_FALSE(Ready(kCode, Filled({4, 5, 6})));
+    for (const std::vector<int>& right :
+         std::vector<std::vector<int>>{{4}, {5}, {6}, {4, 5}, {4, 6}, {5, 6}, {4, 5, 6}}) {
+        Texts texts = Filled(right);
+        texts[0] = texts[1] = texts[2] = "7";
+        EXPECT_TRUE(Ready(kCode, texts)) << right.size();
+        for (const int left : {1, 2, 3}) {
+            EXPECT_FALSE(Ready(kCode, With(texts, left, ""))) << left;
+        }
+        for (int box = 1; box <= 6; ++box) {
+            for (const std::string& number : kNumbers) {
+                EXPECT_TRUE(Ready(kCode, With(texts, box, number))) << box << " " << number;
+            }
+            for (const std::string& text : kNoNumbers) {
+                EXPECT_FALSE(Ready(kCode, With(texts, box, text))) << box << " " << text;
+            }
+        }
+    }
+}
+
+TEST(CheckBoxesReady, BoxesThatATopicDoesNotShowDoNotCount) {
+    EXPECT_TRUE(Ready(5, {"-", "7", "-", "-", "-", "-"}));
+    EXPECT_TRUE(Ready(14, {"7", "7", "-", "", "-", "-"}));
+    EXPECT_FALSE(Ready(7, {"7", "", "7", "7", "7", "7"}));
+}
+
+TEST(CheckBoxesReady, WithoutATopicNothingIsReady) {
+    EXPECT_FALSE(Ready(0, Filled({1, 2, 3, 4, 5, 6})));
+    EXPECT_FALSE(Ready(204, Filled({1, 2, 3, 4, 5, 6})));
 }
 
 TEST(CheckBoxesReady, RunsWithEachKey) {

@@ -561,16 +561,22 @@ TEST_F(Window, ATopicWithoutASolverSaysSoAndKeepsTheProblem) {
     EXPECT_EQ(SheetText(), "123");
 }
 
-TEST_F(Window, ATopicWithoutAnEntrySaysSoOnItsSheet) {
-    for (const char* caption : {"Area of a Circle"}) {
-        Choose(QString::fromUtf8(caption));
-        const auto labels = Find<QWidget>(frame, QStringLiteral("Paper0")).findChildren<QLabel*>();
-        ASSERT_EQ(labels.size(), 1) << caption;
-        EXPECT_EQ(labels.front()->text(), "The entry of this topic is not built yet.");
-        Type(QStringLiteral("4"));
-        EXPECT_EQ(SheetText(), "");
-        EXPECT_FALSE(Command("mnuSolve").isEnabled());
-    }
+TEST_F(Window, AShapeIsMeasuredInTheBoxesOnItsPicture) {
+    Choose(QStringLiteral("Area of a Triangle"));
+    auto& base = Find<QLineEdit>(frame, QStringLiteral("Text2"));
+    auto& height = Find<QLineEdit>(frame, QStringLiteral("Text1"));
+    EXPECT_TRUE(base.hasFocus());
+    Type(QStringLiteral("4"));
+    EXPECT_FALSE(Command("mnuSolve").isEnabled());
+    PressKey(frame, Qt::Key_Tab);
+    EXPECT_TRUE(height.hasFocus());
+    Type(QStringLiteral("2.5"));
+    EXPECT_TRUE(Command("mnuSolve").isEnabled());
+    PressKeys(frame, {Qt::Key_Backspace, Qt::Key_Backspace, Qt::Key_Backspace});
+    EXPECT_FALSE(Command("mnuSolve").isEnabled());
+    Erase();
+    EXPECT_EQ(base.text(), "");
+    EXPECT_TRUE(base.hasFocus());
 }
 
 TEST_F(Window, AnUnfinishedNumberIsAnsweredWithTheFormatMessage) {

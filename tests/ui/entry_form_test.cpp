@@ -1,0 +1,423 @@
+#include "ui/entry_form.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QPainter>
+#include <QStyleOptionComboBox>
+#include <QTest>
+#include <memory>
+
+#include "catalogue/chooser.h"
+#include "catalogue/input_classes.h"
+#include "catalogue/topics.h"
+#include "tests/ui/window.h"
+#include "ui/artwork.h"
+#include "ui/frm_paper.h"
+#include "ui/text.h"
+
+namespace numerello {
+namespace {
+
+constexpr int kRounding = 98;
+
+/// The sheet of one topic in a window of its own.
+class EntryFormTest : public testing::Test {
+  protected:
+    /// The topic is opened with this mask, or its own when there is none.
+    void Open(int code, int mask = 0) {
+        paper.reset();
+        problem = Problem();
+        MersenneSource random;
+        TreeViewSelect(FindTopicByCode(code)->caption, problem.topic, FixedClock(0), random);
+        problem.topic.InputMask = mask != 0 ? mask : problem.topic.InputMask;
+        paper = std::make_unique<FrmPaper>(problem, learner, nullptr);
+        paper->resize(1000, 690);
+        ShowActive(*paper);
+        paper->setFocus();
+    }
+
+    /// Opens 98 for whole numbers and decimals.
+    void OpenRounding() { Open(kRounding, kNumbers | kDecimalPoint); }
+
+    QWidget& Sheet() { return Find<QWidget>(*paper, QStringLiteral("Paper0")); }
+    EntryBox& Box(int number) {
+        return Find<EntryBox>(*paper, QStringLiteral("Text%1").arg(number));
+    }
+    EntryList& List(int number) {
+        return Find<EntryList>(*paper, QStringLiteral("Combo%1").arg(number));
+    }
+    QLabel& Label(const QString& text) {
+        for (QLabel* label : Sheet().findChildren<QLabel*>()) {
+            if (label->text() == text) {
+                return *label;
+            }
+        }
+        throw std::runtime_error("there is no label '" + text.toStdString() + "'");
+    }
+    void Type(const QString& text) { TypeText(*paper, text); }
+    void Paste(const QString& text) {
+        QGuiApplication::clipboard()->setText(text);
+        PressKey(*paper, Qt::Key_V, Qt::ControlModifier);
+    }
+    QString Focused() {
+        const QWidget* focused = paper->focusWidget();
+        return focused == nullptr ? QString() : focused->objectName();
+    }
+
+    /// Types ten digits into each box that takes them.
+    void FillToTheBrim(const EntryLayout& layout) {
+        for (const EntryBoxLayout& box : layout.boxes) {
+            Box(box.number).setFocus();
+            Type(QStringLiteral("8888888888"));
+        }
+    }
+
+    Problem problem;
+    WindowLearner learner{nullptr};
+    std::unique_ptr<FrmPaper> paper;
+};
+
+TEST_F(EntryFormTest, ShowsTheBoxesOfItsTopicUnderTheirNames) {
+    for (const EntryLayout& layout : EntryLayouts()) {
+        SCOPED_TRACE(layout.code);
+        Open(layout.code);
+        EXPECT_EQ(Sheet().findChildren<EntryBox*>().size(),
+                  static_cast<qsizetype>(layout.boxes.size()));
+        const PlacedEntry placed = PlaceEntry(layout, EntryBoxes());
+        for (std::size_t i = 0; i < layout.boxes.size(); ++i) {
+            const EntryBoxLayout& box = layout.boxes[i];
+            const EntryRect& place = placed.boxes[i];
+            const EntryBox& shown = Box(box.number);
+            EXPECT_TRUE(shown.isVisible());
+            EXPECT_EQ(shown.accessibleName(), ToQString(box.name));
+            EXPECT_EQ(shown.geometry(), QRect(place.x, place.y, 54, 30));
+            EXPECT_EQ(shown.text(), "");
+        }
+    }
+}
+
+TEST_F(EntryFormTest, ShowsEveryLabelWhole) {
+    for (const EntryLayout& layout : EntryLayouts()) {
+        SCOPED_TRACE(layout.code);
+        Open(layout.code);
+        QStringList expected;
+        for (const EntryBoxLayout& box : layout.boxes) {
+            if (box.side != NameSide::Hidden) {
+                expected << ToQString(box.name);
+                EXPECT_EQ(Label(expected.back()).buddy(), &Box(box.number));
+            }
+        }
+        for (const EntryLabel& label : layout.labels) {
+            expected << ToQString(label.text);
+        }
+        for (const QString& text : expected) {
+            const QLabel& label = Label(text);
+            EXPECT_TRUE(label.isVisible());
+            EXPECT_LE(label.fontMetrics().horizontalAdvance(text), label.width())
+                << text.toStdString();
+            EXPECT_EQ(label.font().family(), "VantrelFont");
+        }
+    }
+}
+
+TEST_F(EntryFormTest, TheTabKeyGoesThroughBoxesAndLists) {
+    for (const EntryLayout& layout : EntryLayouts()) {
+        SCOPED_TRACE(layout.code);
+        Open(layout.code);
+        QStringList expected;
+        for (const EntryBoxLayout& box : layout.boxes) {
+            expected << QStringLiteral("Text%1").arg(box.number);
+        }
+        if (layout.lists == EntryLists::Roundings) {
+            // The sheet itself takes the keys first.
+            expected << QStringLiteral("frmPaper") << QStringLiteral("Combo3");
+        } else if (layout.lists != EntryLists::None) {
+            expected << QStringLiteral("Combo1") << QStringLiteral("Combo2");
+        }
+        for (const QString& name : expected) {
+            EXPECT_EQ(Focused().toStdString(), name.toStdString());
+            PressKey(*paper, Qt::Key_Tab);
+        }
+        PressKey(*paper, Qt::Key_Tab, Qt::ShiftModifier);
+        EXPECT_EQ(Focused(), expected.back());
+    }
+}
+
+TEST_F(EntryFormTest, ShowsItsPictureInThePictureBox) {
+    for (const EntryLayout& layout : EntryLayouts()) {
+        SCOPED_TRACE(layout.code);
+        Open(layout.code);
+        const auto pictures = Sheet().findChildren<QWidget*>(QStringLiteral("Picture3"));
+        ASSERT_EQ(pictures.size(), layout.picture.empty() ? 0 : 1);
+        if (pictures.empty()) {
+            continue;
+        }
+        EXPECT_EQ(pictures.front()->geometry(), QRect(144, 62, 512, 200));
+        QImage shown(512, 200, QImage::Format_ARGB32_Premultiplied);
+        shown.fill(Qt::transparent);
+        pictures.front()->render(&shown, {}, {}, QWidget::RenderFlags());
+        QImage expected(shown.size(), shown.format());
+        expected.fill(Qt::transparent);
+        QPainter painter(&expected);
+        painter.drawPixmap(layout.pictureX - 144, 0,
+                           Artwork(ToQString(layout.picture), {400, 200}, 1));
+        if (layout.code == 8) {
+            painter.drawPixmap(layout.pictureX - 144, 0,
+                               Artwork(QStringLiteral("triangleheight"), {400, 200}, 1));
+        }
+        painter.end();
+        EXPECT_EQ(shown, expected);
+    }
+}
+
+TEST_F(EntryFormTest, AllThirteenPicturesAreDrawn) {
+    for (const char* key :
+         {"similartriangles", "righttriangle", "parallelogram", "trapezoid", "cube", "cylinder",
+          "cone", "pyramid", "sphere", "triangle", "circle2", "circle", "rectangle"}) {
+        const QPixmap picture = Artwork(QString::fromUtf8(key), {400, 200}, 1);
+        EXPECT_FALSE(picture.isNull()) << key;
+        EXPECT_EQ(picture.size(), QSize(400, 200)) << key;
+    }
+}
+
+TEST_F(EntryFormTest, NothingCoversAPictureAtAnyWidth) {
+    for (const EntryLayout& layout : EntryLayouts()) {
+        if (layout.picture.empty()) {
+            continue;
+        }
+        SCOPED_TRACE(layout.code);
+        Open(layout.code);
+        FillToTheBrim(layout);
+        const QImage drawing = Artwork(ToQString(layout.picture), {400, 200}, 1).toImage();
+        const QPoint corner(layout.pictureX, 62);
+        for (const QWidget* piece : Sheet().findChildren<QWidget*>()) {
+            if (qobject_cast<const QLabel*>(piece) == nullptr &&
+                qobject_cast<const EntryBox*>(piece) == nullptr) {
+                continue;
+            }
+            const QRect covered = piece->geometry().translated(-corner).intersected(drawing.rect());
+            int painted = 0;
+            for (int y = covered.top(); y <= covered.bottom(); ++y) {
+                for (int x = covered.left(); x <= covered.right(); ++x) {
+                    painted += drawing.pixelColor(x, y).alpha() > 0 ? 1 : 0;
+                }
+            }
+            EXPECT_EQ(painted, 0) << piece->accessibleName().toStdString();
+        }
+    }
+}
+
+TEST_F(EntryFormTest, ABoxWidensAwayFromItsLabel) {
+    Open(3);  // radius= and height= of a cone
+    Type(QStringLiteral("12345"));
+    EXPECT_EQ(Box(2).geometry(), QRect(372, 232, 78, 30));
+    EXPECT_LE(Label(QStringLiteral("radius=")).geometry().right(), Box(2).x());
+    Open(7);  // =radius of a circle
+    const int right = Box(2).geometry().right();
+    const QRect label = Label(QStringLiteral("=radius")).geometry();
+    Type(QStringLiteral("12345"));
+    EXPECT_EQ(Box(2).width(), 78);
+    EXPECT_EQ(Box(2).geometry().right(), right);
+    EXPECT_EQ(Label(QStringLiteral("=radius")).geometry(), label);
+    PressKeys(*paper, {Qt::Key_Backspace, Qt::Key_Backspace});
+    EXPECT_EQ(Box(2).width(), 54);
+}
+
+TEST_F(EntryFormTest, InARowTheOthersMakeWay) {
+    Open(14);
+    const int of = Label(QStringLiteral("%    of")).x();
+    const int base = Box(4).x();
+    PressKey(*paper, Qt::Key_Tab);
+    Type(QStringLiteral("12.345"));
+    EXPECT_EQ(Label(QStringLiteral("%    of")).x(), of + 36);
+    EXPECT_EQ(Box(4).x(), base + 36);
+    EXPECT_EQ(Box(1).x(), 67);
+}
+
+TEST_F(EntryFormTest, KeypadAndPasteGoThroughTheBoxRule) {
+    Open(6);
+    for (const auto& [key, text] :
+         {std::pair(Qt::Key_Minus, "-"), std::pair(Qt::Key_4, "4"), std::pair(Qt::Key_Period, "."),
+          std::pair(Qt::Key_Plus, "+"), std::pair(Qt::Key_5, "5")}) {
+        QTest::sendKeyEvent(QTest::Click, paper->windowHandle(), key, QString::fromUtf8(text),
+                            Qt::KeypadModifier);
+    }
+    EXPECT_EQ(Box(2).text(), "-4.5");
+    PressKey(*paper, Qt::Key_Tab);
+    Paste(QStringLiteral(" 1,2-3.4.5\n"));
+    EXPECT_EQ(Box(1).text(), "123.45");
+    Paste(QStringLiteral("6789012"));
+    EXPECT_EQ(Box(1).text(), "123.456789");
+    EXPECT_TRUE(problem.controls.SolveEnabled);
+}
+
+TEST_F(EntryFormTest, ColumnBoxesTakeDigitsAlone) {
+    Open(200);
+    Type(QStringLiteral("-4.7"));
+    EXPECT_EQ(Box(1).text(), "47");
+    PressKey(*paper, Qt::Key_Tab);
+    Type(QStringLiteral("3e8"));
+    EXPECT_EQ(Box(2).text(), "38");
+    EXPECT_TRUE(problem.controls.SolveEnabled);
+}
+
+TEST_F(EntryFormTest, OnceSolvedEveryBoxIsLocked) {
+    for (const EntryLayout& layout : EntryLayouts()) {
+        SCOPED_TRACE(layout.code);
+        Open(layout.code);
+        for (const EntryBoxLayout& box : layout.boxes) {
+            Box(box.number).setFocus();
+            Type(QStringLiteral("5"));
+            EXPECT_FALSE(Box(box.number).isReadOnly());
+        }
+        const bool ready = problem.controls.SolveEnabled;
+        problem.playback.TypingEnabled = false;
+        paper->mnuShowStep_Click(true);
+        for (const EntryBoxLayout& box : layout.boxes) {
+            EntryBox& locked = Box(box.number);
+            EXPECT_TRUE(locked.isReadOnly());
+            EXPECT_TRUE(locked.isEnabled());
+            locked.setFocus();
+            EXPECT_TRUE(locked.hasFocus());
+            Type(QStringLiteral("7"));
+            PressKey(*paper, Qt::Key_Backspace);
+            Paste(QStringLiteral("8"));
+            EXPECT_EQ(locked.text(), "5");
+        }
+        for (EntryList* list : Sheet().findChildren<EntryList*>()) {
+            const int choice = list->currentIndex();
+            list->setFocus();
+            PressKey(*paper, Qt::Key_Down);
+            EXPECT_EQ(list->currentIndex(), choice);
+        }
+        EXPECT_EQ(problem.controls.SolveEnabled, ready);
+    }
+}
+
+TEST_F(EntryFormTest, EnterInABoxSolvesWhatIsReady) {
+    Open(23);
+    Type(QStringLiteral("5"));
+    PressKey(*paper, Qt::Key_Return);
+    EXPECT_EQ(problem.log.StepCount, 1);
+    PressKeys(*paper, {Qt::Key_Tab, Qt::Key_Down, Qt::Key_Tab, Qt::Key_Down});
+    Box(4).setFocus();
+    PressKey(*paper, Qt::Key_Enter);
+    EXPECT_EQ(problem.log.StepText[6], "5 mm = 5 mm");
+}
+
+TEST_F(EntryFormTest, StaysPaperAndInkOnADarkDesktop) {
+    const QPalette usual = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(40, 40, 40)));
+    Open(6);
+    EXPECT_EQ(Box(2).palette().color(QPalette::Base), QColor(Qt::white));
+    EXPECT_EQ(Box(2).palette().color(QPalette::Text), QColor(Qt::black));
+    EXPECT_EQ(Label(QStringLiteral("base=")).palette().color(QPalette::WindowText),
+              QColor(Qt::black));
+    QApplication::setPalette(usual);
+}
+
+TEST_F(EntryFormTest, UnitListsDropDigits) {
+    Open(23);
+    Type(QStringLiteral("5"));
+    PressKeys(*paper, {Qt::Key_Tab, Qt::Key_Down, Qt::Key_Down});
+    EXPECT_EQ(List(1).currentIndex(), 1);
+    Type(QStringLiteral("1"));
+    EXPECT_EQ(List(1).currentIndex(), 1);
+    EXPECT_EQ(Box(4).text(), "5");
+    EXPECT_EQ(problem.typed.ProblemText, "");
+    Type(QStringLiteral("k"));
+    EXPECT_EQ(List(1).currentText(), "km (1000 meters)");
+}
+
+TEST_F(EntryFormTest, TheRoundingListStandsOverTheEndOfTheLine) {
+    OpenRounding();
+    EXPECT_EQ(List(3).geometry(), QRect(480, 66, 260, List(3).height()));
+    EXPECT_LE(List(3).geometry().bottom(), 98);
+    EXPECT_EQ(List(3).accessibleName(), "Rounding");
+    EXPECT_EQ(List(3).currentText(), "Rounded to the nearest thousand");
+    ASSERT_EQ(List(3).count(), 7);
+    for (int row = 0; row < 7; ++row) {
+        EXPECT_EQ(List(3).itemText(row), ToQString(RoundingRows()[static_cast<std::size_t>(row)]));
+    }
+}
+
+TEST_F(EntryFormTest, CharactersTypedOnTheRoundingListGoToTheLine) {
+    OpenRounding();
+    Type(QStringLiteral("4"));
+    PressKeys(*paper, {Qt::Key_Tab, Qt::Key_Down, Qt::Key_Down});
+    EXPECT_TRUE(List(3).hasFocus());
+    EXPECT_EQ(List(3).currentText(), "Rounded to the nearest ten");
+    Type(QStringLiteral("52R"));
+    EXPECT_EQ(problem.typed.ProblemText, "452");
+    EXPECT_EQ(problem.controls.Light, EntryControls::LightPicture::Incorrect);
+    PressKey(*paper, Qt::Key_Backspace);
+    Paste(QStringLiteral(".25"));
+    EXPECT_EQ(problem.typed.ProblemText, "45.25");
+    EXPECT_EQ(List(3).currentText(), "Rounded to the nearest ten");
+    EXPECT_TRUE(List(3).hasFocus());
+}
+
+TEST_F(EntryFormTest, AChangeOfTheRoundingKeepsLineAndSolve) {
+    OpenRounding();
+    PressKeys(*paper, {Qt::Key_Tab, Qt::Key_Down});
+    EXPECT_EQ(problem.boxes.ListIndex[2], 1);
+    EXPECT_TRUE(problem.topic.ClickedOnly);
+    EXPECT_FALSE(problem.controls.SolveEnabled);
+    Type(QStringLiteral("45"));
+    PressKey(*paper, Qt::Key_End);
+    EXPECT_EQ(List(3).currentText(), "Rounded to the nearest thousandth");
+    EXPECT_EQ(problem.typed.ProblemText, "45");
+    EXPECT_TRUE(problem.controls.SolveEnabled);
+}
+
+TEST_F(EntryFormTest, ErasingSetsTheRoundingBack) {
+    OpenRounding();
+    PressKeys(*paper, {Qt::Key_Tab, Qt::Key_End});
+    const WhenDialogOpens question(QStringLiteral("MessageBox"), [](QWidget& dialog) {
+        PressButton(dialog, QStringLiteral("OK"));
+    });
+    paper->clear_Click();
+    EXPECT_EQ(List(3).currentText(), "Rounded to the nearest thousand");
+}
+
+TEST_F(EntryFormTest, ErasingEmptiesAllBoxesAndMakesThemNarrow) {
+    Open(11);
+    FillToTheBrim(*FindEntryLayout(11));
+    const WhenDialogOpens question(QStringLiteral("MessageBox"), [](QWidget& dialog) {
+        PressButton(dialog, QStringLiteral("OK"));
+    });
+    paper->clear_Click();
+    for (int box = 1; box <= 6; ++box) {
+        EXPECT_EQ(Box(box).text(), "");
+        EXPECT_EQ(Box(box).width(), 54);
+    }
+    ShowActive(*paper);
+    EXPECT_EQ(Focused(), "Text3");
+    EXPECT_FALSE(problem.controls.SolveEnabled);
+}
+
+TEST_F(EntryFormTest, ALargeInterfaceFontDoesNotCutTheRoundings) {
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPixelSize(22);
+    QApplication::setFont(large);
+    OpenRounding();
+    EntryList& list = List(3);
+    EXPECT_EQ(list.width(), 260);
+    QStyleOptionComboBox shown;
+    shown.initFrom(&list);
+    const QRect text = list.style()->subControlRect(QStyle::CC_ComboBox, &shown,
+                                                    QStyle::SC_ComboBoxEditField, &list);
+    EXPECT_LT(text.width(), 250);
+    for (int row = 0; row < list.count(); ++row) {
+        EXPECT_LE(list.fontMetrics().horizontalAdvance(list.itemText(row)), text.width());
+    }
+    QApplication::setFont(usual);
+}
+
+}  // namespace
+}  // namespace numerello

@@ -12,7 +12,7 @@ namespace numerello {
 
 namespace {
 
-constexpr std::size_t kLongestLine = std::size_t{1024} * 1024;
+constexpr std::size_t kLongestRequest = std::size_t{1024} * 1024;
 constexpr int kProgressEvery = 100;
 
 struct Line {
@@ -25,7 +25,7 @@ struct Line {
 bool ReadLine(std::istream& in, Line& line) {
     constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
     constexpr int kEnd = std::char_traits<char>::eof();
-    const std::size_t most = kLongestLine + kByteOrderMark.size() + 1;
+    const std::size_t most = kLongestRequest + kByteOrderMark.size() + 1;
     line = Line();
     std::streambuf* buffer = in.rdbuf();
     int next = buffer->sbumpc();
@@ -43,7 +43,7 @@ bool ReadLine(std::istream& in, Line& line) {
     if (line.text.starts_with(kByteOrderMark)) {
         line.text.erase(0, kByteOrderMark.size());
     }
-    line.tooLong = line.tooLong || line.text.size() > kLongestLine;
+    line.tooLong = line.tooLong || line.text.size() > kLongestRequest;
     return any;
 }
 

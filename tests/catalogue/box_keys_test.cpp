@@ -9,6 +9,17 @@
 namespace numerello {
 namespace {
 
+TEST(BoxKey, LooksAtNoMask) {
+    Problem problem;
+    problem.topic.ProblemType = 23;
+    problem.topic.InputMask = 1;
+    problem.playback.TypingEnabled = true;
+    for (const std::string_view key : {"-", "4", ".", "5"}) {
+        EXPECT_TRUE(BoxKey(problem, 4, key)) << key;
+    }
+    EXPECT_EQ(problem.boxes.Text[3], "-4.5");
+}
+
 Problem WithCode(int code) {
     Problem problem;
     problem.topic.ProblemType = code;

@@ -401,6 +401,16 @@ TEST_F(Window, BackspaceAndPasteEditTheLine) {
     EXPECT_EQ(Now().typed.ProblemText, "13.5");
 }
 
+TEST_F(Window, APasteEndsWithItsFirstLine) {
+    Choose(QStringLiteral("Arithmetic"));
+    for (const char* pasted : {"12\n", "+3\r\n+4"}) {
+        QGuiApplication::clipboard()->setText(QString::fromUtf8(pasted));
+        PressKey(frame, Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(Now().controls.Light, EntryControls::LightPicture::Correct);
+    }
+    EXPECT_EQ(SheetText(), "12+3");
+}
+
 TEST_F(Window, AHugePasteIsCutOff) {
     Choose(QStringLiteral("Converting Feet To Yards"));
     QGuiApplication::clipboard()->setText(QString(480, u'x') + u'7');

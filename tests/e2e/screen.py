@@ -178,6 +178,10 @@ def find(name, role=None):
     return None
 
 
+def has_state(found, state):
+    return found.get_state_set().contains(getattr(Atspi.StateType, state))
+
+
 def showing_without_name():
     """The showing objects that take the focus but have no name."""
     nameless = []

@@ -117,6 +117,19 @@ constexpr std::array kButtons{
     Button{"web", "mnuHomePage", "Vantrel on the Web"},
 };
 
+/// An entry that types a key on the line.
+struct Function {
+    const char* command;
+    const char* key;
+};
+
+constexpr std::array kFunctions{
+    Function{"mnuSquareRoot", "~"},  Function{"mnuExponet", "^"},
+    Function{"mnuAbsValue", "|"},    Function{"mnuAddition", "+"},
+    Function{"mnuSubtraction", "-"}, Function{"mnuMultiplication", "*"},
+    Function{"mnuDivision", "/"},
+};
+
 }  // namespace
 
 FrmMain::FrmMain() {
@@ -138,6 +151,7 @@ FrmMain::FrmMain() {
     OnTrigger("mnuShowLight", &FrmMain::mnuShowLight_Click);
     OnTrigger("mnuConvertDF", &FrmMain::mnuConvertDF_Click);
     OnTrigger("mnuExit", &FrmMain::mnuExit_Click);
+    ConnectFunctions();
     ShowNumberForm();
     UpdateCommands();
 }
@@ -215,6 +229,13 @@ void FrmMain::OnTrigger(const char* name, void (FrmMain::*procedure)()) {
     connect(Command(name), &QAction::triggered, this, [this, procedure] { (this->*procedure)(); });
 }
 
+void FrmMain::ConnectFunctions() {
+    for (const Function& function : kFunctions) {
+        connect(Command(function.command), &QAction::triggered, this,
+                [this, key = function.key] { paper->Form_KeyPress(key); });
+    }
+}
+
 void FrmMain::mnuNew_Click() {
     const SavedTopic saved(problem.topic);
     std::vector<TreeNode> nodes;
@@ -258,6 +279,11 @@ void FrmMain::UpdateCommands() {
     }
     if (open && problem.controls.SolveEnabled) {
         enabled.insert(QStringLiteral("mnuSolve"));
+    }
+    if (open && paper->TakesKeys()) {
+        for (const Function& function : kFunctions) {
+            enabled.insert(QString::fromUtf8(function.command));
+        }
     }
     for (QAction* action : std::as_const(commands)) {
         action->setEnabled(enabled.contains(action->objectName()));

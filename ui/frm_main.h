@@ -34,6 +34,7 @@ class FrmMain : public QMainWindow {
     QAction* Command(const char* name) const { return commands.value(QLatin1String(name)); }
     void OnTrigger(const char* name, void (FrmMain::*procedure)());
     void LoadPaper();
+    void ConnectFunctions();
     void UpdateCommands();
     void ShowNumberForm();
 

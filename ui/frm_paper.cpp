@@ -211,9 +211,17 @@ void FrmPaper::ShowLight(bool shown) {
     light->setVisible(shown);
 }
 
+bool FrmPaper::TakesKeys() const {
+    return IsTypedOnLine(problem.topic.ProblemType) && GrammarStands(problem.topic) &&
+           problem.playback.TypingEnabled;
+}
+
 void FrmPaper::Form_KeyPress(std::string_view key) {
-    const bool typing = IsTypedOnLine(problem.topic.ProblemType) && problem.playback.TypingEnabled;
-    if (!typing || (problem.playback.LineEndX >= kTypedLineLimit && key != kBackspace)) {
+    TypeText(ToQString(key));
+}
+
+void FrmPaper::TypeKey(std::string_view key) {
+    if (!TakesKeys() || (problem.playback.LineEndX >= kTypedLineLimit && key != kBackspace)) {
         return;
     }
     numerello::Form_KeyPress(problem, key);
@@ -222,7 +230,7 @@ void FrmPaper::Form_KeyPress(std::string_view key) {
 
 void FrmPaper::TypeText(const QString& text) {
     for (const std::string& key : Characters(text.toStdString())) {
-        Form_KeyPress(key);
+        TypeKey(key);
     }
     Refresh();
     ScrollToLineEnd();

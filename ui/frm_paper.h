@@ -30,6 +30,9 @@ class FrmPaper : public QScrollArea {
     /// A key of the typing line: a character or a Backspace.
     void Form_KeyPress(std::string_view key);
 
+    /// Whether the typing line is open for keys.
+    bool TakesKeys() const;
+
     /// Shows the next line, as a click on the arrow does.
     void NextStep();
 
@@ -53,6 +56,7 @@ class FrmPaper : public QScrollArea {
     EntryList* AddUnitList(int number, int UnitKind, const QString& name);
     QLabel* AddLabel(const QString& text, QPoint place);
     void TypeText(const QString& text);
+    void TypeKey(std::string_view key);
     void Refresh();
     void ShowStep();
     void ShowSheets();

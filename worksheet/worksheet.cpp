@@ -46,6 +46,19 @@ void Worksheet::DrawTypedLine() {
     Changed();
 }
 
+void Worksheet::MovePencil(bool motion) {
+    if (problem.input.KeyAccepted) {
+        motion ? pencil.KeyAccepted() : pencil.KeyAcceptedAtRest();
+    }
+    pencil.Follow(problem.playback.LineEndX);
+    Changed();
+}
+
+void Worksheet::Timer1_Timer() {
+    pencil.Timer1_Timer();
+    Changed();
+}
+
 void Worksheet::BlankSheets() {
     ClearTo(problem.playback.CurrentPage);
     Centre(lastViewWidth);
@@ -72,6 +85,11 @@ bool Worksheet::ArrowVisible() const {
 
 void Worksheet::ClearTo(int lastSheet) {
     stack.Blank(lastSheet);
+    if (IsTypedOnLine(problem.topic.ProblemType)) {
+        pencil.Erase();
+    } else {
+        pencil.LieInMargin();
+    }
     stack[0].surface.CurrentY = EntryRow(problem.topic.ProblemType).value_or(0);
     timer2Enabled = false;
     arrowFrame = false;

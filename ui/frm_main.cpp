@@ -79,6 +79,19 @@ constexpr std::array kMenus{
          4},
 };
 
+/// A menu that the right button opens.
+struct PopUp {
+    const char* menu;
+    const char* name;
+    const char* caption;
+    const char* command;  ///< the entry of the menu bar that it stands for
+    bool ticks;           ///< whether it shows that entry's tick
+};
+
+constexpr std::array kPopUps{
+    PopUp{"mnuHidden2", "mnuUsePencil", "Use &Pencil", "mnuPencil", true},
+};
+
 struct WebEntry {
     const char* name;
     const char* caption;
@@ -140,15 +153,18 @@ FrmMain::FrmMain() {
     setContextMenuPolicy(Qt::NoContextMenu);
     setCentralWidget(new Desk(this));
     MakeMenus();
+    MakePopUps();
     MakeToolbar();
 
     Command("mnuShowStep")->setChecked(problem.settings.mnuShowStep);
     Command("mnuShowLight")->setChecked(true);
+    Command("mnuPencil")->setChecked(true);
     OnTrigger("mnuNew", &FrmMain::mnuNew_Click);
     OnTrigger("mnuSolve", &FrmMain::mnuSolve_Click);
     OnTrigger("mnuErase", &FrmMain::mnuErase_Click);
     OnTrigger("mnuShowStep", &FrmMain::mnuShowStep_Click);
     OnTrigger("mnuShowLight", &FrmMain::mnuShowLight_Click);
+    OnTrigger("mnuPencil", &FrmMain::mnuPencil_Click);
     OnTrigger("mnuConvertDF", &FrmMain::mnuConvertDF_Click);
     OnTrigger("mnuExit", &FrmMain::mnuExit_Click);
     ConnectFunctions();
@@ -200,6 +216,26 @@ void FrmMain::MakeMenus() {
             made->insertMenu(Command("mnuOnlineSupport"), web);
         }
     }
+}
+
+/// The menus of the right button. Their entries stand for those of the menu bar.
+void FrmMain::MakePopUps() {
+    for (const PopUp& row : kPopUps) {
+        auto* menu = new QMenu(this);
+        menu->setObjectName(QString::fromUtf8(row.menu));
+        QAction* action = menu->addAction(QString::fromUtf8(row.caption));
+        action->setObjectName(QString::fromUtf8(row.name));
+        QAction* command = Command(row.command);
+        connect(action, &QAction::triggered, command, &QAction::trigger);
+        if (row.ticks) {
+            action->setCheckable(true);
+            connect(command, &QAction::toggled, action, &QAction::setChecked);
+        }
+    }
+}
+
+void FrmMain::PopUpMenu(const char* name, QPoint place) {
+    findChild<QMenu*>(QLatin1String(name))->popup(place);
 }
 
 void FrmMain::MakeToolbar() {
@@ -264,16 +300,19 @@ void FrmMain::LoadPaper() {
     setCentralWidget(paper);
     paper->show();
     paper->ShowLight(Command("mnuShowLight")->isChecked());
+    paper->UsePencil(Command("mnuPencil")->isChecked());
     connect(paper, &FrmPaper::Changed, this, &FrmMain::UpdateCommands);
+    connect(paper, &FrmPaper::PencilMenuAsked, this,
+            [this](QPoint place) { PopUpMenu("mnuHidden2", place); });
     paper->setFocus();
     UpdateCommands();
 }
 
 void FrmMain::UpdateCommands() {
     const bool open = paper != nullptr;
-    QSet<QString> enabled{QStringLiteral("mnuNew"), QStringLiteral("mnuConvertDF"),
+    QSet<QString> enabled{QStringLiteral("mnuNew"),      QStringLiteral("mnuConvertDF"),
                           QStringLiteral("mnuShowStep"), QStringLiteral("mnuShowLight"),
-                          QStringLiteral("mnuExit")};
+                          QStringLiteral("mnuPencil"),   QStringLiteral("mnuExit")};
     if (open) {
         enabled.insert(QStringLiteral("mnuErase"));
     }
@@ -315,6 +354,12 @@ void FrmMain::mnuShowStep_Click() {
 void FrmMain::mnuShowLight_Click() {
     if (paper != nullptr) {
         paper->ShowLight(Command("mnuShowLight")->isChecked());
+    }
+}
+
+void FrmMain::mnuPencil_Click() {
+    if (paper != nullptr) {
+        paper->UsePencil(Command("mnuPencil")->isChecked());
     }
 }
 

@@ -30,6 +30,8 @@ class FrmMain : public QMainWindow {
 
   private:
     void MakeMenus();
+    void MakePopUps();
+    void PopUpMenu(const char* name, QPoint place);
     void MakeToolbar();
     QAction* Command(const char* name) const { return commands.value(QLatin1String(name)); }
     void OnTrigger(const char* name, void (FrmMain::*procedure)());
@@ -42,6 +44,7 @@ class FrmMain : public QMainWindow {
     void mnuErase_Click();
     void mnuShowStep_Click();
     void mnuShowLight_Click();
+    void mnuPencil_Click();
     void mnuConvertDF_Click();
     void mnuExit_Click();
 

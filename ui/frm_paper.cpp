@@ -93,6 +93,7 @@ void FrmPaper::MakeDesk() {
         papers[static_cast<std::size_t>(i)] = paper;
         connect(&paper->Arrow(), &QAbstractButton::clicked, this, &FrmPaper::NextStep);
     }
+    pencil = new WritingPencil(problem, worksheet, desk);
     light = new QLabel(desk);
     light->setObjectName(QStringLiteral("Light"));
     light->setFixedSize(kLightSize);
@@ -211,6 +212,11 @@ void FrmPaper::ShowLight(bool shown) {
     light->setVisible(shown);
 }
 
+void FrmPaper::UsePencil(bool used) {
+    pencil->Use(used);
+    pencil->Show(viewport()->height());
+}
+
 bool FrmPaper::TakesKeys() const {
     return IsTypedOnLine(problem.topic.ProblemType) && GrammarStands(problem.topic) &&
            problem.playback.TypingEnabled;
@@ -226,6 +232,7 @@ void FrmPaper::TypeKey(std::string_view key) {
     }
     numerello::Form_KeyPress(problem, key);
     worksheet.DrawTypedLine();
+    pencil->KeyTyped();
 }
 
 void FrmPaper::TypeText(const QString& text) {
@@ -260,6 +267,15 @@ void FrmPaper::keyPressEvent(QKeyEvent* event) {
     TypeText(typed);
 }
 
+void FrmPaper::mouseReleaseEvent(QMouseEvent* event) {
+    const QPoint place = event->globalPosition().toPoint();
+    if (event->button() == Qt::RightButton && pencil->IsAt(desk->mapFromGlobal(place))) {
+        emit PencilMenuAsked(place);
+        return;
+    }
+    QScrollArea::mouseReleaseEvent(event);
+}
+
 void FrmPaper::resizeEvent(QResizeEvent* event) {
     QScrollArea::resizeEvent(event);
     worksheet.Centre(viewport()->width());
@@ -283,6 +299,7 @@ void FrmPaper::Refresh() {
     ShowSheets();
     ShowEntry();
     ShowLightPicture();
+    pencil->Show(viewport()->height());
     FitDesk();
     KeepTimer();
     desk->update();
@@ -297,6 +314,9 @@ void FrmPaper::ShowSheets() {
     }
     for (const int index : worksheet.StackingOrder()) {
         papers[static_cast<std::size_t>(index)]->raise();
+        if (index == 0) {
+            pencil->Raise();
+        }
     }
     light->raise();
     const bool refused = problem.controls.Light == EntryControls::LightPicture::Incorrect;

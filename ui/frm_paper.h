@@ -11,6 +11,7 @@
 #include "ui/font_metrics.h"
 #include "ui/sheet_widget.h"
 #include "ui/window_learner.h"
+#include "ui/writing_pencil.h"
 #include "worksheet/worksheet.h"
 
 namespace numerello {
@@ -38,13 +39,18 @@ class FrmPaper : public QScrollArea {
 
     void mnuShowStep_Click(bool ticked);
     void ShowLight(bool shown);
+    void UsePencil(bool used);
 
   signals:
     /// Which commands are open may have changed.
     void Changed();
 
+    /// The right button asks for the pop-up of the pencil, at this place of the screen.
+    void PencilMenuAsked(QPoint place);
+
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
@@ -73,6 +79,7 @@ class FrmPaper : public QScrollArea {
     Worksheet worksheet;
     QWidget* desk;
     std::array<SheetWidget*, Worksheet::kSheetCount> papers{};
+    WritingPencil* pencil = nullptr;
     QLabel* light;
     std::vector<EntryBox*> boxes;
     std::vector<EntryList*> lists;

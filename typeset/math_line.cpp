@@ -1,5 +1,6 @@
 #include "typeset/math_line.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -19,7 +20,7 @@ class MathLine {
         : variant(variant), base(variant.BaseColor(blue)), sheets(sheets), learner(learner) {}
 
     void Start(bool hasSlash);
-    NotationWalk Split(std::string_view text);
+    NotationWalk Walk(std::vector<std::string> characters);
     void Pass(NotationWalk& walk);
     PenPosition End();
 
@@ -27,6 +28,7 @@ class MathLine {
 
   private:
     void DrawPlain(const std::string& character);
+    void PrintPiece(const std::string& piece);
     void Wrap();
     void TurnPage();
 
@@ -52,8 +54,7 @@ void MathLine::Start(bool hasSlash) {
     baseY = page.CurrentY;
 }
 
-NotationWalk MathLine::Split(std::string_view text) {
-    std::vector<std::string> characters = Characters(text);
+NotationWalk MathLine::Walk(std::vector<std::string> characters) {
     if (characters.size() > kLineLimit) {
         Report();
         characters.resize(kLineLimit);
@@ -81,10 +82,24 @@ void MathLine::DrawPlain(const std::string& character) {
         IsPast(baseY, variant.page->limit)) {
         TurnPage();
     }
-    Page().Print(character);
+    PrintPiece(character);
     if (variant.wrap && IsPast(Page().CurrentX, variant.wrap->limit)) {
         Wrap();
     }
+}
+
+/// Only the sheets' face has a root sign; what stands around a quoted one keeps the line's own.
+void MathLine::PrintPiece(const std::string& piece) {
+    if (piece != kQuotedRoot) {
+        Page().Print(piece);
+        return;
+    }
+    const std::string face = Page().FontName();
+    Page().Print(piece.substr(0, 1));
+    Page().SetFontName(kSheetFace);
+    Page().Print(piece.substr(1, 1));
+    Page().SetFontName(face);
+    Page().Print(piece.substr(2));
 }
 
 void MathLine::Wrap() {
@@ -120,12 +135,13 @@ void MathLine::Report() {
 
 }  // namespace
 
-std::optional<PenPosition> DrawMathLine(std::string_view text, const TypesetVariant& variant,
-                                        bool blue, Sheets& sheets, Learner& learner) {
+std::optional<PenPosition> DrawMathLine(std::vector<std::string> characters,
+                                        const TypesetVariant& variant, bool blue, Sheets& sheets,
+                                        Learner& learner) {
     MathLine line(variant, blue, sheets, learner);
     try {
-        line.Start(text.find('/') != std::string_view::npos);
-        for (NotationWalk walk = line.Split(text); !walk.AtEnd();) {
+        line.Start(std::find(characters.begin(), characters.end(), "/") != characters.end());
+        for (NotationWalk walk = line.Walk(std::move(characters)); !walk.AtEnd();) {
             line.Pass(walk);
         }
         return line.End();

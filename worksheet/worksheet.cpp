@@ -34,6 +34,11 @@ void Worksheet::Centre(int viewWidth) {
     Changed();
 }
 
+void Worksheet::RaiseCurrentSheet() {
+    stack.Raise(problem.playback.CurrentPage);
+    Changed();
+}
+
 void Worksheet::DrawTypedLine() {
     const int code = problem.topic.ProblemType;
     if (!IsTypedOnLine(code) || !problem.playback.TypingEnabled) {

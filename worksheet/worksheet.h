@@ -30,6 +30,9 @@ class Worksheet : public Stage, public PaperSheets {
     /// fanned over it move along. For a view that was resized before any sheet was dragged.
     void Centre(int viewWidth);
 
+    /// Lays the sheet in use over all others.
+    void RaiseCurrentSheet();
+
     /// Draws the line as it is typed, in place of the one drawn before. Nothing for a topic with
     /// boxes, nor once typing is closed.
     void DrawTypedLine();

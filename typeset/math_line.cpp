@@ -88,17 +88,21 @@ void MathLine::DrawPlain(const std::string& character) {
     }
 }
 
-/// Only the sheets' face has a root sign; what stands around a quoted one keeps the line's own.
+/// Only the sheets' face has a root sign. It leans over the end of its cell, so it gets the room
+/// that a root gives it.
 void MathLine::PrintPiece(const std::string& piece) {
     if (piece != kQuotedRoot) {
         Page().Print(piece);
         return;
     }
-    const std::string face = Page().FontName();
     Page().Print(piece.substr(0, 1));
+    const double x = Page().CurrentX;
+    Page().CurrentX -= variant.plainRoot.back;
     Page().SetFontName(kSheetFace);
     Page().Print(piece.substr(1, 1));
-    Page().SetFontName(face);
+    Page().SetFontName(variant.face);
+    Page().CurrentX = x;
+    Page().Print("  ");
     Page().Print(piece.substr(2));
 }
 

@@ -117,9 +117,11 @@ TEST(ExplanationLineTest, AQuotedRootShowsItsSign) {
     ASSERT_EQ(marks.size(), 3U);
     EXPECT_EQ(marks[0].text, "'");
     EXPECT_EQ(marks[1].text, "~");
-    EXPECT_NEAR(marks[1].x, kC, 1e-6);
+    // As in a root: 2 to the left, and then two blanks of room, which are one character.
+    EXPECT_NEAR(marks[1].x, kC - 2, 1e-6);
     EXPECT_EQ(marks[1].font.name, "VantrelFont");
     EXPECT_EQ(marks[2].text, "'");
+    EXPECT_NEAR(marks[2].x, 2 * kC, 1e-6);
     EXPECT_EQ(marks[2].font.name, "Book Antiqua");
 }
 

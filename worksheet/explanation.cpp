@@ -82,6 +82,8 @@ void Explanation::ShowExplanation() {
     for (TextRow& row :
          ExplanationRows(isRefusal ? CharactersWithQuotedMarks(text) : Characters(text), kTextWidth,
                          metrics, kFont)) {
+        // The denominators of the row before hang below it.
+        rows.CurrentY = RowsHeight();
         ExplainLine(std::move(row), rows, teller);
     }
 }
@@ -94,6 +96,16 @@ double Explanation::RowsWidth() const {
         }
     }
     return width;
+}
+
+double Explanation::RowsHeight() const {
+    double height = rows.CurrentY;
+    for (const Mark& mark : rows.Marks()) {
+        if (const auto* const piece = std::get_if<TextMark>(&mark)) {
+            height = std::max(height, piece->y + metrics.LineHeight(kFont));
+        }
+    }
+    return height;
 }
 
 double Explanation::Height() const {

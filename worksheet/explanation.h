@@ -37,6 +37,9 @@ class Explanation {
     /// How far the rows reach to the right: kTextWidth, or more where a row could not be cut.
     double RowsWidth() const;
 
+    /// How far they reach down, what hangs below the last row included.
+    double RowsHeight() const;
+
     /// The window's height, with its caption.
     double Height() const;
 

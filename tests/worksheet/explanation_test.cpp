@@ -93,6 +93,23 @@ TEST_F(ExplanationTest, ARowWithASlashStandsLower) {
     EXPECT_NEAR(explanation.Height(), kFractionDrop + kLine + 3.5 * kLine, 1e-6);
 }
 
+TEST_F(ExplanationTest, ARowBelowAFractionStandsClearOfIt) {
+    Choose(kFeetToYards);
+    problem.log.StepNote[0] = "Divide by #1/2# and then go on with the words of the second row.";
+    Say();
+    // A denominator's cell begins 1.7 * 12 - 0.6 * 12 below the row's base, which is at 12.
+    const double below = kFractionDrop + 13.2 + kLine;
+    const auto& last = std::get<TextMark>(explanation.Rows().Marks().back());
+    EXPECT_NEAR(last.y, below + kDrop, 1e-6);
+    EXPECT_NEAR(explanation.Height(), below + kDrop + kLine + 3.5 * kLine, 1e-6);
+    EXPECT_NEAR(explanation.RowsHeight(), below + kDrop + kLine, 1e-6);
+
+    problem.log.StepNote[0] = "Divide by #1/2#.";
+    Say();
+    EXPECT_NEAR(explanation.RowsHeight(), below, 1e-6);
+    EXPECT_NEAR(explanation.Height(), kFractionDrop + kLine + 3.5 * kLine, 1e-6);
+}
+
 TEST_F(ExplanationTest, OnlyTheRedLightTellsWhy) {
     Choose(kFeetToYards);
     EXPECT_FALSE(explanation.Light_Click());

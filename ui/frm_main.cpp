@@ -90,6 +90,7 @@ struct PopUp {
 
 constexpr std::array kPopUps{
     PopUp{"mnuHidden2", "mnuUsePencil", "Use &Pencil", "mnuPencil", true},
+    PopUp{"mnuHidden3", "mnuHideLight", "&Hide Guided Input Light", "mnuShowLight", false},
 };
 
 struct WebEntry {
@@ -162,6 +163,7 @@ FrmMain::FrmMain() {
     OnTrigger("mnuNew", &FrmMain::mnuNew_Click);
     OnTrigger("mnuSolve", &FrmMain::mnuSolve_Click);
     OnTrigger("mnuErase", &FrmMain::mnuErase_Click);
+    OnTrigger("mnuExp", &FrmMain::mnuExp_Click);
     OnTrigger("mnuShowStep", &FrmMain::mnuShowStep_Click);
     OnTrigger("mnuShowLight", &FrmMain::mnuShowLight_Click);
     OnTrigger("mnuPencil", &FrmMain::mnuPencil_Click);
@@ -304,6 +306,8 @@ void FrmMain::LoadPaper() {
     connect(paper, &FrmPaper::Changed, this, &FrmMain::UpdateCommands);
     connect(paper, &FrmPaper::PencilMenuAsked, this,
             [this](QPoint place) { PopUpMenu("mnuHidden2", place); });
+    connect(paper, &FrmPaper::LightMenuAsked, this,
+            [this](QPoint place) { PopUpMenu("mnuHidden3", place); });
     paper->setFocus();
     UpdateCommands();
 }
@@ -315,6 +319,7 @@ void FrmMain::UpdateCommands() {
                           QStringLiteral("mnuPencil"),   QStringLiteral("mnuExit")};
     if (open) {
         enabled.insert(QStringLiteral("mnuErase"));
+        enabled.insert(QStringLiteral("mnuExp"));
     }
     if (open && problem.controls.SolveEnabled) {
         enabled.insert(QStringLiteral("mnuSolve"));
@@ -341,6 +346,10 @@ void FrmMain::mnuSolve_Click() {
 
 void FrmMain::mnuErase_Click() {
     paper->clear_Click();
+}
+
+void FrmMain::mnuExp_Click() {
+    paper->mnuExp_Click();
 }
 
 void FrmMain::mnuShowStep_Click() {

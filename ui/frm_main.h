@@ -42,6 +42,7 @@ class FrmMain : public QMainWindow {
 
     void mnuSolve_Click();
     void mnuErase_Click();
+    void mnuExp_Click();
     void mnuShowStep_Click();
     void mnuShowLight_Click();
     void mnuPencil_Click();

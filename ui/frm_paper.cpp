@@ -21,7 +21,6 @@ constexpr std::chrono::milliseconds kFlash(400);
 constexpr double kTypedLineLimit = 730;
 
 constexpr QSize kSheetSize(800, 657);
-constexpr QSize kLightSize(48, 120);
 constexpr int kLightTop = 24;
 
 constexpr int kMeterTopic = 23;
@@ -94,9 +93,15 @@ void FrmPaper::MakeDesk() {
         connect(&paper->Arrow(), &QAbstractButton::clicked, this, &FrmPaper::NextStep);
     }
     pencil = new WritingPencil(problem, worksheet, desk);
-    light = new QLabel(desk);
-    light->setObjectName(QStringLiteral("Light"));
-    light->setFixedSize(kLightSize);
+    light = new LightButton(desk);
+    connect(light, &LightButton::MenuAsked, this, &FrmPaper::LightMenuAsked);
+    connect(light, &QAbstractButton::clicked, this, [this] {
+        if (explanation->Model().Light_Click()) {
+            OpenExplanation();
+        }
+    });
+    explanation = new FrmExplain(problem, learner, this);
+    worksheet.Attach(*explanation);
 }
 
 void FrmPaper::MakeEntry() {
@@ -165,6 +170,7 @@ void FrmPaper::compute_Click() {
                            "Solving this topic is not built yet.  Your problem stays as it is.");
         return;
     }
+    worksheet.CloseExplanation();
     {
         const PointerGuard busy(Qt::BusyCursor);
         numerello::compute_Click(problem, AllSolvers(), learner, worksheet);
@@ -182,6 +188,7 @@ void FrmPaper::clear_Click() {
 }
 
 void FrmPaper::NextStep() {
+    worksheet.CloseExplanation();
     worksheet.blinker_Click();
     ShowStep();
 }
@@ -206,6 +213,22 @@ void FrmPaper::ScrollToLineEnd() {
 void FrmPaper::mnuShowStep_Click(bool ticked) {
     worksheet.mnuShowStep_Click(ticked);
     Refresh();
+}
+
+void FrmPaper::mnuExp_Click() {
+    if (explanation->Model().HasNote()) {
+        OpenExplanation();
+    }
+}
+
+void FrmPaper::OpenExplanation() {
+    worksheet.RaiseCurrentSheet();
+    Refresh();
+    const int page = problem.playback.CurrentPage;
+    const ArrowButton& arrow = papers[static_cast<std::size_t>(page)]->Arrow();
+    const QRect waiting =
+        arrow.isVisible() ? QRect(arrow.mapToGlobal(QPoint()), arrow.size()) : QRect();
+    explanation->Open(worksheet.SheetAt(page), *desk, waiting);
 }
 
 void FrmPaper::ShowLight(bool shown) {
@@ -298,7 +321,7 @@ void FrmPaper::hideEvent(QHideEvent* event) {
 void FrmPaper::Refresh() {
     ShowSheets();
     ShowEntry();
-    ShowLightPicture();
+    light->Show(problem.controls);
     pencil->Show(viewport()->height());
     FitDesk();
     KeepTimer();
@@ -342,17 +365,6 @@ void FrmPaper::ShowEntry() {
     }
 }
 
-void FrmPaper::ShowLightPicture() {
-    using Picture = EntryControls::LightPicture;
-    const Picture picture = problem.controls.Light;
-    const QString key = picture == Picture::Correct     ? QStringLiteral("light2")
-                        : picture == Picture::Incorrect ? QStringLiteral("light3")
-                                                        : QStringLiteral("light1");
-    light->setPixmap(Artwork(key, kLightSize, devicePixelRatioF()));
-    light->setToolTip(ToQString(problem.controls.LightToolTip));
-    light->setAccessibleName(QStringLiteral("Guided Input Light"));
-}
-
 /// The desk fills the view and reaches around all sheets.
 void FrmPaper::FitDesk() {
     QSize size = viewport()->size();
@@ -364,7 +376,7 @@ void FrmPaper::FitDesk() {
     desk->resize(size);
     const int sheetRight = qRound(worksheet.SheetAt(0).left) + kSheetSize.width();
     const int figureLeft = std::min(sheetRight + 16, viewport()->width() - 116);
-    const int lightLeft = figureLeft + (108 - kLightSize.width()) / 2;
+    const int lightLeft = figureLeft + (108 - LightButton::kSize.width()) / 2;
     light->move(std::max(lightLeft, qRound(worksheet.SheetAt(0).left) + kLightLeftOnSheet),
                 kLightTop);
 }

@@ -9,10 +9,12 @@
 #include "core/problem.h"
 #include "ui/entry_controls.h"
 #include "ui/font_metrics.h"
+#include "ui/frm_explain.h"
+#include "ui/light_button.h"
 #include "ui/sheet_widget.h"
 #include "ui/window_learner.h"
+#include "ui/window_worksheet.h"
 #include "ui/writing_pencil.h"
-#include "worksheet/worksheet.h"
 
 namespace numerello {
 
@@ -38,6 +40,9 @@ class FrmPaper : public QScrollArea {
     void NextStep();
 
     void mnuShowStep_Click(bool ticked);
+    /// Tells what the shown step was about; nothing where it has no note.
+    void mnuExp_Click();
+
     void ShowLight(bool shown);
     void UsePencil(bool used);
 
@@ -45,8 +50,9 @@ class FrmPaper : public QScrollArea {
     /// Which commands are open may have changed.
     void Changed();
 
-    /// The right button asks for the pop-up of the pencil, at this place of the screen.
+    /// The right button asks for a pop-up, at this place of the screen.
     void PencilMenuAsked(QPoint place);
+    void LightMenuAsked(QPoint place);
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -66,7 +72,7 @@ class FrmPaper : public QScrollArea {
     void Refresh();
     void ShowStep();
     void ShowSheets();
-    void ShowLightPicture();
+    void OpenExplanation();
     void ShowEntry();
     void FitDesk();
     void ScrollToLineEnd();
@@ -76,11 +82,12 @@ class FrmPaper : public QScrollArea {
     Problem& problem;
     WindowLearner& learner;
     FontMetrics metrics{FontMetrics::Medium::Sheet};
-    Worksheet worksheet;
+    WindowWorksheet worksheet;
     QWidget* desk;
     std::array<SheetWidget*, Worksheet::kSheetCount> papers{};
     WritingPencil* pencil = nullptr;
-    QLabel* light;
+    LightButton* light = nullptr;
+    FrmExplain* explanation = nullptr;
     std::vector<EntryBox*> boxes;
     std::vector<EntryList*> lists;
     QTimer timer2{this};

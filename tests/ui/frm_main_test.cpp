@@ -21,6 +21,7 @@
 
 #include "tests/ui/frm_main_fixture.h"
 #include "ui/frm_logo.h"
+#include "ui/light_button.h"
 
 namespace numerello {
 namespace {
@@ -321,14 +322,14 @@ TEST_F(Window, AllAtOnceWhenStepByStepIsUnticked) {
 
 TEST_F(Window, ARefusedKeyTurnsTheLightRedAndIsTold) {
     Choose(QStringLiteral("Converting Feet To Yards"));
-    auto& light = Find<QLabel>(frame, QStringLiteral("Light"));
+    auto& light = Find<LightButton>(frame, QStringLiteral("Light"));
     EXPECT_EQ(light.toolTip(), "Click the red light for incorrect input details.");
     Type(QStringLiteral("4"));
     EXPECT_EQ(light.toolTip(), "Correct Input.");
-    const QImage green = light.pixmap(Qt::ReturnByValue).toImage();
+    const QImage green = light.grab().toImage();
     Type(QStringLiteral("x"));
     EXPECT_EQ(light.toolTip(), "Incorrect input.");
-    EXPECT_NE(light.pixmap(Qt::ReturnByValue).toImage(), green);
+    EXPECT_NE(light.grab().toImage(), green);
     EXPECT_EQ(
         SheetText(),
         "Variables are not allowed in 'Converting Feet To Yards'.  Click the Assistant Wiz for "
@@ -552,12 +553,12 @@ TEST_F(Window, TheFirstSheetStaysInTheMiddle) {
 
 TEST_F(Window, TheLightCanBeHidden) {
     Choose(QStringLiteral("Converting Feet To Yards"));
-    auto& light = Find<QLabel>(frame, QStringLiteral("Light"));
+    auto& light = Find<LightButton>(frame, QStringLiteral("Light"));
     EXPECT_TRUE(light.isVisible());
     Command("mnuShowLight").trigger();
     EXPECT_FALSE(light.isVisible());
     Choose(QStringLiteral("Converting Miles To Feet"));
-    EXPECT_FALSE(Find<QLabel>(frame, QStringLiteral("Light")).isVisible());
+    EXPECT_FALSE(Find<LightButton>(frame, QStringLiteral("Light")).isVisible());
 }
 
 TEST_F(Window, FractionsAndDecimalsChangePlaces) {

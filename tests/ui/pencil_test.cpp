@@ -172,6 +172,40 @@ TEST_F(PencilInUse, TheRightButtonOpensItsMenuAndNothingElseDoes) {
     EXPECT_TRUE(ThePencil().isVisible());
 }
 
+TEST_F(PencilInUse, ALaterSheetCoversIt) {
+    // High enough for both sheets, so that nothing scrolls.
+    frame.resize(1100, 900);
+    Choose(QStringLiteral("Converting Feet To Yards"));
+    Type(QStringLiteral("7"));
+    EXPECT_TRUE(LetWrite());
+    Enter();
+    auto& problem = const_cast<Problem&>(Now());
+    while (problem.log.StepCount < 15) {
+        problem.log.Write("one more line", "");
+    }
+    while (Arrow().isVisible() || Now().playback.CurrentPage == 0) {
+        Enter();
+    }
+    // The second sheet begins 25 lower; the pencil reaches from 137 above the first to 97 below.
+    ASSERT_EQ(Now().playback.CurrentPage, 1);
+    const auto opensAt = [this](int onSheet) {
+        Click(ThePencil(), QPoint(7, 137 + onSheet), Qt::RightButton);
+        const bool opened = PopUp().isVisible();
+        PopUp().hide();
+        return opened;
+    };
+    EXPECT_TRUE(opensAt(20));
+    EXPECT_FALSE(opensAt(30));
+    const QImage covered = frame.grab().toImage();
+    Command("mnuPencil").trigger();
+    const QImage without = frame.grab().toImage();
+    const auto colorAt = [this](const QImage& picture, int onSheet) {
+        return picture.pixel(Sheet().mapTo(&frame, QPoint(EndOf("7") + 7, onSheet)));
+    };
+    EXPECT_NE(colorAt(covered, 20), colorAt(without, 20));
+    EXPECT_EQ(colorAt(covered, 60), colorAt(without, 60));
+}
+
 TEST_F(PencilInUse, TakesNoPressFromTheSheet) {
     Choose(QStringLiteral("Converting Feet To Yards"));
     MouseCounter below;

@@ -49,13 +49,6 @@ class LineSetter {
     const std::vector<MarkedToken>& Line() const { return line; }
 
   private:
-    bool LeavesFraction(const TypingPoint& next) const {
-        return point.InFraction && !next.InFraction;
-    }
-    /// Bars that stand in the denominator are its end, not what follows it.
-    static bool EndsInBar(const TypingPoint& next) {
-        return next.last == Role::BarEnd && next.barInFraction;
-    }
     void CloseBefore(const TypingPoint& next);
     void CloseExponent();
     void OpenFraction(std::size_t numerator);
@@ -82,9 +75,6 @@ void LineSetter::Add(const std::string& token) {
         line.pop_back();
     }
     line.push_back({"", next.last == Role::DivisionSign ? "{" : token, ""});
-    if (LeavesFraction(next) && EndsInBar(next)) {
-        line.back().after = "#";
-    }
 
     const bool behindFractionBar = point.last == Role::FractionBar;
     for (const char character : token) {
@@ -112,7 +102,7 @@ void LineSetter::CloseBefore(const TypingPoint& next) {
     if (point.InExponent && !next.InExponent) {
         CloseExponent();
     }
-    if (LeavesFraction(next) && !EndsInBar(next)) {
+    if (point.InFraction && !next.InFraction) {
         line.back().after += "#";
     }
     if (point.RootOpen && !next.RootOpen) {
@@ -137,7 +127,7 @@ std::size_t LineSetter::NumeratorStart() const {
     if (point.last == Role::CloseParen) {
         return lastParen;
     }
-    if (point.last == Role::BarEnd && !point.barInFraction) {
+    if (point.last == Role::BarEnd) {
         return lastBar;
     }
     return termStarts.back();
@@ -145,9 +135,6 @@ std::size_t LineSetter::NumeratorStart() const {
 
 /// Remembers where a numerator would begin that ends behind the token just added.
 void LineSetter::NoteStarts(bool behindFractionBar) {
-    if (point.AbsOpen && point.barInFraction) {
-        return;
-    }
     const std::size_t here = line.size() - 1;
     switch (point.last) {
         case Role::OpenParen:

@@ -130,7 +130,7 @@ void TypingPoint::PassBar() {
     InExponent = false;
     if (AbsOpen) {
         last = Role::BarEnd;
-        InFraction = false;
+        InFraction = InFraction && barInFraction;
     } else {
         last = Role::BarStart;
         barInFraction = InFraction;

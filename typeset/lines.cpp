@@ -1,5 +1,8 @@
 #include "typeset/lines.h"
 
+#include <utility>
+
+#include "core/text.h"
 #include "typeset/math_line.h"
 #include "typeset/math_pen.h"
 
@@ -42,7 +45,7 @@ MathPen PreviewPen(Sheets& pages, bool blue) {
 
 void FPrintLine(std::string_view Text, bool ShowBlinker, PaperSheets& sheets, Playback& playback,
                 Learner& learner) {
-    const auto end = DrawMathLine(Text, kPaperVariant, false, sheets, learner);
+    const auto end = DrawMathLine(Characters(Text), kPaperVariant, false, sheets, learner);
     if (!end) {
         return;
     }
@@ -66,8 +69,12 @@ void FPrintFraction(std::string_view Body, PaperSheets& sheets) {
 }
 
 void ExplainLine(std::string_view Text, Surface& window, Learner& learner) {
+    ExplainLine(Characters(Text), window, learner);
+}
+
+void ExplainLine(std::vector<std::string> Characters, Surface& window, Learner& learner) {
     OneSurface sheets(window);
-    DrawMathLine(Text, kExplanationVariant, false, sheets, learner);
+    DrawMathLine(std::move(Characters), kExplanationVariant, false, sheets, learner);
 }
 
 void ExplainRoot(std::string_view Body, Surface& window) {
@@ -84,7 +91,7 @@ void ExplainFraction(std::string_view Body, Surface& window) {
 
 void PrintLine(std::string_view Text, Surface& Target, bool Blue, Learner& learner) {
     OneSurface sheets(Target);
-    DrawMathLine(Text, kPrintVariant, Blue, sheets, learner);
+    DrawMathLine(Characters(Text), kPrintVariant, Blue, sheets, learner);
 }
 
 void PrintRoot(std::string_view Body, Surface& Target, bool Blue) {
@@ -100,7 +107,7 @@ void PrintFraction(std::string_view Body, Surface& Target, bool Blue) {
 }
 
 void PreviewLine(std::string_view Text, Sheets& Pages, bool Blue, Learner& learner) {
-    DrawMathLine(Text, kPreviewVariant, Blue, Pages, learner);
+    DrawMathLine(Characters(Text), kPreviewVariant, Blue, Pages, learner);
 }
 
 void PreviewRoot(std::string_view Body, Sheets& Pages, bool Blue) {

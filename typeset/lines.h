@@ -1,6 +1,8 @@
 #pragma once
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/learner.h"
 #include "core/problem.h"
@@ -22,6 +24,8 @@ void FPrintFraction(std::string_view Body, PaperSheets& sheets);
 
 /// In the explanation window: blue, never wrapped.
 void ExplainLine(std::string_view Text, Surface& window, Learner& learner);
+/// As above, from the text's characters. A piece of several is printed as it stands.
+void ExplainLine(std::vector<std::string> Characters, Surface& window, Learner& learner);
 void ExplainRoot(std::string_view Body, Surface& window);
 void ExplainExponent(std::string_view Body, Surface& window);
 void ExplainFraction(std::string_view Body, Surface& window);

@@ -1,5 +1,6 @@
 #include "typeset/math_line.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -19,7 +20,7 @@ class MathLine {
         : variant(variant), base(variant.BaseColor(blue)), sheets(sheets), learner(learner) {}
 
     void Start(bool hasSlash);
-    NotationWalk Split(std::string_view text);
+    NotationWalk Walk(std::vector<std::string> characters);
     void Pass(NotationWalk& walk);
     PenPosition End();
 
@@ -27,6 +28,7 @@ class MathLine {
 
   private:
     void DrawPlain(const std::string& character);
+    void PrintPiece(const std::string& piece);
     void Wrap();
     void TurnPage();
 
@@ -52,8 +54,7 @@ void MathLine::Start(bool hasSlash) {
     baseY = page.CurrentY;
 }
 
-NotationWalk MathLine::Split(std::string_view text) {
-    std::vector<std::string> characters = Characters(text);
+NotationWalk MathLine::Walk(std::vector<std::string> characters) {
     if (characters.size() > kLineLimit) {
         Report();
         characters.resize(kLineLimit);
@@ -81,10 +82,28 @@ void MathLine::DrawPlain(const std::string& character) {
         IsPast(baseY, variant.page->limit)) {
         TurnPage();
     }
-    Page().Print(character);
+    PrintPiece(character);
     if (variant.wrap && IsPast(Page().CurrentX, variant.wrap->limit)) {
         Wrap();
     }
+}
+
+/// Only the sheets' face has a root sign. It leans over the end of its cell, so it gets the room
+/// that a root gives it.
+void MathLine::PrintPiece(const std::string& piece) {
+    if (piece != kQuotedRoot) {
+        Page().Print(piece);
+        return;
+    }
+    Page().Print(piece.substr(0, 1));
+    const double x = Page().CurrentX;
+    Page().CurrentX -= variant.plainRoot.back;
+    Page().SetFontName(kSheetFace);
+    Page().Print(piece.substr(1, 1));
+    Page().SetFontName(variant.face);
+    Page().CurrentX = x;
+    Page().Print("  ");
+    Page().Print(piece.substr(2));
 }
 
 void MathLine::Wrap() {
@@ -120,12 +139,13 @@ void MathLine::Report() {
 
 }  // namespace
 
-std::optional<PenPosition> DrawMathLine(std::string_view text, const TypesetVariant& variant,
-                                        bool blue, Sheets& sheets, Learner& learner) {
+std::optional<PenPosition> DrawMathLine(std::vector<std::string> characters,
+                                        const TypesetVariant& variant, bool blue, Sheets& sheets,
+                                        Learner& learner) {
     MathLine line(variant, blue, sheets, learner);
     try {
-        line.Start(text.find('/') != std::string_view::npos);
-        for (NotationWalk walk = line.Split(text); !walk.AtEnd();) {
+        line.Start(std::find(characters.begin(), characters.end(), "/") != characters.end());
+        for (NotationWalk walk = line.Walk(std::move(characters)); !walk.AtEnd();) {
             line.Pass(walk);
         }
         return line.End();

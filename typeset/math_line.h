@@ -2,7 +2,8 @@
 
 #include <cstddef>
 #include <optional>
-#include <string_view>
+#include <string>
+#include <vector>
 
 #include "core/learner.h"
 #include "typeset/sheets.h"
@@ -18,12 +19,14 @@ struct PenPosition {
     double y;
 };
 
-/// Draws `text` as the next line, turning pages as its variant says, and leaves the pen at the
-/// start of the line after it. Gives the place where the text ended, on the page then in use.
+/// Draws the characters of a text as the next line, turning pages as its variant says, and leaves
+/// the pen at the start of the line after it. A piece of several characters is printed as it
+/// stands, never obeyed. Gives the place where the text ended, on the page then in use.
 ///
 /// Guards the whole run, no Failure leaves it: what cannot be drawn is left out, with one message
 /// each. When a page is missing the rest of the line is given up, and nothing returned.
-std::optional<PenPosition> DrawMathLine(std::string_view text, const TypesetVariant& variant,
-                                        bool blue, Sheets& sheets, Learner& learner);
+std::optional<PenPosition> DrawMathLine(std::vector<std::string> characters,
+                                        const TypesetVariant& variant, bool blue, Sheets& sheets,
+                                        Learner& learner);
 
 }  // namespace numerello

@@ -7,6 +7,30 @@
 
 namespace numerello {
 
+namespace {
+
+bool IsMark(std::string_view character) {
+    return character.size() == 1 && std::string_view("#^~[]").find(character) != std::string::npos;
+}
+
+}  // namespace
+
+std::vector<std::string> CharactersWithQuotedMarks(std::string_view text) {
+    const std::vector<std::string> characters = Characters(text);
+    std::vector<std::string> pieces;
+    for (std::size_t i = 0; i < characters.size(); ++i) {
+        const bool quotes = i + 2 < characters.size() && characters[i] == "'" &&
+                            characters[i + 2] == "'" && IsMark(characters[i + 1]);
+        if (quotes) {
+            pieces.push_back("'" + characters[i + 1] + "'");
+            i += 2;
+        } else {
+            pieces.push_back(characters[i]);
+        }
+    }
+    return pieces;
+}
+
 NotationWalk::NotationWalk(std::vector<std::string> characters)
     : characters(std::move(characters)) {}
 

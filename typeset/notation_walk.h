@@ -7,6 +7,13 @@
 
 namespace numerello {
 
+/// A root mark that a text quotes: one piece, printed with the root's sign.
+inline constexpr std::string_view kQuotedRoot = "'~'";
+
+/// The characters of a text that speaks of the marks themselves: a mark in single quotes is one
+/// piece with them and so is printed, not obeyed.
+std::vector<std::string> CharactersWithQuotedMarks(std::string_view text);
+
 /// A line or a body of math text, gone through character by character.
 class NotationWalk {
   public:

@@ -79,6 +79,20 @@ constexpr std::array kMenus{
          4},
 };
 
+/// A menu that the right button opens.
+struct PopUp {
+    const char* menu;
+    const char* name;
+    const char* caption;
+    const char* command;  ///< the entry of the menu bar that it stands for
+    bool ticks;           ///< whether it shows that entry's tick
+};
+
+constexpr std::array kPopUps{
+    PopUp{"mnuHidden2", "mnuUsePencil", "Use &Pencil", "mnuPencil", true},
+    PopUp{"mnuHidden3", "mnuHideLight", "&Hide Guided Input Light", "mnuShowLight", false},
+};
+
 struct WebEntry {
     const char* name;
     const char* caption;
@@ -117,6 +131,19 @@ constexpr std::array kButtons{
     Button{"web", "mnuHomePage", "Vantrel on the Web"},
 };
 
+/// An entry that types a key on the line.
+struct Function {
+    const char* command;
+    const char* key;
+};
+
+constexpr std::array kFunctions{
+    Function{"mnuSquareRoot", "~"},  Function{"mnuExponet", "^"},
+    Function{"mnuAbsValue", "|"},    Function{"mnuAddition", "+"},
+    Function{"mnuSubtraction", "-"}, Function{"mnuMultiplication", "*"},
+    Function{"mnuDivision", "/"},
+};
+
 }  // namespace
 
 FrmMain::FrmMain() {
@@ -127,17 +154,22 @@ FrmMain::FrmMain() {
     setContextMenuPolicy(Qt::NoContextMenu);
     setCentralWidget(new Desk(this));
     MakeMenus();
+    MakePopUps();
     MakeToolbar();
 
     Command("mnuShowStep")->setChecked(problem.settings.mnuShowStep);
     Command("mnuShowLight")->setChecked(true);
+    Command("mnuPencil")->setChecked(true);
     OnTrigger("mnuNew", &FrmMain::mnuNew_Click);
     OnTrigger("mnuSolve", &FrmMain::mnuSolve_Click);
     OnTrigger("mnuErase", &FrmMain::mnuErase_Click);
+    OnTrigger("mnuExp", &FrmMain::mnuExp_Click);
     OnTrigger("mnuShowStep", &FrmMain::mnuShowStep_Click);
     OnTrigger("mnuShowLight", &FrmMain::mnuShowLight_Click);
+    OnTrigger("mnuPencil", &FrmMain::mnuPencil_Click);
     OnTrigger("mnuConvertDF", &FrmMain::mnuConvertDF_Click);
     OnTrigger("mnuExit", &FrmMain::mnuExit_Click);
+    ConnectFunctions();
     ShowNumberForm();
     UpdateCommands();
 }
@@ -188,6 +220,26 @@ void FrmMain::MakeMenus() {
     }
 }
 
+/// The menus of the right button. Their entries stand for those of the menu bar.
+void FrmMain::MakePopUps() {
+    for (const PopUp& row : kPopUps) {
+        auto* menu = new QMenu(this);
+        menu->setObjectName(QString::fromUtf8(row.menu));
+        QAction* action = menu->addAction(QString::fromUtf8(row.caption));
+        action->setObjectName(QString::fromUtf8(row.name));
+        QAction* command = Command(row.command);
+        connect(action, &QAction::triggered, command, &QAction::trigger);
+        if (row.ticks) {
+            action->setCheckable(true);
+            connect(command, &QAction::toggled, action, &QAction::setChecked);
+        }
+    }
+}
+
+void FrmMain::PopUpMenu(const char* name, QPoint place) {
+    findChild<QMenu*>(QLatin1String(name))->popup(place);
+}
+
 void FrmMain::MakeToolbar() {
     auto* toolbar = addToolBar(QStringLiteral("Toolbar"));
     toolbar->setObjectName(QStringLiteral("Toolbar1"));
@@ -213,6 +265,13 @@ void FrmMain::MakeToolbar() {
 
 void FrmMain::OnTrigger(const char* name, void (FrmMain::*procedure)()) {
     connect(Command(name), &QAction::triggered, this, [this, procedure] { (this->*procedure)(); });
+}
+
+void FrmMain::ConnectFunctions() {
+    for (const Function& function : kFunctions) {
+        connect(Command(function.command), &QAction::triggered, this,
+                [this, key = function.key] { paper->Form_KeyPress(key); });
+    }
 }
 
 void FrmMain::mnuNew_Click() {
@@ -243,21 +302,32 @@ void FrmMain::LoadPaper() {
     setCentralWidget(paper);
     paper->show();
     paper->ShowLight(Command("mnuShowLight")->isChecked());
+    paper->UsePencil(Command("mnuPencil")->isChecked());
     connect(paper, &FrmPaper::Changed, this, &FrmMain::UpdateCommands);
+    connect(paper, &FrmPaper::PencilMenuAsked, this,
+            [this](QPoint place) { PopUpMenu("mnuHidden2", place); });
+    connect(paper, &FrmPaper::LightMenuAsked, this,
+            [this](QPoint place) { PopUpMenu("mnuHidden3", place); });
     paper->setFocus();
     UpdateCommands();
 }
 
 void FrmMain::UpdateCommands() {
     const bool open = paper != nullptr;
-    QSet<QString> enabled{QStringLiteral("mnuNew"), QStringLiteral("mnuConvertDF"),
+    QSet<QString> enabled{QStringLiteral("mnuNew"),      QStringLiteral("mnuConvertDF"),
                           QStringLiteral("mnuShowStep"), QStringLiteral("mnuShowLight"),
-                          QStringLiteral("mnuExit")};
+                          QStringLiteral("mnuPencil"),   QStringLiteral("mnuExit")};
     if (open) {
         enabled.insert(QStringLiteral("mnuErase"));
+        enabled.insert(QStringLiteral("mnuExp"));
     }
     if (open && problem.controls.SolveEnabled) {
         enabled.insert(QStringLiteral("mnuSolve"));
+    }
+    if (open && paper->TakesKeys()) {
+        for (const Function& function : kFunctions) {
+            enabled.insert(QString::fromUtf8(function.command));
+        }
     }
     for (QAction* action : std::as_const(commands)) {
         action->setEnabled(enabled.contains(action->objectName()));
@@ -278,6 +348,10 @@ void FrmMain::mnuErase_Click() {
     paper->clear_Click();
 }
 
+void FrmMain::mnuExp_Click() {
+    paper->mnuExp_Click();
+}
+
 void FrmMain::mnuShowStep_Click() {
     const bool ticked = Command("mnuShowStep")->isChecked();
     problem.settings.mnuShowStep = ticked;
@@ -289,6 +363,12 @@ void FrmMain::mnuShowStep_Click() {
 void FrmMain::mnuShowLight_Click() {
     if (paper != nullptr) {
         paper->ShowLight(Command("mnuShowLight")->isChecked());
+    }
+}
+
+void FrmMain::mnuPencil_Click() {
+    if (paper != nullptr) {
+        paper->UsePencil(Command("mnuPencil")->isChecked());
     }
 }
 

@@ -30,17 +30,22 @@ class FrmMain : public QMainWindow {
 
   private:
     void MakeMenus();
+    void MakePopUps();
+    void PopUpMenu(const char* name, QPoint place);
     void MakeToolbar();
     QAction* Command(const char* name) const { return commands.value(QLatin1String(name)); }
     void OnTrigger(const char* name, void (FrmMain::*procedure)());
     void LoadPaper();
+    void ConnectFunctions();
     void UpdateCommands();
     void ShowNumberForm();
 
     void mnuSolve_Click();
     void mnuErase_Click();
+    void mnuExp_Click();
     void mnuShowStep_Click();
     void mnuShowLight_Click();
+    void mnuPencil_Click();
     void mnuConvertDF_Click();
     void mnuExit_Click();
 

@@ -20,9 +20,7 @@ constexpr std::chrono::milliseconds kFlash(400);
 constexpr double kTypedLineLimit = 730;
 
 constexpr QSize kSheetSize(800, 657);
-constexpr QSize kLightSize(48, 120);
 constexpr int kLightTop = 24;
-
 
 /// The light may cover the sheet, but not where anything is written.
 constexpr int kLightLeftOnSheet = 752;
@@ -75,6 +73,8 @@ FrmPaper::FrmPaper(Problem& problem, WindowLearner& learner, QWidget* parent)
     worksheet.Open(viewport()->width());
     EraseProblem(problem, worksheet);
     MakeEntry();
+    // Behind the entry, and so behind it for the Tab key.
+    MakeLight();
     Refresh();
 }
 
@@ -86,9 +86,9 @@ void FrmPaper::MakeDesk() {
         papers[static_cast<std::size_t>(i)] = paper;
         connect(&paper->Arrow(), &QAbstractButton::clicked, this, &FrmPaper::NextStep);
     }
-    light = new QLabel(desk);
-    light->setObjectName(QStringLiteral("Light"));
-    light->setFixedSize(kLightSize);
+    pencil = new WritingPencil(problem, worksheet, desk);
+    explanation = new FrmExplain(problem, learner, this);
+    worksheet.Attach(*explanation);
 }
 
 void FrmPaper::MakeEntry() {
@@ -102,6 +102,16 @@ void FrmPaper::MakeEntry() {
     }
 }
 
+void FrmPaper::MakeLight() {
+    light = new LightButton(desk);
+    connect(light, &LightButton::MenuAsked, this, &FrmPaper::LightMenuAsked);
+    connect(light, &QAbstractButton::clicked, this, [this] {
+        if (explanation->Model().Light_Click()) {
+            OpenExplanation();
+        }
+    });
+}
+
 void FrmPaper::compute_Click() {
     if (!problem.controls.SolveEnabled) {
         return;
@@ -111,6 +121,7 @@ void FrmPaper::compute_Click() {
                            "Solving this topic is not built yet.  Your problem stays as it is.");
         return;
     }
+    worksheet.CloseExplanation();
     {
         const PointerGuard busy(Qt::BusyCursor);
         numerello::compute_Click(problem, AllSolvers(), learner, worksheet);
@@ -128,6 +139,7 @@ void FrmPaper::clear_Click() {
 }
 
 void FrmPaper::NextStep() {
+    worksheet.CloseExplanation();
     worksheet.blinker_Click();
     ShowStep();
 }
@@ -154,22 +166,52 @@ void FrmPaper::mnuShowStep_Click(bool ticked) {
     Refresh();
 }
 
+void FrmPaper::mnuExp_Click() {
+    if (explanation->Model().HasNote()) {
+        OpenExplanation();
+    }
+}
+
+void FrmPaper::OpenExplanation() {
+    worksheet.RaiseCurrentSheet();
+    Refresh();
+    const int page = problem.playback.CurrentPage;
+    const ArrowButton& arrow = papers[static_cast<std::size_t>(page)]->Arrow();
+    const QRect waiting =
+        arrow.isVisible() ? QRect(arrow.mapToGlobal(QPoint()), arrow.size()) : QRect();
+    explanation->Open(worksheet.SheetAt(page), *desk, waiting);
+}
+
 void FrmPaper::ShowLight(bool shown) {
     light->setVisible(shown);
 }
 
+void FrmPaper::UsePencil(bool used) {
+    pencil->Use(used);
+    pencil->Show(viewport()->height());
+}
+
+bool FrmPaper::TakesKeys() const {
+    return IsTypedOnLine(problem.topic.ProblemType) && problem.playback.TypingEnabled;
+}
+
 void FrmPaper::Form_KeyPress(std::string_view key) {
-    const bool typing = IsTypedOnLine(problem.topic.ProblemType) && problem.playback.TypingEnabled;
-    if (!typing || (problem.playback.LineEndX >= kTypedLineLimit && key != kBackspace)) {
+    TypeText(ToQString(key));
+}
+
+void FrmPaper::TypeKey(std::string_view key) {
+    const bool sheetIsFull = problem.playback.LineEndX >= kTypedLineLimit && key != kBackspace;
+    if (!IsJudged(problem, key) || sheetIsFull) {
         return;
     }
     numerello::Form_KeyPress(problem, key);
     worksheet.DrawTypedLine();
+    pencil->KeyTyped();
 }
 
 void FrmPaper::TypeText(const QString& text) {
     for (const std::string& key : Characters(text.toStdString())) {
-        Form_KeyPress(key);
+        TypeKey(key);
     }
     Refresh();
     ScrollToLineEnd();
@@ -199,6 +241,15 @@ void FrmPaper::keyPressEvent(QKeyEvent* event) {
     TypeText(typed);
 }
 
+void FrmPaper::mouseReleaseEvent(QMouseEvent* event) {
+    const QPoint place = event->globalPosition().toPoint();
+    if (event->button() == Qt::RightButton && pencil->IsAt(desk->mapFromGlobal(place))) {
+        emit PencilMenuAsked(place);
+        return;
+    }
+    QScrollArea::mouseReleaseEvent(event);
+}
+
 void FrmPaper::resizeEvent(QResizeEvent* event) {
     QScrollArea::resizeEvent(event);
     worksheet.Centre(viewport()->width());
@@ -221,7 +272,8 @@ void FrmPaper::hideEvent(QHideEvent* event) {
 void FrmPaper::Refresh() {
     ShowSheets();
     entry->Show();
-    ShowLightPicture();
+    light->Show(problem.controls);
+    pencil->Show(viewport()->height());
     FitDesk();
     KeepTimer();
     desk->update();
@@ -236,6 +288,9 @@ void FrmPaper::ShowSheets() {
     }
     for (const int index : worksheet.StackingOrder()) {
         papers[static_cast<std::size_t>(index)]->raise();
+        if (index == 0) {
+            pencil->Raise();
+        }
     }
     light->raise();
     const bool refused = problem.controls.Light == EntryControls::LightPicture::Incorrect;
@@ -251,17 +306,6 @@ QString FrmPaper::SheetText() const {
     return text;
 }
 
-void FrmPaper::ShowLightPicture() {
-    using Picture = EntryControls::LightPicture;
-    const Picture picture = problem.controls.Light;
-    const QString key = picture == Picture::Correct     ? QStringLiteral("light2")
-                        : picture == Picture::Incorrect ? QStringLiteral("light3")
-                                                        : QStringLiteral("light1");
-    light->setPixmap(Artwork(key, kLightSize, devicePixelRatioF()));
-    light->setToolTip(ToQString(problem.controls.LightToolTip));
-    light->setAccessibleName(QStringLiteral("Guided Input Light"));
-}
-
 /// The desk fills the view and reaches around all sheets.
 void FrmPaper::FitDesk() {
     QSize size = viewport()->size();
@@ -273,7 +317,7 @@ void FrmPaper::FitDesk() {
     desk->resize(size);
     const int sheetRight = qRound(worksheet.SheetAt(0).left) + kSheetSize.width();
     const int figureLeft = std::min(sheetRight + 16, viewport()->width() - 116);
-    const int lightLeft = figureLeft + (108 - kLightSize.width()) / 2;
+    const int lightLeft = figureLeft + (108 - LightButton::kSize.width()) / 2;
     light->move(std::max(lightLeft, qRound(worksheet.SheetAt(0).left) + kLightLeftOnSheet),
                 kLightTop);
 }

@@ -8,9 +8,12 @@
 #include "core/problem.h"
 #include "ui/entry_form.h"
 #include "ui/font_metrics.h"
+#include "ui/frm_explain.h"
+#include "ui/light_button.h"
 #include "ui/sheet_widget.h"
 #include "ui/window_learner.h"
-#include "worksheet/worksheet.h"
+#include "ui/window_worksheet.h"
+#include "ui/writing_pencil.h"
 
 namespace numerello {
 
@@ -29,18 +32,30 @@ class FrmPaper : public QScrollArea {
     /// A key of the typing line: a character or a Backspace.
     void Form_KeyPress(std::string_view key);
 
+    /// Whether the typing line is open for keys.
+    bool TakesKeys() const;
+
     /// Shows the next line, as a click on the arrow does.
     void NextStep();
 
     void mnuShowStep_Click(bool ticked);
+    /// Tells what the shown step was about; nothing where it has no note.
+    void mnuExp_Click();
+
     void ShowLight(bool shown);
+    void UsePencil(bool used);
 
   signals:
     /// Which commands are open may have changed.
     void Changed();
 
+    /// The right button asks for a pop-up, at this place of the screen.
+    void PencilMenuAsked(QPoint place);
+    void LightMenuAsked(QPoint place);
+
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
@@ -48,11 +63,13 @@ class FrmPaper : public QScrollArea {
   private:
     void MakeDesk();
     void MakeEntry();
+    void MakeLight();
     void TypeText(const QString& text);
+    void TypeKey(std::string_view key);
     void Refresh();
     void ShowStep();
     void ShowSheets();
-    void ShowLightPicture();
+    void OpenExplanation();
     void FitDesk();
     void ScrollToLineEnd();
     void KeepTimer();
@@ -61,11 +78,13 @@ class FrmPaper : public QScrollArea {
     Problem& problem;
     WindowLearner& learner;
     FontMetrics metrics{FontMetrics::Medium::Sheet};
-    Worksheet worksheet;
+    WindowWorksheet worksheet;
     QWidget* desk;
     std::array<SheetWidget*, Worksheet::kSheetCount> papers{};
-    QLabel* light;
-    EntryForm* entry;
+    WritingPencil* pencil = nullptr;
+    LightButton* light = nullptr;
+    FrmExplain* explanation = nullptr;
+    EntryForm* entry = nullptr;
     QTimer timer2{this};
     bool onScreen = false;
 };

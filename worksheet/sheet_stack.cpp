@@ -61,6 +61,12 @@ void SheetStack::Turn(int page) {
     order.push_back(page + 1);
 }
 
+void SheetStack::Raise(int index) {
+    if (std::erase(order, index) > 0) {
+        order.push_back(index);
+    }
+}
+
 void SheetStack::Blank(int last) {
     for (int i = 0; i <= last; ++i) {
         Sheet& sheet = (*this)[i];

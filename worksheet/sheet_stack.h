@@ -45,6 +45,9 @@ class SheetStack {
     /// below it. An arrow does not stay behind on the sheet that was left.
     void Turn(int page);
 
+    /// Lays a sheet over all others. Nothing for a hidden one.
+    void Raise(int index);
+
     /// Blanks the sheets 0 to `last` and hides them, their arrows too; the first sheet stays.
     void Blank(int last);
 

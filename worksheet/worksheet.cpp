@@ -34,6 +34,11 @@ void Worksheet::Centre(int viewWidth) {
     Changed();
 }
 
+void Worksheet::RaiseCurrentSheet() {
+    stack.Raise(problem.playback.CurrentPage);
+    Changed();
+}
+
 void Worksheet::DrawTypedLine() {
     const int code = problem.topic.ProblemType;
     if (!IsTypedOnLine(code) || !problem.playback.TypingEnabled) {
@@ -43,6 +48,19 @@ void Worksheet::DrawTypedLine() {
     surface.Cls();
     surface.CurrentY = EntryRow(code).value_or(0);
     FPrintLine(problem.typed.DisplayLine, false, *this, problem.playback, learner);
+    Changed();
+}
+
+void Worksheet::MovePencil(bool motion) {
+    if (problem.input.KeyAccepted) {
+        motion ? pencil.KeyAccepted() : pencil.KeyAcceptedAtRest();
+    }
+    pencil.Follow(problem.playback.LineEndX);
+    Changed();
+}
+
+void Worksheet::Timer1_Timer() {
+    pencil.Timer1_Timer();
     Changed();
 }
 
@@ -72,6 +90,11 @@ bool Worksheet::ArrowVisible() const {
 
 void Worksheet::ClearTo(int lastSheet) {
     stack.Blank(lastSheet);
+    if (IsTypedOnLine(problem.topic.ProblemType)) {
+        pencil.Erase();
+    } else {
+        pencil.LieInMargin();
+    }
     stack[0].surface.CurrentY = EntryRow(problem.topic.ProblemType).value_or(0);
     timer2Enabled = false;
     arrowFrame = false;

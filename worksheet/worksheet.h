@@ -7,6 +7,7 @@
 
 #include "core/solve_driver.h"
 #include "typeset/sheets.h"
+#include "worksheet/pencil.h"
 #include "worksheet/sheet_stack.h"
 
 namespace numerello {
@@ -29,9 +30,16 @@ class Worksheet : public Stage, public PaperSheets {
     /// fanned over it move along. For a view that was resized before any sheet was dragged.
     void Centre(int viewWidth);
 
+    /// Lays the sheet in use over all others.
+    void RaiseCurrentSheet();
+
     /// Draws the line as it is typed, in place of the one drawn before. Nothing for a topic with
     /// boxes, nor once typing is closed.
     void DrawTypedLine();
+
+    /// After each key of the typed line: the pencil follows the line's end, and writes when the key
+    /// was accepted. Without motion it jumps to where it comes to rest.
+    void MovePencil(bool motion);
 
     /// Draws the line that ShownStep points at and the arrow behind it; the last line gets the
     /// check mark instead. With ShownStep 0 draws all lines at once, up to the check mark.
@@ -45,6 +53,11 @@ class Worksheet : public Stage, public PaperSheets {
 
     /// The tick of every 400 ms while Timer2Enabled(): changes the arrow's picture.
     void Timer2_Timer();
+
+    /// The tick of every 10 ms while ThePencil().Timer1Enabled().
+    void Timer1_Timer();
+
+    const Pencil& ThePencil() const { return pencil; }
 
     /// Ends the work: the check mark behind the last line, no arrow, no column request.
     void DrawCheckMark();
@@ -104,6 +117,7 @@ class Worksheet : public Stage, public PaperSheets {
     Problem& problem;
     Learner& learner;
     SheetStack stack;
+    Pencil pencil;
     int lastViewWidth = 0;
     bool timer2Enabled = false;
     bool arrowFrame = false;

@@ -109,10 +109,11 @@ TEST(DisplayLine, SetsBarsInNumeratorsAndDenominators) {
     EXPECT_EQ(Line("Absolute Values", "4/-|3|"), "#4/-|3|#");
     EXPECT_EQ(Line("Absolute Values", "4/-|3-5|"), "#4/-|3-5|#");
     EXPECT_EQ(Line("Absolute Values", "4/-|3-5|+1/2"), "#4/-|3-5|#+#1/2#");
-    EXPECT_EQ(Line("Absolute Values", "4/-|3|/2"), "#4/-|3|/2#");
+    EXPECT_EQ(Line("Absolute Values", "|8+6|/-|7|*2"), "#|8+6|/-|7|#*2");
 }
 
-TEST(DisplayLine, TakesNoFractionWithinBarsInADenominator) {
+TEST(DisplayLine, TakesNoFractionWithinBarsInADenominatorNorBehindThem) {
+    EXPECT_EQ(Typed("Absolute Values", "4/-|3|/").typed.ProblemText, "4/-|3|");
     EXPECT_EQ(Typed("Absolute Values", "4/-|3-5/2").typed.ProblemText, "4/-|3-52");
     EXPECT_EQ(Line("Absolute Values", "|3-5/2|"), "|3-#5/2#|");
 }

@@ -1,4 +1,6 @@
 #include "tests/typeset/samples.h"
+#include "typeset/lines.h"
+#include "typeset/notation_walk.h"
 
 namespace numerello {
 namespace {
@@ -69,6 +71,64 @@ TEST(ExplanationLineTest, NoPageEnds) {
         Typeset({.target = TypesetTarget::Explanation, .text = "x", .y = 5000});
     ExpectBlue(answer, {{"x", 0, 5003}});
     EXPECT_EQ(answer.pagesTurned, 0);
+}
+
+/// A text that speaks of the marks, drawn alone; the learner must not be told anything.
+std::vector<TextMark> ExplainedQuotes(std::string_view text) {
+    class Silence : public Learner {
+        void MessageBox(std::string_view, std::string_view message) override {
+            ADD_FAILURE() << message;
+        }
+        bool Confirm(std::string_view, std::string_view) override { return false; }
+        std::optional<std::string> InputBox(std::string_view) override { return {}; }
+    } silence;
+    const PlainMetrics metrics;
+    Surface window(metrics, {"Book Antiqua", 12});
+    ExplainLine(CharactersWithQuotedMarks(text), window, silence);
+    std::vector<TextMark> marks;
+    for (const Mark& mark : window.Marks()) {
+        marks.push_back(std::get<TextMark>(mark));
+    }
+    return marks;
+}
+
+std::string Joined(const std::vector<TextMark>& marks) {
+    std::string text;
+    for (const TextMark& mark : marks) {
+        text += mark.text;
+    }
+    return text;
+}
+
+TEST(ExplanationLineTest, AQuotedMarkIsPrinted) {
+    for (const std::string mark : {"#", "^", "~", "[", "]"}) {
+        SCOPED_TRACE(mark);
+        const std::vector<TextMark> marks = ExplainedQuotes("a '" + mark + "' b");
+        EXPECT_EQ(Joined(marks), "a'" + mark + "'b");
+        EXPECT_NEAR(marks.back().x, 4 * kC + 2 * kBlank, 1e-6);
+        EXPECT_NEAR(marks.back().y, 3, 1e-6);
+        EXPECT_EQ(marks.back().color, kBlue);
+        EXPECT_EQ(marks.back().font.name, "Book Antiqua");
+    }
+}
+
+TEST(ExplanationLineTest, AQuotedRootShowsItsSign) {
+    const std::vector<TextMark> marks = ExplainedQuotes("'~'");
+    ASSERT_EQ(marks.size(), 3U);
+    EXPECT_EQ(marks[0].text, "'");
+    EXPECT_EQ(marks[1].text, "~");
+    // As in a root: 2 to the left, and then two blanks of room, which are one character.
+    EXPECT_NEAR(marks[1].x, kC - 2, 1e-6);
+    EXPECT_EQ(marks[1].font.name, "VantrelFont");
+    EXPECT_EQ(marks[2].text, "'");
+    EXPECT_NEAR(marks[2].x, 2 * kC, 1e-6);
+    EXPECT_EQ(marks[2].font.name, "Book Antiqua");
+}
+
+TEST(ExplanationLineTest, OtherQuotesAreNotLookedAt) {
+    // Behind a quoted character the marks are obeyed as ever.
+    const std::vector<TextMark> marks = ExplainedQuotes("'5' ~4~ 'Roots'");
+    EXPECT_EQ(Joined(marks), "'5'4__~'Roots'");
 }
 
 }  // namespace

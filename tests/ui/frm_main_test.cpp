@@ -1,5 +1,3 @@
-#include "ui/frm_main.h"
-
 #include <gtest/gtest.h>
 
 #include <QAction>
@@ -21,60 +19,12 @@
 #include <QToolBar>
 #include <QToolButton>
 
-#include "tests/ui/window.h"
-#include "ui/font_metrics.h"
+#include "tests/ui/frm_main_fixture.h"
 #include "ui/frm_logo.h"
-#include "ui/sheet_widget.h"
+#include "ui/light_button.h"
 
 namespace numerello {
 namespace {
-
-class Window : public testing::Test {
-  protected:
-    Window() {
-        LoadSheetFont();
-        ShowActive(frame);
-    }
-
-    QAction& Command(const char* name) { return Find<QAction>(frame, QString::fromUtf8(name)); }
-
-    /// Chooses a topic through New Problem and the index.
-    void Choose(const QString& caption) {
-        const WhenDialogOpens chooser(QStringLiteral("frmSelect"), [&caption](QWidget& dialog) {
-            PressKey(dialog, Qt::Key_Tab, Qt::ControlModifier);
-            TypeText(dialog, caption);
-            PressKey(dialog, Qt::Key_Return);
-        });
-        Command("mnuNew").trigger();
-        // The desktop would bring the frame back; without one it has to be asked for.
-        ShowActive(frame);
-    }
-
-    void CancelNew() {
-        const WhenDialogOpens chooser(QStringLiteral("frmSelect"),
-                                      [](QWidget& dialog) { PressKey(dialog, Qt::Key_Escape); });
-        Command("mnuNew").trigger();
-    }
-
-    void Erase() {
-        const WhenDialogOpens question(QStringLiteral("MessageBox"), [](QWidget& dialog) {
-            PressButton(dialog, QStringLiteral("OK"));
-        });
-        Command("mnuErase").trigger();
-        ShowActive(frame);
-    }
-
-    void Type(const QString& keys) { TypeText(frame, keys); }
-    void Enter() { PressKey(frame, Qt::Key_Return); }
-
-    ArrowButton& Arrow() { return Find<ArrowButton>(frame, QStringLiteral("blinker0")); }
-    QString SheetText() {
-        return Find<QWidget>(frame, QStringLiteral("frmPaper")).accessibleDescription();
-    }
-    const Problem& Now() { return frame.CurrentProblem(); }
-
-    FrmMain frame;
-};
 
 struct Captioned {
     const char* name;
@@ -372,14 +322,14 @@ TEST_F(Window, AllAtOnceWhenStepByStepIsUnticked) {
 
 TEST_F(Window, ARefusedKeyTurnsTheLightRedAndIsTold) {
     Choose(QStringLiteral("Converting Feet To Yards"));
-    auto& light = Find<QLabel>(frame, QStringLiteral("Light"));
+    auto& light = Find<LightButton>(frame, QStringLiteral("Light"));
     EXPECT_EQ(light.toolTip(), "Click the red light for incorrect input details.");
     Type(QStringLiteral("4"));
     EXPECT_EQ(light.toolTip(), "Correct Input.");
-    const QImage green = light.pixmap(Qt::ReturnByValue).toImage();
+    const QImage green = light.grab().toImage();
     Type(QStringLiteral("x"));
     EXPECT_EQ(light.toolTip(), "Incorrect input.");
-    EXPECT_NE(light.pixmap(Qt::ReturnByValue).toImage(), green);
+    EXPECT_NE(light.grab().toImage(), green);
     EXPECT_EQ(
         SheetText(),
         "Variables are not allowed in 'Converting Feet To Yards'.  Click the Assistant Wiz for "
@@ -619,12 +569,12 @@ TEST_F(Window, TheFirstSheetStaysInTheMiddle) {
 
 TEST_F(Window, TheLightCanBeHidden) {
     Choose(QStringLiteral("Converting Feet To Yards"));
-    auto& light = Find<QLabel>(frame, QStringLiteral("Light"));
+    auto& light = Find<LightButton>(frame, QStringLiteral("Light"));
     EXPECT_TRUE(light.isVisible());
     Command("mnuShowLight").trigger();
     EXPECT_FALSE(light.isVisible());
     Choose(QStringLiteral("Converting Miles To Feet"));
-    EXPECT_FALSE(Find<QLabel>(frame, QStringLiteral("Light")).isVisible());
+    EXPECT_FALSE(Find<LightButton>(frame, QStringLiteral("Light")).isVisible());
 }
 
 TEST_F(Window, FractionsAndDecimalsChangePlaces) {

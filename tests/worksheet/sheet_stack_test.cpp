@@ -42,6 +42,18 @@ TEST_F(SheetStackTest, ASheetTurnedToAgainComesToTheTop) {
     EXPECT_EQ(stack.Order(), (std::vector<int>{0, 2, 1}));
 }
 
+TEST_F(SheetStackTest, ARaisedSheetComesToTheTop) {
+    stack.Turn(0);
+    stack.Turn(1);
+    stack.Raise(0);
+    EXPECT_EQ(stack.Order(), (std::vector<int>{1, 2, 0}));
+    stack.Raise(0);
+    stack.Raise(1);
+    EXPECT_EQ(stack.Order(), (std::vector<int>{2, 0, 1}));
+    stack.Raise(3);
+    EXPECT_EQ(stack.Order(), (std::vector<int>{2, 0, 1})) << "a hidden sheet stays hidden";
+}
+
 TEST_F(SheetStackTest, TheTenthIsTheLast) {
     for (int page = 0; page < 9; ++page) {
         stack.Turn(page);

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+
+#include "tests/ui/window.h"
+#include "ui/font_metrics.h"
+#include "ui/frm_main.h"
+#include "ui/sheet_widget.h"
+
+namespace numerello {
+
+/// The frame on the screen, as a learner has it before the first topic.
+class Window : public testing::Test {
+  protected:
+    Window() {
+        LoadSheetFont();
+        ShowActive(frame);
+    }
+
+    QAction& Command(const char* name) { return Find<QAction>(frame, QString::fromUtf8(name)); }
+
+    /// Chooses a topic through New Problem and the index.
+    void Choose(const QString& caption) {
+        const WhenDialogOpens chooser(QStringLiteral("frmSelect"), [&caption](QWidget& dialog) {
+            PressKey(dialog, Qt::Key_Tab, Qt::ControlModifier);
+            TypeText(dialog, caption);
+            PressKey(dialog, Qt::Key_Return);
+        });
+        Command("mnuNew").trigger();
+        // The desktop would bring the frame back; without one it has to be asked for.
+        ShowActive(frame);
+    }
+
+    void CancelNew() {
+        const WhenDialogOpens chooser(QStringLiteral("frmSelect"),
+                                      [](QWidget& dialog) { PressKey(dialog, Qt::Key_Escape); });
+        Command("mnuNew").trigger();
+    }
+
+    void Erase() {
+        const WhenDialogOpens question(QStringLiteral("MessageBox"), [](QWidget& dialog) {
+            PressButton(dialog, QStringLiteral("OK"));
+        });
+        Command("mnuErase").trigger();
+        ShowActive(frame);
+    }
+
+    void Type(const QString& keys) { TypeText(frame, keys); }
+    void Enter() { PressKey(frame, Qt::Key_Return); }
+
+    ArrowButton& Arrow() { return Find<ArrowButton>(frame, QStringLiteral("blinker0")); }
+    QString SheetText() {
+        return Find<QWidget>(frame, QStringLiteral("frmPaper")).accessibleDescription();
+    }
+    const Problem& Now() { return frame.CurrentProblem(); }
+
+    FrmMain frame;
+};
+
+}  // namespace numerello

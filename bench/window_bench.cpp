@@ -13,20 +13,19 @@ namespace {
 /// A sheet of the frame's usual size with 40 inches typed on it.
 class OpenSheet {
   public:
-    OpenSheet() {
+    explicit OpenSheet(const char* caption = "Converting Inches To Yards",
+                       const char* keys = "40") {
         MersenneSource random;
-        TreeViewSelect("Converting Inches To Yards", problem.topic, SystemClock(), random);
+        TreeViewSelect(caption, problem.topic, SystemClock(), random);
         paper = std::make_unique<FrmPaper>(problem, learner, nullptr);
         paper->resize(1100, 690);
         paper->show();
-        paper->Form_KeyPress("4");
-        paper->Form_KeyPress("0");
+        paper->Form_KeyPress(keys);
     }
 
     void Restart() {
         EraseProblem(problem, noStage);
-        paper->Form_KeyPress("4");
-        paper->Form_KeyPress("0");
+        paper->Form_KeyPress("40");
         paper->compute_Click();
     }
 
@@ -67,6 +66,19 @@ void KeyPainted(benchmark::State& state) {
     }
 }
 BENCHMARK(KeyPainted)->Unit(benchmark::kMillisecond);
+
+/// The same behind a line of sixty characters, fractions and exponents among them.
+void KeyPaintedBehindAFullLine(benchmark::State& state) {
+    OpenSheet sheet("Simplifying Polynomials",
+                    "9(3x^2+8^2)-3/4+4x-(x^2-7)/5+2(x+1)^2/3-x^3+12x/7+(x-4)/2+91");
+    bool erase = true;
+    for (auto _ : state) {
+        sheet.Paper().Form_KeyPress(erase ? "\b" : "1");
+        erase = !erase;
+        benchmark::DoNotOptimize(sheet.Paper().grab());
+    }
+}
+BENCHMARK(KeyPaintedBehindAFullLine)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace numerello

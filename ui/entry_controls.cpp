@@ -1,5 +1,6 @@
 #include "ui/entry_controls.h"
 
+#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QStyleOptionComboBox>
 #include <algorithm>
@@ -168,8 +169,13 @@ void EntryList::Choose(int row) {
 }
 
 void EntryList::showPopup() {
-    if (!Locked()) {
-        QComboBox::showPopup();
+    if (Locked()) {
+        return;
+    }
+    QComboBox::showPopup();
+    if (currentIndex() < 0) {
+        // The list stands on its first row unseen; what Enter would take has to be lit.
+        view()->setCurrentIndex(model()->index(0, modelColumn()));
     }
 }
 

@@ -125,6 +125,7 @@ void EntryForm::MakeUnitLists(int UnitKind) {
         into->addItem(ToQString(MetricItem(row, UnitKind)));
     }
     QLabel* to = AddLabel("to", kEntryTextSize, Qt::AlignCenter);
+    to->setBuddy(into);
     to->setFixedSize(to->sizeHint().width(), from->height());
     const int room = (kUnitRow.width - to->width()) / 2 - kUnitsGap;
     const int width = std::min(from->WidthForAll(), room);
@@ -147,6 +148,8 @@ void EntryForm::MakeRoundingList() {
 EntryList* EntryForm::AddList(int number, const QString& name) {
     auto* list = new EntryList(number, problem, sheet);
     list->setAccessibleName(name);
+    // Some desktops tell the choice in place of the name.
+    list->setAccessibleDescription(name);
     connect(list, &EntryList::Chosen, this, [this, list] { emit Changed(list); });
     lists.push_back(list);
     return list;

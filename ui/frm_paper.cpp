@@ -21,7 +21,8 @@ constexpr double kTypedLineLimit = 730;
 
 constexpr QSize kSheetSize(800, 657);
 constexpr int kLightTop = 24;
-
+constexpr int kLightMargin = 8;
+constexpr int kAroundField = 16;
 /// The light may cover the sheet, but not where anything is written.
 constexpr int kLightLeftOnSheet = 752;
 
@@ -95,7 +96,9 @@ void FrmPaper::MakeEntry() {
     entry = new EntryForm(problem, papers[0]);
     connect(entry, &EntryForm::Changed, this, [this](QWidget* field) {
         Refresh();
-        ensureWidgetVisible(field);
+        const QRect place(field->mapTo(desk, QPoint()), field->size());
+        ensureVisible(place.left(), place.center().y(), kAroundField, kAroundField);
+        ensureVisible(place.right(), place.center().y(), kAroundField, kAroundField);
     });
     if (entry->FirstBox() != nullptr) {
         setFocusProxy(entry->FirstBox());
@@ -104,6 +107,7 @@ void FrmPaper::MakeEntry() {
 
 void FrmPaper::MakeLight() {
     light = new LightButton(desk);
+    connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, &FrmPaper::PlaceLight);
     connect(light, &LightButton::MenuAsked, this, &FrmPaper::LightMenuAsked);
     connect(light, &QAbstractButton::clicked, this, [this] {
         if (explanation->Model().Light_Click()) {
@@ -210,6 +214,9 @@ void FrmPaper::TypeKey(std::string_view key) {
 }
 
 void FrmPaper::TypeText(const QString& text) {
+    if (!TakesKeys()) {
+        return;
+    }
     for (const std::string& key : Characters(text.toStdString())) {
         TypeKey(key);
     }
@@ -315,10 +322,17 @@ void FrmPaper::FitDesk() {
             {qRound(sheet.left) + kSheetSize.width(), qRound(sheet.top) + kSheetSize.height()});
     }
     desk->resize(size);
-    const int sheetRight = qRound(worksheet.SheetAt(0).left) + kSheetSize.width();
-    const int figureLeft = std::min(sheetRight + 16, viewport()->width() - 116);
+    PlaceLight();
+}
+
+/// Beside the sheet, else over its right edge where nothing is written, but never out of sight.
+void FrmPaper::PlaceLight() {
+    const int sheetLeft = qRound(worksheet.SheetAt(0).left);
+    const int figureLeft = std::min(sheetLeft + kSheetSize.width() + 16, viewport()->width() - 116);
     const int lightLeft = figureLeft + (108 - LightButton::kSize.width()) / 2;
-    light->move(std::max(lightLeft, qRound(worksheet.SheetAt(0).left) + kLightLeftOnSheet),
+    const int seen =
+        horizontalScrollBar()->value() + viewport()->width() - LightButton::kSize.width();
+    light->move(std::min(std::max(lightLeft, sheetLeft + kLightLeftOnSheet), seen - kLightMargin),
                 kLightTop);
 }
 

@@ -71,6 +71,7 @@ class FrmPaper : public QScrollArea {
     void ShowSheets();
     void OpenExplanation();
     void FitDesk();
+    void PlaceLight();
     void ScrollToLineEnd();
     void KeepTimer();
     QString SheetText() const;

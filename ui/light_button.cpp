@@ -1,6 +1,6 @@
 #include "ui/light_button.h"
 
-#include <QKeyEvent>
+#include <QContextMenuEvent>
 #include <QPainter>
 
 #include "ui/artwork.h"
@@ -26,7 +26,7 @@ QString KeyOf(Picture picture) {
 
 }  // namespace
 
-LightButton::LightButton(QWidget* desk) : QAbstractButton(desk) {
+LightButton::LightButton(QWidget* desk) : DeskButton(desk) {
     setObjectName(QStringLiteral("Light"));
     setAccessibleName(QStringLiteral("Guided Input Light"));
     setFixedSize(kSize);
@@ -49,15 +49,6 @@ void LightButton::paintEvent(QPaintEvent* /*event*/) {
         painter.setPen(QPen(QColor(0x3F, 0x8F, 0xD2), 2));
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 14, 14);
     }
-}
-
-void LightButton::keyPressEvent(QKeyEvent* event) {
-    // Some desktops click buttons by Enter, which here solves and steps.
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        event->ignore();
-        return;
-    }
-    QAbstractButton::keyPressEvent(event);
 }
 
 void LightButton::mouseReleaseEvent(QMouseEvent* event) {

@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QAbstractButton>
-
 #include "core/problem.h"
+#include "ui/desk_button.h"
 
 namespace numerello {
 
 /// The light of the guided input.
-class LightButton : public QAbstractButton {
+class LightButton : public DeskButton {
     Q_OBJECT
 
   public:
@@ -24,7 +23,6 @@ class LightButton : public QAbstractButton {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 

@@ -35,7 +35,7 @@ void PaintTitle(QPainter& painter, const std::string& title, const FontMetrics& 
 
 }  // namespace
 
-ArrowButton::ArrowButton(QWidget* parent) : QAbstractButton(parent) {
+ArrowButton::ArrowButton(QWidget* parent) : DeskButton(parent) {
     setFixedSize(kArrowSize);
     setToolTip(QStringLiteral("Next Step"));
     setAccessibleName(QStringLiteral("Next Step"));

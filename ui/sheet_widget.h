@@ -1,16 +1,16 @@
 #pragma once
 
-#include <QAbstractButton>
 #include <QWidget>
 #include <string>
 
+#include "ui/desk_button.h"
 #include "ui/font_metrics.h"
 #include "worksheet/worksheet.h"
 
 namespace numerello {
 
 /// The flashing arrow behind the last line of a sheet.
-class ArrowButton : public QAbstractButton {
+class ArrowButton : public DeskButton {
     Q_OBJECT
 
   public:

@@ -63,7 +63,8 @@ void WritingPencil::Show(int viewHeight) {
     deskPencil->setPixmap(Artwork(QStringLiteral("pencil1"), kSize, ratio));
 
     const int deskWidth = qRound(worksheet.SheetAt(0).left);
-    deskPencil->move(std::min(kDeskLeft, (deskWidth - kSize.width()) / 2),
+    const bool roomAtItsPlace = deskWidth >= kDeskLeft + kSize.width();
+    deskPencil->move(roomAtItsPlace ? kDeskLeft : (deskWidth - kSize.width()) / 2,
                      viewHeight - kAboveBottom - kSize.height());
     pencil->setVisible(used);
     deskPencil->setVisible(!used && deskWidth >= kNarrowestDesk);

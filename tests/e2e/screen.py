@@ -20,6 +20,7 @@ class Screen:
         self.program = program
         self.pictures = pathlib.Path(pictures)
         self.pictures.mkdir(parents=True, exist_ok=True)
+        self.scale = scale
         self.size = f"{1280 * scale}x{800 * scale}"
         self.environment = {"QT_SCALE_FACTOR": str(scale), **(environment or {})}
         self.children = []
@@ -117,7 +118,9 @@ class Screen:
     def click_on(self, name, role=None, button=1):
         """Clicks the middle of the showing object of that name."""
         found = until(lambda: find(name, role), f"something named {name!r} to click on")
-        self.click(*until(lambda: resting_middle(found), f"{name!r} to stand still"), button)
+        x, y = until(lambda: resting_middle(found), f"{name!r} to stand still")
+        # The accessibility tree tells places without the scale.
+        self.click(x * self.scale, y * self.scale, button)
 
     def settle(self):
         """Lets a list open or close and a tree scroll; the accessibility tree does not tell."""

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
 #include <QGuiApplication>
@@ -372,6 +373,20 @@ TEST_F(EntryFormTest, AChangeOfTheRoundingKeepsLineAndSolve) {
     EXPECT_EQ(List(3).currentText(), "Rounded to the nearest thousandth");
     EXPECT_EQ(problem.typed.ProblemText, "45");
     EXPECT_TRUE(problem.controls.SolveEnabled);
+}
+
+TEST_F(EntryFormTest, AnOpenedListLightsTheRowThatEnterTakes) {
+    Open(23);
+    List(1).setFocus();
+    PressKey(*paper, Qt::Key_Down, Qt::AltModifier);
+    QTest::qWait(20);
+    QAbstractItemView& rows = *List(1).view();
+    EXPECT_TRUE(rows.selectionModel()->isRowSelected(0));
+    PressKey(*rows.window(), Qt::Key_Down);
+    PressKey(*rows.window(), Qt::Key_Return);
+    EXPECT_EQ(List(1).currentText(), "cm (0.01 meters)");
+    EXPECT_EQ(List(1).accessibleDescription(), "From");
+    EXPECT_EQ(List(2).accessibleDescription(), "To");
 }
 
 TEST_F(EntryFormTest, ErasingSetsTheRoundingBack) {

@@ -226,16 +226,14 @@ TEST_F(ExplanationWindow, ALongTextScrolls) {
 }
 
 TEST_F(ExplanationWindow, AQuotedRootBringsNoMessage) {
-    ChooseFeet();
-    Type(QStringLiteral("4~"));
-    Click(Light());
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-    EXPECT_TRUE(Explanation().isVisible());
-    const_cast<Problem&>(Now()).input.InputError =
-        "You can't type a '5' after a '~' in 'Calculating Roots'.";
-    Click(Light());
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-    EXPECT_TRUE(Explanation().isVisible());
+    Choose(QStringLiteral("Calculating Roots"));
+    for (const char* keys : {"~~", "4~5"}) {
+        Type(QString::fromUtf8(keys));
+        const NoDialogOpens none;
+        Click(Light());
+        QTest::qWait(30);
+        EXPECT_TRUE(Explanation().isVisible()) << keys;
+    }
 }
 
 TEST_F(ExplanationWindow, WhatCannotBeDrawnIsToldAndTheWindowStands) {

@@ -556,6 +556,36 @@ TEST_F(Window, AnUnfinishedNumberIsAnsweredWithTheFormatMessage) {
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
+TEST_F(Window, TheLightStandsBesideTheSheetAndNeverOutOfSight) {
+    Choose(QStringLiteral("Arithmetic"));
+    auto& paper = Find<QScrollArea>(frame, QStringLiteral("frmPaper"));
+    auto& light = Find<QWidget>(frame, QStringLiteral("Light"));
+    // Over the middle of a figure 108 wide that begins 16 right of the sheet.
+    frame.resize(1100, 800);
+    QTest::qWait(20);
+    EXPECT_EQ(light.pos(), QPoint(150 + 816 + 30, 24));
+    frame.resize(640, 480);
+    QTest::qWait(20);
+    ASSERT_LT(paper.viewport()->width(), 752);
+    EXPECT_EQ(light.geometry().right() + 1, paper.viewport()->width() - 8);
+    paper.horizontalScrollBar()->setValue(100);
+    EXPECT_EQ(light.geometry().right() + 1, paper.viewport()->width() - 8 + 100);
+}
+
+TEST_F(Window, ArrowKeysLeaveTheFocusOnLightAndArrow) {
+    Choose(QStringLiteral("Meter Conversions"));
+    Type(QStringLiteral("5"));
+    PressKeys(frame, {Qt::Key_Tab, Qt::Key_Down, Qt::Key_Tab, Qt::Key_Down, Qt::Key_Down});
+    Enter();
+    ASSERT_TRUE(Arrow().hasFocus());
+    auto& light = Find<QWidget>(frame, QStringLiteral("Light"));
+    for (QWidget* button : {static_cast<QWidget*>(&Arrow()), &light}) {
+        button->setFocus();
+        PressKeys(frame, {Qt::Key_Down, Qt::Key_Left, Qt::Key_Up, Qt::Key_Right});
+        EXPECT_TRUE(button->hasFocus()) << button->objectName().toStdString();
+    }
+}
+
 TEST_F(Window, TheFirstSheetStaysInTheMiddle) {
     Choose(QStringLiteral("Converting Feet To Yards"));
     auto& sheet = Find<QWidget>(frame, QStringLiteral("Paper0"));

@@ -169,4 +169,14 @@ void WhenDialogOpens::Fail(const QString& what) {
     }
 }
 
+NoDialogOpens::NoDialogOpens() {
+    QObject::connect(&timer, &QTimer::timeout, &timer, [] {
+        if (QWidget* dialog = QApplication::activeModalWidget()) {
+            ADD_FAILURE() << "a window opened: " << dialog->objectName().toStdString();
+            dialog->close();
+        }
+    });
+    timer.start(std::chrono::milliseconds(10));
+}
+
 }  // namespace numerello

@@ -103,4 +103,13 @@ class [[nodiscard]] WhenDialogOpens {
     bool failed = false;
 };
 
+/// As long as it lives, no modal window may open; one that does fails the test and is closed.
+class [[nodiscard]] NoDialogOpens {
+  public:
+    NoDialogOpens();
+
+  private:
+    QTimer timer;
+};
+
 }  // namespace numerello

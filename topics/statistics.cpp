@@ -70,11 +70,11 @@ void WriteModes(StepLog& log, const std::vector<std::string>& modes, const std::
     }
     std::string list;
     for (const std::string& mode : modes) {
-        list += (list.empty() ? "" : ", ") + mode;
+        list += mode + ", ";
     }
     log.Write(Text("There are ", Count(modes.size()), " modes, each occuring ", count, " times:"),
               "Mulitple modes have been calculated.");
-    log.Write(list, "Modes of the given group of numbers.");
+    log.Write(list.substr(0, list.size() - 2), "Modes of the given group of numbers.");
 }
 
 }  // namespace

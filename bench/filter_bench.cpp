@@ -1,27 +1,13 @@
 #include <benchmark/benchmark.h>
 
-#include "catalogue/chooser.h"
-#include "catalogue/guided_input.h"
-#include "core/solve_driver.h"
+#include "bench/typed_problem.h"
 
 namespace numerello {
 namespace {
 
-Problem LineOf(std::string_view caption, std::string_view keys) {
-    Problem problem;
-    MersenneSource random;
-    Stage stage;
-    TreeViewSelect(caption, problem.topic, SystemClock(), random);
-    EraseProblem(problem, stage);
-    for (const char key : keys) {
-        Form_KeyPress(problem, std::string_view(&key, 1));
-    }
-    return problem;
-}
-
 /// The 60th character of a full line goes in and is taken back: two keys.
 void LastKeyOfAFullLine(benchmark::State& state, const char* caption, std::string_view line) {
-    Problem problem = LineOf(caption, line);
+    Problem problem = TypedProblemOf(caption, line);
     if (problem.typed.ExprCharCount != 59) {
         state.SkipWithError("the line has not 59 characters");
         return;
@@ -39,7 +25,7 @@ BENCHMARK_CAPTURE(LastKeyOfAFullLine, polynomial, "Simplifying Polynomials",
                   "9(3x^2+8^2)-3/4+4x-(x^2-7)/5+2(x+1)^2/3-x^3+12x/7+(x-4)/2+9");
 
 void RefusedKey(benchmark::State& state) {
-    Problem problem = LineOf("Simplifying Polynomials", "9(3x^2+8^2)-3/4+4x-(x^2-7)");
+    Problem problem = TypedProblemOf("Simplifying Polynomials", "9(3x^2+8^2)-3/4+4x-(x^2-7)");
     for (auto _ : state) {
         Form_KeyPress(problem, ")");
         benchmark::DoNotOptimize(problem.input.InputError);

@@ -2,10 +2,12 @@
 #include "catalogue/box_keys.h"
 #include "catalogue/guided_input.h"
 #include "cli/answering_learner.h"
+#include "cli/mark_fields.h"
 #include "cli/requests.h"
 #include "cli/setting_fields.h"
 #include "cli/topic_fields.h"
 #include "core/text.h"
+#include "worksheet/number_line.h"
 
 namespace numerello {
 
@@ -85,6 +87,31 @@ Json Lines(const StepLog& log) {
     return lines;
 }
 
+/// What the topic draws beside its lines.
+Json Drawing(const Problem& problem) {
+    Json marks = Json::array();
+    if (const auto& line = problem.playback.NumberLine) {
+        const PlainMetrics metrics;
+        Surface sheet(metrics, {std::string(kSheetFace), 12});
+        DrawNumberLine(sheet, line->A, line->B);
+        for (const Mark& mark : sheet.Marks()) {
+            marks.push_back(MarkFields(mark));
+        }
+    }
+    return marks;
+}
+
+/// The graph request as a playback to the end leaves it.
+Json Graph(const Problem& problem) {
+    const GraphRequest& graph = problem.graph;
+    if (graph.GraphMode == 0) {
+        return nullptr;
+    }
+    return {{"mode", graph.GraphMode},         {"x1", JsonNumber(graph.GraphX1)},
+            {"y1", JsonNumber(graph.GraphY1)}, {"x2", JsonNumber(graph.GraphX2)},
+            {"y2", JsonNumber(graph.GraphY2)}, {"equation", ""}};
+}
+
 void RequireSolver(const Problem& problem) {
     if (AllSolvers().Find(problem.topic.ProblemType) == nullptr) {
         throw BadRequest(Text("solving \"", problem.topic.TopicTitle, "\" is not built yet"));
@@ -118,8 +145,8 @@ void SolveRequest(Fields& fields, Json& answer) {
     answer["messages"] = learner.Messages();
     answer["prompts"] = learner.Prompts();
     answer["failure"] = failure ? Json(FailureName(*failure)) : Json(nullptr);
-    answer["drawing"] = Json::array();
-    answer["graph"] = nullptr;
+    answer["drawing"] = Drawing(problem);
+    answer["graph"] = Graph(problem);
 }
 
 }  // namespace numerello

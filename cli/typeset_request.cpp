@@ -1,5 +1,6 @@
 #include <cmath>
 
+#include "cli/mark_fields.h"
 #include "cli/requests.h"
 #include "cli/setting_fields.h"
 #include "core/text.h"
@@ -13,35 +14,10 @@ constexpr double kFarthest = 1e6;
 constexpr double kLeastSize = 1;
 constexpr double kLargestSize = 100;
 
-/// Three decimals; a whole number is written as one.
-Json Rounded(double value) {
-    const double rounded = std::round(value * 1000) / 1000;
-    return rounded == std::floor(rounded) ? Json(static_cast<long>(rounded)) : Json(rounded);
-}
-
-Json MarkFields(const TextMark& mark) {
-    return {{"text", mark.text},
-            {"x", Rounded(mark.x)},
-            {"y", Rounded(mark.y)},
-            {"size", Rounded(mark.font.size)},
-            {"color", mark.color}};
-}
-
-Json MarkFields(const StrokeMark& mark) {
-    return {{"line", {Rounded(mark.x1), Rounded(mark.y1), Rounded(mark.x2), Rounded(mark.y2)}},
-            {"width", Rounded(mark.width)},
-            {"color", mark.color}};
-}
-
-/// Pictures are no marks of the protocol.
-Json MarkFields(const ImageMark& /*mark*/) {
-    return nullptr;
-}
-
 Json Marks(const SampleAnswer& sample) {
     Json marks = Json::array();
     for (const auto& [page, mark] : sample.marks) {
-        Json fields = std::visit([](const auto& each) { return MarkFields(each); }, mark);
+        Json fields = MarkFields(mark);
         if (!fields.is_null()) {
             fields["page"] = page;
             marks.push_back(std::move(fields));

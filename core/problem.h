@@ -80,6 +80,12 @@ struct AnswerSettings {
     bool mnuShowStep = true;
 };
 
+/// The two numbers to be shown on a number line.
+struct NumberLineRequest {
+    double A = 0;
+    double B = 0;
+};
+
 /// Where playback stands and where the next line goes.
 struct Playback {
     int ShownStep = 0;
@@ -90,6 +96,7 @@ struct Playback {
     double LineEndX = 0;
     double LineEndY = 0;
     std::optional<double> DrawingRow;  ///< Y at which a solver wants the first sheet to go on
+    std::optional<NumberLineRequest> NumberLine;  ///< what a solver wants drawn before its lines
 };
 
 /// At most one flag is set.

@@ -44,6 +44,7 @@ void DropRequests(Problem& problem) {
     problem.columns.ClearFlags();
     problem.graph.GraphMode = 0;
     problem.playback.DrawingRow.reset();
+    problem.playback.NumberLine.reset();
 }
 
 void PrepareSheet(Problem& problem, Stage& stage) {

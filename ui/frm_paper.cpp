@@ -131,6 +131,10 @@ void FrmPaper::compute_Click() {
         numerello::compute_Click(problem, AllSolvers(), learner, worksheet);
     }
     ShowStep();
+    const int mode = problem.graph.GraphMode;
+    if (mode != 0 && problem.log.StepCount == 1) {
+        learner.MessageBox("", "Drawing the graph is not built yet.");
+    }
 }
 
 void FrmPaper::clear_Click() {

@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "typeset/lines.h"
+#include "worksheet/number_line.h"
 #include "worksheet/worksheet.h"
 
 namespace numerello {
@@ -42,7 +43,7 @@ bool Any(const ColumnRequest& columns) {
 
 void Worksheet::ShowNextStep() {
     RestorePointer();
-    TakeDrawingRow();
+    TakeRequests();
     const Playback& playback = problem.playback;
     if (playback.ShownStep == 0) {
         ShowAllLines();
@@ -55,9 +56,13 @@ void Worksheet::ShowNextStep() {
     Changed();
 }
 
-void Worksheet::TakeDrawingRow() {
+void Worksheet::TakeRequests() {
+    Surface& first = stack[0].surface;
     if (const auto row = std::exchange(problem.playback.DrawingRow, std::nullopt)) {
-        stack[0].surface.CurrentY = *row;
+        first.CurrentY = *row;
+    }
+    if (const auto line = std::exchange(problem.playback.NumberLine, std::nullopt)) {
+        DrawNumberLine(first, line->A, line->B);
     }
 }
 

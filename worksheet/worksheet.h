@@ -107,7 +107,7 @@ class Worksheet : public Stage, public PaperSheets {
     void ShowLastLine();
     void PrintStep(int index, bool showBlinker);
     void FinishWork();
-    void TakeDrawingRow();
+    void TakeRequests();
 
     void ClearTo(int lastSheet);
     void HideArrow();

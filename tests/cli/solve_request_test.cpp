@@ -140,5 +140,113 @@ TEST(SolveRequest, SettingsShapeTheAnswer) {
     EXPECT_EQ(answer.at("lines").back().at("text"), "100^o^ F = 37.7778^o^ C");
 }
 
+Json SolveLine(int code, const std::string& problem, const std::string& more = "") {
+    return Ask(R"({"do":"solve","code":)" + std::to_string(code) + R"(,"problem":")" + problem +
+               "\"" + more + "}");
+}
+
+Json Line(int x1, int y1, int x2, int y2) {
+    return {{"line", {x1, y1, x2, y2}}, {"width", 2}, {"color", 0}};
+}
+
+Json Label(const char* text, int x) {
+    return {{"text", text}, {"x", x}, {"y", 158}, {"size", 12}, {"color", 0}};
+}
+
+TEST(SolveRequest, ComparingDrawsItsNumberLine) {
+    const Json answer = SolveLine(90, "4,-2");
+    const Json expected =
+        Json::array({Line(150, 150, 550, 150), Line(150, 150, 155, 155), Line(150, 150, 155, 145),
+                     Line(550, 150, 545, 145), Line(550, 150, 545, 155), Line(350, 145, 350, 155),
+                     Label("0", 345), Line(250, 145, 250, 155), Label("-2", 244),
+                     Line(450, 145, 450, 155), Label("4", 451)});
+    EXPECT_EQ(answer.at("drawing").dump(), expected.dump());
+    EXPECT_EQ(answer.at("lines").size(), 2U);
+    EXPECT_EQ(answer.at("lines").back().at("text"), "4 > -2");
+    EXPECT_EQ(answer.at("graph"), nullptr);
+}
+
+TEST(SolveRequest, AFailedComparisonDrawsNothing) {
+    const Json answer = SolveLine(90, "4,");
+    EXPECT_EQ(answer.at("solvable"), true);
+    EXPECT_EQ(answer.at("failure"), "format");
+    EXPECT_TRUE(answer.at("lines").empty());
+    EXPECT_EQ(answer.at("drawing").dump(), "[]");
+}
+
+TEST(SolveRequest, APointAsksForItsGraph) {
+    const Json answer = SolveLine(108, "(4,-8)");
+    EXPECT_EQ(answer.at("graph").dump(),
+              R"({"mode":1,"x1":4,"y1":-8,"x2":0,"y2":0,"equation":""})");
+    EXPECT_TRUE(answer.at("lines").empty());
+    EXPECT_EQ(answer.at("failure"), nullptr);
+    EXPECT_EQ(answer.at("drawing").dump(), "[]");
+}
+
+TEST(SolveRequest, APointsQuadrantAsksForTheGraphOfThePoint) {
+    const Json answer = SolveLine(107, "(-3,5)");
+    EXPECT_EQ(answer.at("graph").dump(),
+              R"({"mode":1,"x1":-3,"y1":5,"x2":0,"y2":0,"equation":""})");
+    EXPECT_EQ(answer.at("lines").size(), 3U);
+    EXPECT_EQ(answer.at("lines").front().at("text"), "(-3 , 5)");
+}
+
+TEST(SolveRequest, TwoPointsAskForTheirGraph) {
+    const Json answer = SolveLine(106, "(1,-2)-(-5,6)");
+    EXPECT_EQ(answer.at("graph").dump(),
+              R"({"mode":2,"x1":1,"y1":-2,"x2":-5,"y2":6,"equation":""})");
+    EXPECT_TRUE(answer.at("lines").empty());
+}
+
+TEST(SolveRequest, AFailureLeavesNoGraph) {
+    for (const auto& [code, line] :
+         {std::pair(108, "(4,"), std::pair(107, "(4,8"), std::pair(107, "(4,-"),
+          std::pair(106, "(1,2)"), std::pair(106, "(1,2)-(3,4")}) {
+        const Json answer = SolveLine(code, line);
+        EXPECT_EQ(answer.at("solvable"), true) << line;
+        EXPECT_EQ(answer.at("failure"), "format") << line;
+        EXPECT_EQ(answer.at("graph"), nullptr) << line;
+        EXPECT_TRUE(answer.at("lines").empty()) << line;
+    }
+}
+
+TEST(SolveRequest, TheThirdListChoosesThePlaceToRoundTo) {
+    const std::pair<const char*, const char*> places[] = {{"", "1000"},
+                                                          {R"(,"lists":[])", "1000"},
+                                                          {R"(,"lists":[-1,-1,0])", "1000"},
+                                                          {R"(,"lists":[-1,-1,1])", "1300"},
+                                                          {R"(,"lists":[-1,-1,2])", "1250"},
+                                                          {R"(,"lists":[-1,-1,3])", "1251"},
+                                                          {R"(,"lists":[-1,-1,4])", "1250.5"},
+                                                          {R"(,"lists":[-1,-1,5])", "1250.50"},
+                                                          {R"(,"lists":[-1,-1,6])", "1250.500"}};
+    for (const auto& [lists, result] : places) {
+        EXPECT_EQ(SolveLine(98, "1250.5", lists).at("lines").back().at("text"), result) << lists;
+    }
+    const Json none = SolveLine(98, "1250.5", R"(,"lists":[-1,-1,-1])");
+    EXPECT_EQ(none.at("solvable"), true);
+    EXPECT_EQ(none.at("failure"), "format");
+    EXPECT_TRUE(none.at("lines").empty());
+}
+
+TEST(SolveRequest, AnOverflowKeepsTheLinesBeforeIt) {
+    const Json answer = SolveLine(87, "40000,50000");
+    EXPECT_EQ(answer.at("failure"), "overflow");
+    EXPECT_EQ(answer.at("lines").size(), 2U);
+    const Json expected = Json::array(
+        {{{"title", "Overflow!"},
+          {"text",
+           "The entered problem caused a data overflow.  Click the 'Erase' button and try "
+           "again."}}});
+    EXPECT_EQ(answer.at("messages").dump(), expected.dump());
+}
+
+TEST(SolveRequest, ADivisionByZeroKeepsTheLinesBeforeIt) {
+    const Json answer = SolveLine(88, "6,00");
+    EXPECT_EQ(answer.at("failure"), "division by zero");
+    EXPECT_EQ(answer.at("lines").size(), 2U);
+    EXPECT_EQ(answer.at("messages").at(0).at("title"), "Division by 0!");
+}
+
 }  // namespace
 }  // namespace numerello

@@ -1,4 +1,4 @@
-#include "tests/topics/conversion_log.h"
+#include "tests/topics/solver_log.h"
 
 namespace numerello {
 namespace {
@@ -136,8 +136,8 @@ TEST(ChainedConversions, ZeroIsWorkedLikeAnyNumber) {
 }
 
 TEST(ChainedConversions, TextThatIsNoNumberFailsInTheFirstStage) {
-    Problem problem;
-    EXPECT_EQ(FailureOf(53, ".", problem), FailureKind::Format);
+    Problem problem = ProblemOf(53, ".");
+    EXPECT_EQ(FailureOf(problem), FailureKind::Format);
     EXPECT_EQ(problem.log.StepCount, 5);  // problem, opening, fact and instruction
 }
 

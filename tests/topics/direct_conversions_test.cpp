@@ -1,4 +1,4 @@
-#include "tests/topics/conversion_log.h"
+#include "tests/topics/solver_log.h"
 #include "topics/conversions.h"
 
 namespace numerello {
@@ -302,16 +302,16 @@ TEST(DirectConversions, AStageWritesNoProblemLineAndReturnsItsResult) {
 }
 
 TEST(DirectConversions, TextThatIsNoNumberFailsAfterTheInstruction) {
-    Problem problem;
-    EXPECT_EQ(FailureOf(51, ".", problem), FailureKind::Format);
+    Problem problem = ProblemOf(51, ".");
+    EXPECT_EQ(FailureOf(problem), FailureKind::Format);
     EXPECT_EQ(problem.log.StepCount, 4);
     EXPECT_EQ(problem.log.StepText[3],
               "To convert feet to inches, multiply the number of feet (.) by 12:");
 }
 
 TEST(DirectConversions, AProductBeyondADoubleOverflows) {
-    Problem problem;
-    EXPECT_EQ(FailureOf(44, "1E308", problem), FailureKind::Overflow);
+    Problem problem = ProblemOf(44, "1E308");
+    EXPECT_EQ(FailureOf(problem), FailureKind::Overflow);
     EXPECT_EQ(problem.log.StepCount, 4);
 }
 

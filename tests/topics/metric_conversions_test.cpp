@@ -1,19 +1,15 @@
-#include "tests/topics/conversion_log.h"
+#include "tests/topics/solver_log.h"
 #include "topics/conversions.h"
 
 namespace numerello {
 namespace {
 
 Problem Metric(int code, std::string_view value, int from, int to, int RoundDigits = 2) {
-    Problem problem;
-    problem.topic.ProblemType = code;
+    Problem problem = ProblemOf(code);
     problem.boxes.Text[3] = value;
     problem.boxes.ListIndex = {from, to, 0};
     problem.settings.RoundDigits = RoundDigits;
-    SilentLearner learner;
-    SolveRun run{problem, learner};
-    AllSolvers().Find(code)(run);
-    return problem;
+    return Solved(std::move(problem));
 }
 
 TEST(MetricConversions, MillimetersToKilometers) {
@@ -84,18 +80,18 @@ TEST(MetricConversions, NegativeValuesAreWorkedLikeAny) {
 }
 
 TEST(MetricConversions, AListWithoutAChoiceIsAFormatFailureWithAnEmptyLog) {
-    Problem problem;
+    Problem problem = ProblemOf(23);
     problem.boxes.Text[3] = "1";
     problem.boxes.ListIndex = {0, EntryBoxes::kNoChoice, 0};
-    EXPECT_EQ(FailureOf(23, "", problem), FailureKind::Format);
+    EXPECT_EQ(FailureOf(problem), FailureKind::Format);
     EXPECT_EQ(problem.log.StepCount, 1);
 }
 
 TEST(MetricConversions, TextThatIsNoNumberFailsAtTheResult) {
-    Problem problem;
+    Problem problem = ProblemOf(24);
     problem.boxes.Text[3] = "-";
     problem.boxes.ListIndex = {0, 6, 0};
-    EXPECT_EQ(FailureOf(24, "", problem), FailureKind::Format);
+    EXPECT_EQ(FailureOf(problem), FailureKind::Format);
     EXPECT_EQ(problem.log.StepCount, 6);
 }
 

@@ -1,4 +1,4 @@
-#include "tests/topics/conversion_log.h"
+#include "tests/topics/solver_log.h"
 
 namespace numerello {
 namespace {
@@ -45,8 +45,8 @@ TEST(TemperatureConversions, AResultOfMinusZeroIsZero) {
 }
 
 TEST(TemperatureConversions, TextThatIsNoNumberFailsAfterTheSubstitution) {
-    Problem problem;
-    EXPECT_EQ(FailureOf(110, ".", problem), FailureKind::Format);
+    Problem problem = ProblemOf(110, ".");
+    EXPECT_EQ(FailureOf(problem), FailureKind::Format);
     EXPECT_EQ(problem.log.StepCount, 5);
 }
 

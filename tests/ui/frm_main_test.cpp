@@ -507,7 +507,7 @@ TEST_F(Window, EraseEmptiesBoxesAndLists) {
 }
 
 TEST_F(Window, ATopicWithoutASolverSaysSoAndKeepsTheProblem) {
-    Choose(QStringLiteral("Multiples"));
+    Choose(QStringLiteral("Arithmetic"));
     Type(QStringLiteral("12"));
     const WhenDialogOpens message(QStringLiteral("MessageBox"), [](QWidget& dialog) {
         EXPECT_TRUE(

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "cli/json.h"
+#include "typeset/surface.h"
+
+namespace numerello {
+
+/// A whole number is written as one.
+Json JsonNumber(double value);
+
+/// To three decimals.
+Json Rounded(double value);
+
+/// A mark as the answers write it; null for a picture, which is no mark of the protocol.
+Json MarkFields(const Mark& mark);
+
+}  // namespace numerello

@@ -88,10 +88,11 @@ void SimplifyFraction(Problem& problem, std::string_view FractionText, bool Stan
 
 void MixedToFraction(Problem& problem, std::string_view Whole, std::string_view Fraction) {
     const std::string_view w = Whole;
-    const auto [a, b] = SplitAt(Fraction, '/');
     StepLog& log = problem.log;
     log.Write(Text(w, "#", Fraction, "#"), "");
-    if (ToNumber(b) == 0) {
+    const auto [a, b] = SplitAt(Fraction, '/');
+    const double denominator = ToNumber(b);
+    if (denominator == 0) {
         log.Write("This is not valid because division by 0 is not allowed.",
                   "It is mathematically impossible to divide any number by 0.");
         return;
@@ -100,17 +101,17 @@ void MixedToFraction(Problem& problem, std::string_view Whole, std::string_view 
         Text("To convert ", w, "#", Fraction, "# from a mixed number to fractional notation:"),
         Text(w, "#", Fraction, "# is the same as writing ", w, " + #", Fraction, "#."));
 
-    const double product = Checked(ToNumber(w) * ToNumber(b));
-    const std::string wb = NumberText(product);
     log.Write(
         "Multiply the whole number by the denominator of the fraction:",
         "The whole number is the number on the left (without a denominator), and the fraction "
         "portion is on the right.");
+    const double product = Checked(ToNumber(w) * denominator);
+    const std::string wb = NumberText(product);
     log.Write(Text(w, " * ", b, " = ", wb), "Multiply.");
 
-    const std::string sum = NumberText(Checked(product + ToNumber(a)));
     log.Write("Add the numerator of the fraction to the result:",
               "The numerator is the number on top in a fraction.");
+    const std::string sum = NumberText(Checked(product + ToNumber(a)));
     log.Write(Text(wb, " + ", a, " = ", sum), "Add.");
 
     log.Write("Keep the denominator of the original fraction:",

@@ -198,59 +198,75 @@ TEST(SimilarTriangles, BeginOnTheFirstSheet) {
     EXPECT_EQ(Solved(problem).playback.CurrentPage, 0);
 }
 
+/// Sides a, b and c of both; of the second triangle the given one is the first that is typed.
+struct TwoTriangles {
+    std::vector<std::string> first;
+    std::vector<std::string> second;
+    std::size_t given = 0;
+};
+
+TwoTriangles DrawTriangles(Draws& draws) {
+    TwoTriangles drawn{
+        {DrawBox(draws, 5, BoxMarks::None), DrawBox(draws, 5), DrawBox(draws, 5, BoxMarks::Point)},
+        {DrawBox(draws, 5), DrawBox(draws, 4, BoxMarks::Minus), DrawBox(draws, 4, BoxMarks::None)},
+        static_cast<std::size_t>(draws.Below(3))};
+    for (std::size_t side = 0; side < 3; ++side) {
+        if (side < drawn.given || (side > drawn.given && draws.Below(3) != 0)) {
+            drawn.second[side].clear();
+        }
+    }
+    return drawn;
+}
+
+/// That the sides not typed are those of the first triangle over the proportion shown.
+void ExpectWorkedSides(const BoxedTopic& topic, const TwoTriangles& triangles, int RoundDigits) {
+    const auto& [first, second, given] = triangles;
+    Problem problem = Triangles(first, second, RoundDigits);
+    const std::optional<FailureKind> failure = FailureOf(problem);
+    const Log log = LogOf(problem);
+    const auto& boxes = problem.boxes.Text;
+    EXPECT_EQ(topic.LogFor({boxes.begin(), boxes.end()}, RoundDigits, failure), log);
+    ASSERT_GE(log.size(), 5U);
+    const std::string P = Between(log[3].first, "#" + first[given] + "/" + second[given] + "# = ");
+    ExpectRounded(P, Rational::Of(first[given]) / Rational::Of(second[given]), RoundDigits);
+
+    const auto unknowns = static_cast<std::size_t>(std::count(second.begin(), second.end(), ""));
+    if (P == "0" && unknowns > 0) {
+        EXPECT_EQ(failure, FailureKind::DivisionByZero);
+        EXPECT_EQ(log.size(), 7U);
+        return;
+    }
+    EXPECT_EQ(failure, std::nullopt);
+    ASSERT_EQ(log.size(), 5 + 3 * unknowns);
+    const std::string letters[] = {"a2 = ", "b2 = ", "c2 = "};
+    std::size_t line = 7;
+    for (std::size_t side = 0; side < 3; ++side) {
+        if (second[side].empty()) {
+            ExpectRounded(Between(log[line].first, letters[side]),
+                          Rational::Of(first[side]) / Rational::Of(P), RoundDigits);
+            line += 3;
+        }
+    }
+}
+
 TEST(SimilarTriangles, RandomTriangles) {
     const BoxedTopic topic(kSimilarTriangles);
     Draws draws(kSimilarTriangles);
-    const std::string letters[] = {"a", "b", "c"};
     for (int i = 0; i < kRandomProblems; ++i) {
-        const std::vector<std::string> first{DrawBox(draws, 5, BoxMarks::None), DrawBox(draws, 5),
-                                             DrawBox(draws, 5, BoxMarks::Point)};
-        std::vector<std::string> second{DrawBox(draws, 5), DrawBox(draws, 4, BoxMarks::Minus),
-                                        DrawBox(draws, 4, BoxMarks::None)};
-        const auto given = static_cast<std::size_t>(draws.Below(3));
-        for (std::size_t side = 0; side < 3; ++side) {
-            if (side < given || (side > given && draws.Below(3) != 0)) {
-                second[side].clear();
-            }
+        const TwoTriangles triangles = DrawTriangles(draws);
+        const auto& [first, second, given] = triangles;
+        const bool hasSides = std::all_of(first.begin(), first.end(), [](const std::string& side) {
+            return !(Rational::Of(side) <= 0);
+        });
+        if (!hasSides) {
+            EXPECT_EQ(LogOf(Solved(Triangles(first, second))).back().second,
+                      "A triangle must have three sides.");
+        } else if (Rational::Of(second[given]) <= 0) {
+            EXPECT_EQ(LogOf(Solved(Triangles(first, second))).back().second,
+                      "It is impossible for a triangle to have a side less than or equal to 0.");
+        } else {
+            ExpectWorkedSides(topic, triangles, DrawRoundDigits(draws));
         }
-        const int RoundDigits = DrawRoundDigits(draws);
-        const std::vector<std::string> boxes{first[2],  first[1],  first[0],
-                                             second[0], second[2], second[1]};
-        const Rational sides[] = {Rational::Of(first[0]), Rational::Of(first[1]),
-                                  Rational::Of(first[2])};
-        const Rational divisor = Rational::Of(second[given]);
-        if (sides[0] <= 0 || sides[1] <= 0 || sides[2] <= 0) {
-            EXPECT_EQ(topic.LogFor(boxes).back().second, "A triangle must have three sides.");
-            continue;
-        }
-        if (divisor <= 0) {
-            EXPECT_EQ(topic.LogFor(boxes).back().first, kPositive);
-            continue;
-        }
-        Problem problem = Boxed(kSimilarTriangles, boxes, RoundDigits);
-        const std::optional<FailureKind> failure = FailureOf(problem);
-        const Log log = LogOf(problem);
-        const std::string shown =
-            Between(log[3].first, "#" + first[given] + "/" + second[given] + "# = ");
-        ExpectRounded(shown, sides[given] / divisor, RoundDigits);
-        const Rational P = Rational::Of(shown);
-        std::size_t line = 7;
-        for (std::size_t side = 0; side < 3; ++side) {
-            if (!second[side].empty()) {
-                continue;
-            }
-            if (P == 0) {
-                EXPECT_EQ(failure, FailureKind::DivisionByZero);
-                EXPECT_EQ(log.size(), 7U);
-                line = log.size() + 2;
-                break;
-            }
-            ASSERT_GT(log.size(), line);
-            ExpectRounded(Between(log[line].first, letters[side] + "2 = "), sides[side] / P,
-                          RoundDigits);
-            line += 3;
-        }
-        EXPECT_EQ(log.size(), line - 2);
     }
 }
 

@@ -136,6 +136,8 @@ TEST(FindLCM, AZeroMakesItZero) {
     ExpectLCM("0,5", "0");
     ExpectLCM("4,0,6", "0");
     ExpectLCM("0,0", "0");
+    ExpectLCM("0,00", "0");
+    ExpectLCM("00,0", "0");
 }
 
 TEST(FindLCM, AZeroOfOtherSpellingDividesByZero) {
@@ -143,6 +145,8 @@ TEST(FindLCM, AZeroOfOtherSpellingDividesByZero) {
                   HeadingOfLCM("6,00"));
     ExpectFailure(ProblemOf(kLeastCommonMultiples, "00,6"), FailureKind::DivisionByZero,
                   HeadingOfLCM("00,6"));
+    ExpectFailure(ProblemOf(kLeastCommonMultiples, "00,00"), FailureKind::DivisionByZero,
+                  HeadingOfLCM("00,00"));
     // Also where the numbers before it have no multiple in range.
     ExpectFailure(ProblemOf(kLeastCommonMultiples, "99999,99998,00"), FailureKind::DivisionByZero,
                   HeadingOfLCM("99999,99998,00"));

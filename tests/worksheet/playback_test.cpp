@@ -178,6 +178,22 @@ TEST_P(GraphPlaybackTest, AllAtOnceItDoesNotOpen) {
     EXPECT_EQ(ChecksOf(First()).size(), 1U);
 }
 
+TEST_F(PlaybackTest, AGraphWithoutLinesHasNothingToPlay) {
+    for (const bool stepped : {true, false}) {
+        for (const auto& [code, line] : {std::pair(106, "(1,2)-(5,6)"), std::pair(108, "(4,8)")}) {
+            problem.settings.mnuShowStep = stepped;
+            Choose(code);
+            Type(line);
+            EXPECT_EQ(Solve(), std::nullopt);
+            EXPECT_EQ(RowsOf(First()).size(), 1U);
+            EXPECT_TRUE(ChecksOf(First()).empty());
+            EXPECT_FALSE(sheet.ArrowVisible());
+            EXPECT_EQ(ShownStep(), 0);
+            EXPECT_EQ(Note(), problem.topic.InstructionText);
+        }
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(EquationAndPoint, GraphPlaybackTest,
                          testing::Values(GraphCase{105, 3}, GraphCase{107, 1}));
 

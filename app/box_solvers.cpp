@@ -1,0 +1,182 @@
+#include "app/box_solvers.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "core/number.h"
+#include "core/text.h"
+#include "topics/areas.h"
+#include "topics/circles.h"
+#include "topics/conversions.h"
+#include "topics/formulas.h"
+#include "topics/geometry_common.h"
+#include "topics/perimeters.h"
+#include "topics/proportions.h"
+#include "topics/scientific.h"
+#include "topics/triangles.h"
+#include "topics/volumes.h"
+
+namespace numerello {
+
+namespace {
+
+/// The text of Text1 to Text6.
+std::string_view Box(const SolveRun& run, int number) {
+    return run.problem.boxes.Text[static_cast<std::size_t>(number) - 1];
+}
+
+std::string WithoutMarks(const SolveRun& run, int number) {
+    return Replace(Box(run, number), "#", "");
+}
+
+/// The value stands in Text4, the units in the first two lists.
+template <int UnitKind>
+void MetricLadder(SolveRun& run) {
+    const EntryBoxes& boxes = run.problem.boxes;
+    ConvertMetric(run.problem, boxes.Text[3], MetricFactor(boxes.ListIndex[0]),
+                  MetricFactor(boxes.ListIndex[1]), UnitKind);
+}
+
+/// Text1 = Text2 * Text4, or the like. The first empty one is the unknown and gets its word, else
+/// the last.
+template <void (*procedure)(Problem&, std::string_view, std::string_view, std::string_view)>
+void WithMissingBox(SolveRun& run, std::string_view first, std::string_view second,
+                    std::string_view third) {
+    if (Box(run, 1).empty()) {
+        procedure(run.problem, first, Box(run, 2), Box(run, 4));
+    } else if (Box(run, 2).empty()) {
+        procedure(run.problem, Box(run, 1), second, Box(run, 4));
+    } else {
+        procedure(run.problem, Box(run, 1), Box(run, 2), third);
+    }
+}
+
+void Work(SolveRun& run) {
+    WithMissingBox<WorkRateTime>(run, "work", "rate", "time");
+}
+
+void Distance(SolveRun& run) {
+    WithMissingBox<DistanceSpeedTime>(run, "distance", "speed", "time");
+}
+
+void Amount(SolveRun& run) {
+    WithMissingBox<AmountOfBase>(run, "amount", "N", "base");
+}
+
+void Proportion(SolveRun& run) {
+    std::array<std::string_view, 4> parts{Box(run, 1), Box(run, 2), Box(run, 3), Box(run, 4)};
+    auto unknown = std::find(parts.begin(), parts.end(), "");
+    if (unknown == parts.end()) {
+        --unknown;
+    }
+    *unknown = "x";
+    SolveProportion(run.problem, parts[0], parts[1], parts[2], parts[3]);
+}
+
+void ToRegular(SolveRun& run) {
+    ScientificToRegular(run.problem, WithoutMarks(run, 1), WithoutMarks(run, 2));
+}
+
+template <void (*procedure)(Problem&, std::string_view, std::string_view, std::string_view,
+                            std::string_view)>
+void TwoScientific(SolveRun& run) {
+    procedure(run.problem, WithoutMarks(run, 1), WithoutMarks(run, 2), WithoutMarks(run, 3),
+              WithoutMarks(run, 4));
+}
+
+void TrianglePerimeter(SolveRun& run) {
+    PerimeterOf(run.problem, Box(run, 3), Box(run, 2), Box(run, 1), 19);
+}
+
+void RectanglePerimeter(SolveRun& run) {
+    PerimeterOf(run.problem, Box(run, 2), Box(run, 1), "", 13);
+}
+
+template <bool ByRadius>
+void Circumference(SolveRun& run) {
+    CircumferenceOfCircle(run.problem, Box(run, 2), ByRadius);
+}
+
+void Diameter(SolveRun& run) {
+    DiameterFromRadius(run.problem, Box(run, 2));
+}
+
+void Radius(SolveRun& run) {
+    RadiusFromDiameter(run.problem, Box(run, 2));
+}
+
+void RightTriangle(SolveRun& run) {
+    PythagoreanTheorem(run.problem, Box(run, 4), Box(run, 2), Box(run, 1));
+}
+
+void TwoTriangles(SolveRun& run) {
+    run.problem.playback.CurrentPage = 0;
+    SimilarTriangles(run.problem, Box(run, 3), Box(run, 2), Box(run, 1), Box(run, 4), Box(run, 6),
+                     Box(run, 5));
+}
+
+/// Base and height, or height and the two parallel sides.
+template <int code>
+void Area(SolveRun& run) {
+    AreaOf(run.problem, Box(run, 2), Box(run, 1), Box(run, 3), code);
+}
+
+void CircleArea(SolveRun& run) {
+    AreaOf(run.problem, NumberText(kPi), Box(run, 2), "", 7);
+}
+
+/// Length, width and height.
+template <int code>
+void EdgedVolume(SolveRun& run) {
+    VolumeOf(run.problem, Box(run, 2), Box(run, 3), Box(run, 1), code);
+}
+
+/// Radius and height.
+template <int code>
+void RoundVolume(SolveRun& run) {
+    VolumeOf(run.problem, NumberText(kPi), Box(run, 2), Box(run, 1), code);
+}
+
+void SphereVolume(SolveRun& run) {
+    VolumeOf(run.problem, NumberText(kPi), Box(run, 2), "NA", 5);
+}
+
+constexpr auto kRows = std::to_array<SolverRow>({
+    {27, TwoScientific<DivideScientific>},
+    {26, TwoScientific<MultiplyScientific>},
+    {25, ToRegular},
+    {24, MetricLadder<2>},
+    {23, MetricLadder<1>},
+    {22, Distance},
+    {21, Work},
+    {20, Proportion},
+    {19, TrianglePerimeter},
+    {18, Radius},
+    {17, Diameter},
+    {16, Circumference<false>},
+    {15, Circumference<true>},
+    {14, Amount},
+    {13, RectanglePerimeter},
+    {12, RightTriangle},
+    {11, TwoTriangles},
+    {10, Area<10>},
+    {9, Area<9>},
+    {8, Area<8>},
+    {7, CircleArea},
+    {6, Area<6>},
+    {5, SphereVolume},
+    {4, EdgedVolume<4>},
+    {3, RoundVolume<3>},
+    {2, RoundVolume<2>},
+    {1, EdgedVolume<1>},
+});
+
+}  // namespace
+
+std::span<const SolverRow> BoxSolvers() {
+    return kRows;
+}
+
+}  // namespace numerello

@@ -1,0 +1,98 @@
+#include "topics/areas.h"
+
+#include "core/failure.h"
+#include "core/number.h"
+#include "core/text.h"
+#include "topics/geometry_common.h"
+
+namespace numerello {
+
+namespace {
+
+void WriteArea(Problem& problem, double area) {
+    problem.log.Write(Text("Area = ", RoundedResult(problem, Checked(area))),
+                      "Calculate the answer by multiplying.");
+}
+
+void RefuseSides(StepLog& log) {
+    log.Write("All sides must be greater than zero.",
+              "It is impossible to have a side less than or equal to 0.");
+}
+
+/// Takes measures of 0 and less as well: kept as it is.
+void AreaOfRectangle(Problem& problem, std::string_view b, std::string_view h) {
+    StepLog& log = problem.log;
+    log.Write(Text("base = ", b, ", height = ", h), "");
+    log.Write("Area = base * height",
+              "This is the formula for calculating the area of a square/rectangle, and "
+              "parallelogram.");
+    log.Write(Text("Area = ", b, " * ", h),
+              "Substitute the base and height of the shape into the formula.");
+    WriteArea(problem, ToNumber(b) * ToNumber(h));
+}
+
+void AreaOfCircle(Problem& problem, std::string_view pi, std::string_view r) {
+    StepLog& log = problem.log;
+    log.Write(Text("radius = ", r), "");
+    if (!AllPositive({r})) {
+        log.Write("The radius must be greater than zero.",
+                  "It is impossible to have a radius less than or equal to 0.");
+        return;
+    }
+    log.Write(Text("Area = ` * radius^2^   (` equals about ", RoundedResult(problem, ToNumber(pi)),
+                   " or about #22/7#)"),
+              "This is the formula for calculating the area of a circle.");
+    log.Write(Text("Area = ", pi, " * ", r, "^2^"),
+              "Substitute the value of pi and the radius into the formula.");
+    const double radius = ToNumber(r);
+    WriteArea(problem, ToNumber(pi) * (radius * radius));
+}
+
+void AreaOfTriangle(Problem& problem, std::string_view b, std::string_view h) {
+    StepLog& log = problem.log;
+    log.Write(Text("base = ", b, ", height = ", h), "");
+    if (!AllPositive({b, h})) {
+        RefuseSides(log);
+        return;
+    }
+    log.Write("Area = #1/2# * base * height",
+              "This is the formula for calculating the area of a triangle.");
+    log.Write(Text("Area = #1/2# * ", b, " * ", h),
+              "Substitute the base and height of the triangle into the formula.");
+    WriteArea(problem, 0.5 * ToNumber(b) * ToNumber(h));
+}
+
+void AreaOfTrapezoid(Problem& problem, std::string_view h, std::string_view a, std::string_view b) {
+    StepLog& log = problem.log;
+    log.Write(Text("height = ", h, ", a = ", a, ", b = ", b), "");
+    if (!AllPositive({h, a, b})) {
+        RefuseSides(log);
+        return;
+    }
+    log.Write("Area = #1/2# * height * (a + b)",
+              "This is the formula for calculating the area of a trapezoid.");
+    log.Write(Text("Area = #1/2# * ", h, " * (", a, " + ", b, ")"),
+              "Substitute the values of a, b, and height into the formula.");
+    WriteArea(problem, 0.5 * ToNumber(h) * (ToNumber(a) + ToNumber(b)));
+}
+
+}  // namespace
+
+void AreaOf(Problem& problem, std::string_view first, std::string_view second,
+            std::string_view third, int code) {
+    switch (code) {
+        case 6:
+        case 9:
+            return AreaOfRectangle(problem, first, second);
+        case 7:
+            return AreaOfCircle(problem, first, second);
+        case 8:
+            return AreaOfTriangle(problem, first, second);
+        case 10:
+            return AreaOfTrapezoid(problem, first, second, third);
+        default:
+            throw Failure(FailureKind::Format);
+    }
+}
+
+}  // namespace numerello

@@ -182,6 +182,11 @@ std::string SingleText(float value) {
     return FloatText(value, 7);
 }
 
+int DecimalPlaces(std::string_view number) {
+    const std::size_t point = number.find('.');
+    return point == std::string_view::npos ? 0 : static_cast<int>(number.size() - point - 1);
+}
+
 std::string WholeText(std::int64_t value) {
     std::array<char, 24> buffer;
     return {buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr};

@@ -21,6 +21,10 @@ std::string NumberText(double value);
 /// As NumberText, with 7 significant digits.
 std::string SingleText(float value);
 
+/// The digits behind the point of a typed number. Sums and differences of such numbers have no more
+/// than the longest of them: rounded to that, they are rid of the noise of Doubles.
+int DecimalPlaces(std::string_view number);
+
 /// A whole number in decimal digits.
 std::string WholeText(std::int64_t value);
 

@@ -14,11 +14,6 @@ void WriteArea(Problem& problem, double area) {
                       "Calculate the answer by multiplying.");
 }
 
-void RefuseSides(StepLog& log) {
-    log.Write("All sides must be greater than zero.",
-              "It is impossible to have a side less than or equal to 0.");
-}
-
 /// Takes measures of 0 and less as well: kept as it is.
 void AreaOfRectangle(Problem& problem, std::string_view b, std::string_view h) {
     StepLog& log = problem.log;
@@ -35,8 +30,7 @@ void AreaOfCircle(Problem& problem, std::string_view pi, std::string_view r) {
     StepLog& log = problem.log;
     log.Write(Text("radius = ", r), "");
     if (!AllPositive({r})) {
-        log.Write("The radius must be greater than zero.",
-                  "It is impossible to have a radius less than or equal to 0.");
+        RefuseRadius(log);
         return;
     }
     log.Write(Text("Area = ` * radius^2^   (` equals about ", RoundedResult(problem, ToNumber(pi)),

@@ -4,6 +4,7 @@
 
 #include "core/number.h"
 #include "core/text.h"
+#include "topics/asked.h"
 
 namespace numerello {
 
@@ -37,10 +38,6 @@ constexpr FormulaWords kDistance{"distance",
                                  "Divide both sides by speed.",
                                  "Solve for speed.",
                                  "Solve for distance by multiplying."};
-
-std::string_view OrAsked(std::string_view part, std::string_view word) {
-    return part == word ? "?" : part;
-}
 
 struct Quotient {
     std::string_view dividend;

@@ -1,5 +1,6 @@
 #include "topics/fractions.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numeric>
 
@@ -18,9 +19,6 @@ bool IsWhole(double value) {
 
 /// The largest whole number above 1 that divides both; 0 when there is none.
 std::int32_t CommonDivisor(double numerator, double denominator) {
-    if (!IsWhole(numerator) || !IsWhole(denominator)) {
-        return 0;
-    }
     const std::int64_t divisor =
         std::gcd(static_cast<std::int64_t>(numerator), static_cast<std::int64_t>(denominator));
     return divisor > 1 ? ToInteger32(static_cast<double>(divisor)) : 0;
@@ -42,6 +40,9 @@ ReducedFraction GreatestDivisorText(std::string_view FractionText) {
     const double denominator = ToNumber(b);
     if (denominator == 0) {
         return {"", -1};
+    }
+    if (!IsWhole(numerator) || !IsWhole(denominator)) {
+        return {std::string(FractionText), 0};
     }
     ReducedFraction reduced;
     reduced.FractionDivisor = CommonDivisor(numerator, denominator);

@@ -18,4 +18,8 @@ std::string RoundedResult(const Problem& problem, double value);
 /// Whether all measures are above 0.
 bool AllPositive(std::initializer_list<std::string_view> measures);
 
+// Refusals that areas and volumes share.
+void RefuseSides(StepLog& log);
+void RefuseRadius(StepLog& log);
+
 }  // namespace numerello

@@ -36,14 +36,11 @@ std::vector<ListEntry> ReadList(std::string_view ListText) {
 }
 
 int MostDecimals(const std::vector<ListEntry>& entries) {
-    std::size_t most = 0;
+    int most = 0;
     for (const ListEntry& entry : entries) {
-        const std::size_t point = entry.text.find('.');
-        if (point != std::string::npos) {
-            most = std::max(most, entry.text.size() - point - 1);
-        }
+        most = std::max(most, DecimalPlaces(entry.text));
     }
-    return static_cast<int>(most);
+    return most;
 }
 
 bool SmallerValue(const ListEntry& one, const ListEntry& other) {

@@ -24,8 +24,7 @@ std::vector<ListEntry> ReadList(std::string_view ListText);
 
 bool SmallerValue(const ListEntry& one, const ListEntry& other);
 
-/// The most digits that an entry has behind its point. A sum or difference of the entries has no
-/// more, so that rounding to them takes the noise of Doubles away.
+/// The most digits that an entry has behind its point.
 int MostDecimals(const std::vector<ListEntry>& entries);
 
 }  // namespace numerello

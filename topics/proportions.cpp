@@ -4,6 +4,7 @@
 
 #include "core/number.h"
 #include "core/text.h"
+#include "topics/asked.h"
 
 namespace numerello {
 
@@ -22,11 +23,6 @@ bool IsZero(std::string_view part) {
 std::string Proportion(std::string_view A, std::string_view B, std::string_view C,
                        std::string_view D) {
     return Text("#", A, "/", B, "# = #", C, "/", D, "#");
-}
-
-/// A problem line has "?" in the place of the unknown's word.
-std::string_view OrAsked(std::string_view part, std::string_view word) {
-    return part == word ? "?" : part;
 }
 
 void SolveForN(StepLog& log, std::string_view a, std::string_view b) {

@@ -37,18 +37,13 @@ std::string RoundedDigits(const std::string& digits, std::string_view PlaceText)
     return WholeText(kept) + std::string(digits.size() - keptLength, '0');
 }
 
-std::size_t DecimalCount(std::string_view text) {
-    const std::size_t point = text.find('.');
-    return point == std::string_view::npos ? 0 : text.size() - point - 1;
-}
-
 /// Every place is shown, and no 0 before the point.
-std::string WithDecimals(double value, std::size_t digits) {
+std::string WithDecimals(double value, int digits) {
     std::string text = NumberText(value);
     if (text.find('.') == std::string::npos) {
         text += '.';
     }
-    text.append(digits - std::min(digits, DecimalCount(text)), '0');
+    text.append(static_cast<std::size_t>(std::max(digits - DecimalPlaces(text), 0)), '0');
     return text.starts_with("0.") ? text.substr(1) : text;
 }
 
@@ -83,13 +78,12 @@ void RoundDecimal(Problem& problem, std::string_view ValueText, std::string_view
 
     // A further digit takes a 5 off the tie, which Round would give to the even neighbour.
     std::string value(v);
-    const auto places = static_cast<std::size_t>(Digits);
-    if (DecimalCount(v) >= std::max<std::size_t>(places, 1)) {
+    if (DecimalPlaces(v) >= std::max(Digits, 1)) {
         value += '1';
     }
     const double rounded = Round(ToNumber(value), Digits);
-    log.Write(Digits == 0 ? NumberText(rounded) : WithDecimals(rounded, places),
-              std::string(kDecimalNotes[places]));
+    log.Write(Digits == 0 ? NumberText(rounded) : WithDecimals(rounded, Digits),
+              std::string(kDecimalNotes[static_cast<std::size_t>(Digits)]));
 }
 
 void RoundByChoice(Problem& problem, std::string_view ValueText, int ListIndex) {

@@ -1,5 +1,6 @@
 #include "topics/triangles.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <string>
@@ -12,9 +13,21 @@ namespace numerello {
 
 namespace {
 
+/// Squares, their sums and their differences have twice the decimals of the sides; rounding takes
+/// the noise of Doubles away.
 double Square(std::string_view side) {
     const double value = ToNumber(side);
-    return Checked(value * value);
+    return Round(Checked(value * value), 2 * DecimalPlaces(side));
+}
+
+double SumOfSquares(std::string_view one, std::string_view other) {
+    const int places = 2 * std::max(DecimalPlaces(one), DecimalPlaces(other));
+    return Round(Checked(Square(one) + Square(other)), places);
+}
+
+double DifferenceOfSquares(std::string_view longer, std::string_view shorter) {
+    const int places = 2 * std::max(DecimalPlaces(longer), DecimalPlaces(shorter));
+    return Round(Square(longer) - Square(shorter), places);
 }
 
 void SolveLongestSide(Problem& problem, std::string_view a, std::string_view b) {
@@ -28,7 +41,7 @@ void SolveLongestSide(Problem& problem, std::string_view a, std::string_view b) 
     const std::string bSquare = NumberText(Square(b));
     log.Write(Text(aSquare, " + ", bSquare, " = c^2^"),
               Text("Calculate ", a, "^2^ and ", b, "^2^."));
-    const double sum = Checked(Square(a) + Square(b));
+    const double sum = SumOfSquares(a, b);
     log.Write(Text(NumberText(sum), " = c^2^"), Text("Add ", aSquare, " and ", bSquare, "."));
     log.Write(Text(RoundedResult(problem, std::sqrt(sum)), " = c"),
               "Take the square root of both sides.");
@@ -54,7 +67,7 @@ void SolveB(Problem& problem, std::string_view a, std::string_view c) {
     const std::string aSquare = NumberText(Square(a));
     log.Write(Text(aSquare, " + b^2^ = ", NumberText(Square(c))),
               Text("Calculate ", a, "^2^ and ", c, "^2^."));
-    const double difference = Square(c) - Square(a);
+    const double difference = DifferenceOfSquares(c, a);
     log.Write(Text("b^2^ = ", NumberText(difference)),
               Text("Subtract ", aSquare, " from both sides."));
     log.Write(Text("b = ", RoundedResult(problem, std::sqrt(difference))),
@@ -69,7 +82,7 @@ void SolveA(Problem& problem, std::string_view b, std::string_view c) {
     const std::string bSquare = NumberText(Square(b));
     log.Write(Text("a^2^ + ", bSquare, " = ", NumberText(Square(c))),
               Text("Calculate ", b, "^2^ and ", c, "^2^."));
-    const double difference = Square(c) - Square(b);
+    const double difference = DifferenceOfSquares(c, b);
     log.Write(Text("a^2^ = ", NumberText(difference)),
               Text("Subtract ", bSquare, " from both sides."));
     log.Write(Text("a = ", RoundedResult(problem, std::sqrt(difference))),

@@ -16,11 +16,6 @@ void WriteVolume(Problem& problem, double volume) {
                       "Calculate the answer by multiplying.");
 }
 
-void RefuseSides(StepLog& log) {
-    log.Write("All sides must be greater than zero.",
-              "It is impossible to have a side less than or equal to 0.");
-}
-
 void VolumeOfBox(Problem& problem, std::string_view l, std::string_view w, std::string_view h) {
     StepLog& log = problem.log;
     log.Write(Text("length = ", l, ", width = ", w, ", height = ", h), "");
@@ -88,8 +83,7 @@ void VolumeOfSphere(Problem& problem, std::string_view pi, std::string_view r) {
     StepLog& log = problem.log;
     log.Write(Text("radius = ", r), "");
     if (!AllPositive({r})) {
-        log.Write("The radius must be greater than zero.",
-                  "It is impossible to have a radius less than or equal to 0.");
+        RefuseRadius(log);
         return;
     }
     log.Write(Text("Volume = #4/3# * ` * radius^3^   (` equals about ",

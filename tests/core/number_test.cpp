@@ -35,6 +35,14 @@ TEST(ToNumber, ReadsWhatALearnerTypes) {
     EXPECT_EQ(ToNumber("4.9E-324"), std::numeric_limits<double>::denorm_min());
 }
 
+TEST(DecimalPlaces, CountsTheDigitsBehindThePoint) {
+    const std::pair<const char*, int> numbers[] = {{"", 0},   {"12", 0},    {"12.", 0},
+                                                   {".5", 1}, {"-1.50", 2}, {"0.001", 3}};
+    for (const auto& [number, places] : numbers) {
+        EXPECT_EQ(DecimalPlaces(number), places) << number;
+    }
+}
+
 TEST(ToNumber, EmptyTextIsZero) {
     EXPECT_EQ(ToNumber(""), 0);
     EXPECT_EQ(ToNumber("   "), 0);

@@ -38,6 +38,14 @@ TEST(PythagoreanTheorem, TheUnknownC) {
     EXPECT_EQ(LogOf(Solved(Sides("3", "4", ""))), expected);
 }
 
+TEST(PythagoreanTheorem, ShowsNoNoiseOfSubtracting) {
+    // 10.1^2 = 102.01, less 100 is 2.01, whose root is 1.4177...
+    const Log log = LogOf(Solved(Sides("10", "", "10.1")));
+    EXPECT_EQ(log[3].first, "100 + b^2^ = 102.01");
+    EXPECT_EQ(log[4].first, "b^2^ = 2.01");
+    EXPECT_EQ(log[5].first, "b = 1.42");
+}
+
 TEST(PythagoreanTheorem, TheUnknownB) {
     const Log expected{
         {"a = 5, b = ?, c = 13", ""},

@@ -115,7 +115,7 @@ using Sides = std::array<std::string_view, 3>;
 std::string WorkProportion(Problem& problem, std::string_view first, std::string_view second,
                            const SideWords& words) {
     StepLog& log = problem.log;
-    const std::string P = RoundedResult(problem, Divide(ToNumber(first), ToNumber(second)));
+    std::string P = RoundedResult(problem, Divide(ToNumber(first), ToNumber(second)));
     log.Write(std::string(words.proportionLine),
               "Use the side of the triangle given on both triangles to determine the other side's "
               "proportions.");

@@ -10,41 +10,55 @@ namespace numerello {
 
 namespace {
 
-/// product = factor * time, in the words of one topic.
+/// product = factor * time, in the sentences of one topic. {p}, {f} and {t} are the parts, {r} is
+/// the result.
 struct FormulaWords {
     std::string_view product;
     std::string_view factor;
+    std::string_view problemLine;
     std::string_view formula;
     std::string_view formulaNote;
+    std::string_view factorResult;
+    std::string_view factorNote;
     std::string_view divideByFactor;
-    std::string_view solveForFactor;
-    std::string_view solveForProduct;
+    std::string_view productResult;
+    std::string_view productNote;
 };
 
 constexpr std::string_view kTime = "time";
 
-constexpr FormulaWords kWork{"work",
-                             "rate",
-                             "work = rate * time",
-                             "This is the formula for calculating work, rate, and time.",
-                             "Divide both sides by rate.",
-                             "Solve for rate.",
-                             "Solve for work by multiplying."};
+constexpr FormulaWords kWork{
+    .product = "work",
+    .factor = "rate",
+    .problemLine = "work = {p}, rate = {f}, time = {t}",
+    .formula = "work = rate * time",
+    .formulaNote = "This is the formula for calculating work, rate, and time.",
+    .factorResult = "rate = {r}",
+    .factorNote = "Solve for rate.",
+    .divideByFactor = "Divide both sides by rate.",
+    .productResult = "work = {r}",
+    .productNote = "Solve for work by multiplying."};
 
-constexpr FormulaWords kDistance{"distance",
-                                 "speed",
-                                 "distance = speed * time",
-                                 "This is the formula for calculating distance, speed, and time.",
-                                 "Divide both sides by speed.",
-                                 "Solve for speed.",
-                                 "Solve for distance by multiplying."};
+constexpr FormulaWords kDistance{
+    .product = "distance",
+    .factor = "speed",
+    .problemLine = "distance = {p}, speed = {f}, time = {t}",
+    .formula = "distance = speed * time",
+    .formulaNote = "This is the formula for calculating distance, speed, and time.",
+    .factorResult = "speed = {r}",
+    .factorNote = "Solve for speed.",
+    .divideByFactor = "Divide both sides by speed.",
+    .productResult = "distance = {r}",
+    .productNote = "Solve for distance by multiplying."};
 
+/// One division, with what is said of it.
 struct Quotient {
     std::string_view dividend;
     std::string_view divisor;
     std::string_view word;  ///< of the unknown
     std::string_view divideNote;
-    std::string_view solveNote;
+    std::string_view result;
+    std::string_view resultNote;
 };
 
 void SolveByDividing(Problem& problem, const Quotient& quotient) {
@@ -57,27 +71,27 @@ void SolveByDividing(Problem& problem, const Quotient& quotient) {
         return;
     }
     const double value = Divide(ToNumber(quotient.dividend), divisor);
-    log.Write(Text(quotient.word, " = ", NumberText(Round(value, problem.settings.RoundDigits))),
-              std::string(quotient.solveNote));
+    const std::string r = NumberText(Round(value, problem.settings.RoundDigits));
+    log.Write(Replace(quotient.result, "{r}", r), std::string(quotient.resultNote));
 }
 
 void SolveProduct(Problem& problem, const FormulaWords& words, std::string_view product,
                   std::string_view factor, std::string_view time) {
     StepLog& log = problem.log;
-    log.Write(Text(words.product, " = ", OrAsked(product, words.product), ", ", words.factor, " = ",
-                   OrAsked(factor, words.factor), ", time = ", OrAsked(time, kTime)),
-              "");
+    std::string line = Replace(words.problemLine, "{p}", OrAsked(product, words.product));
+    line = Replace(line, "{f}", OrAsked(factor, words.factor));
+    log.Write(Replace(line, "{t}", OrAsked(time, kTime)), "");
     log.Write(std::string(words.formula), std::string(words.formulaNote));
     log.Write(Text(product, " = ", factor, " * ", time), "Substitute the given values.");
     if (factor == words.factor) {
         SolveByDividing(problem, {product, time, words.factor, "Divide both sides by time.",
-                                  words.solveForFactor});
+                                  words.factorResult, words.factorNote});
     } else if (time == kTime) {
-        SolveByDividing(problem, {product, factor, kTime, words.divideByFactor, "Solve for time."});
+        SolveByDividing(problem, {product, factor, kTime, words.divideByFactor, "time = {r}",
+                                  "Solve for time."});
     } else {
-        const double value = Checked(ToNumber(factor) * ToNumber(time));
-        log.Write(Text(words.product, " = ", NumberText(value)),
-                  std::string(words.solveForProduct));
+        const std::string r = NumberText(Checked(ToNumber(factor) * ToNumber(time)));
+        log.Write(Replace(words.productResult, "{r}", r), std::string(words.productNote));
     }
 }
 

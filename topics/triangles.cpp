@@ -89,24 +89,25 @@ void SolveA(Problem& problem, std::string_view b, std::string_view c) {
               "Take the square root of both sides.");
 }
 
-/// The words for one pair of sides.
+/// The sentences for one pair of sides: {s} is the side of the first triangle, {P} the proportion
+/// and {r} the result.
 struct SideWords {
-    std::string_view proportionLine;
-    std::string_view ratio;  ///< "#a1/a2# = "
-    std::string_view toCalculate;
-    std::string_view overSide;  ///< behind the first side's length
+    std::string_view proportion;
+    std::string_view use;
+    std::string_view useNote;
     std::string_view substitute;
+    std::string_view substituteNote;
     std::string_view result;
-    std::string_view solve;
+    std::string_view resultNote;
 };
 
 constexpr std::array<SideWords, 3> kSides{{
-    {"#a1/a2# = proportion", "#a1/a2# = ", " to calculate a2.",
-     "/a2# = ", "Substitute the value of a1 (", "a2 = ", "Solve for a2."},
-    {"#b1/b2# = proportion", "#b1/b2# = ", " to calculate b2.",
-     "/b2# = ", "Substitute the value of b1 (", "b2 = ", "Solve for b2."},
-    {"#c1/c2# = proportion", "#c1/c2# = ", " to calculate c2.",
-     "/c2# = ", "Substitute the value of c1 (", "c2 = ", "Solve for c2."},
+    {"#a1/a2# = proportion", "#a1/a2# = {P}", "Use {P} to calculate a2.", "#{s}/a2# = {P}",
+     "Substitute the value of a1 ({s}) into the equation.", "a2 = {r}", "Solve for a2."},
+    {"#b1/b2# = proportion", "#b1/b2# = {P}", "Use {P} to calculate b2.", "#{s}/b2# = {P}",
+     "Substitute the value of b1 ({s}) into the equation.", "b2 = {r}", "Solve for b2."},
+    {"#c1/c2# = proportion", "#c1/c2# = {P}", "Use {P} to calculate c2.", "#{s}/c2# = {P}",
+     "Substitute the value of c1 ({s}) into the equation.", "c2 = {r}", "Solve for c2."},
 }};
 
 using Sides = std::array<std::string_view, 3>;
@@ -116,7 +117,7 @@ std::string WorkProportion(Problem& problem, std::string_view first, std::string
                            const SideWords& words) {
     StepLog& log = problem.log;
     std::string P = RoundedResult(problem, Divide(ToNumber(first), ToNumber(second)));
-    log.Write(std::string(words.proportionLine),
+    log.Write(std::string(words.proportion),
               "Use the side of the triangle given on both triangles to determine the other side's "
               "proportions.");
     log.Write(Text("#", first, "/", second, "# = ", P),
@@ -129,11 +130,13 @@ std::string WorkProportion(Problem& problem, std::string_view first, std::string
 void WorkSide(Problem& problem, std::string_view first, const std::string& P,
               const SideWords& words) {
     StepLog& log = problem.log;
-    log.Write(Text(words.ratio, P), Text("Use ", P, words.toCalculate));
-    log.Write(Text("#", first, words.overSide, P),
-              Text(words.substitute, first, ") into the equation."));
-    log.Write(Text(words.result, RoundedResult(problem, Divide(ToNumber(first), ToNumber(P)))),
-              std::string(words.solve));
+    const auto filled = [first, &P](std::string_view sentence) {
+        return Replace(Replace(sentence, "{P}", P), "{s}", first);
+    };
+    log.Write(filled(words.use), filled(words.useNote));
+    log.Write(filled(words.substitute), filled(words.substituteNote));
+    const std::string r = RoundedResult(problem, Divide(ToNumber(first), ToNumber(P)));
+    log.Write(Replace(words.result, "{r}", r), std::string(words.resultNote));
 }
 
 }  // namespace

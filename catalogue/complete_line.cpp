@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "catalogue/topic_codes.h"
-#include "catalogue/typing_point.h"
+#include "notation/typing_point.h"
 
 namespace numerello {
 

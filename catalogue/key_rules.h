@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "catalogue/typing_point.h"
+#include "notation/typing_point.h"
 
 /// The grammar of the typed line, one rule for each class of key.
 namespace numerello {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "catalogue/typing_point.h"
+#include "notation/typing_point.h"
 
 /// The grammar of the topics whose line is not an expression: two numbers to compare, and points.
 namespace numerello {

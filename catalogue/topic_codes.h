@@ -9,7 +9,6 @@ inline constexpr int kRegularToScientific = 65;
 inline constexpr int kFractionToPercent = 72;
 inline constexpr int kMixedToFraction = 74;
 inline constexpr int kFractionToMixed = 75;
-inline constexpr int kFractionArithmetic = 76;
 inline constexpr int kRatios = 78;
 inline constexpr int kSimplifyingFractions = 80;
 inline constexpr int kGreatestCommonFactors = 87;

@@ -21,18 +21,19 @@ check() {
 }
 
 check core ""
-check catalogue "core"
+check notation "core"
+check catalogue "core notation"
 check topics "core"
-check engine "core"
+check engine "core notation"
 check typeset "core"
-check columns "core typeset engine topics catalogue"
-check worksheet "core typeset engine topics catalogue"
-check output "core typeset engine topics catalogue"
-check graph "core typeset engine topics catalogue"
-check app "core catalogue topics engine typeset columns worksheet output graph"
-check cli "core catalogue topics engine typeset columns worksheet output graph app"
+check columns "core notation typeset engine topics catalogue"
+check worksheet "core notation typeset engine topics catalogue"
+check output "core notation typeset engine topics catalogue"
+check graph "core notation typeset engine topics catalogue"
+check app "core notation catalogue topics engine typeset columns worksheet output graph"
+check cli "core notation catalogue topics engine typeset columns worksheet output graph app"
 
-if grep -rnE '^#include <Q' core catalogue topics engine typeset columns worksheet output graph \
+if grep -rnE '^#include <Q' core notation catalogue topics engine typeset columns worksheet output graph \
     app cli --include=*.h --include=*.cpp 2>/dev/null; then
     echo "the files above include Qt below ui/"
     status=1

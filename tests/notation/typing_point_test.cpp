@@ -1,4 +1,4 @@
-#include "catalogue/typing_point.h"
+#include "notation/typing_point.h"
 
 #include <gtest/gtest.h>
 

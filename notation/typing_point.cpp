@@ -1,6 +1,5 @@
-#include "catalogue/typing_point.h"
+#include "notation/typing_point.h"
 
-#include "catalogue/topic_codes.h"
 #include "core/text.h"
 
 namespace numerello {

@@ -1,0 +1,116 @@
+#include "notation/line_setter.h"
+
+#include <algorithm>
+
+namespace numerello {
+
+namespace {
+
+void RemoveFractionMarks(std::string& marks) {
+    marks.erase(std::remove(marks.begin(), marks.end(), '#'), marks.end());
+}
+
+}  // namespace
+
+void LineSetter::Add(const std::string& token) {
+    TypingPoint next = point;
+    next.Pass(token.front(), code);
+    CloseBefore(next);
+    if (next.last == Role::FractionBar) {
+        OpenFraction(NumeratorStart());
+    }
+    if (next.last == Role::RootStart && !line.empty() && line.back().text == "1") {
+        line.pop_back();
+    }
+    line.push_back({"", next.last == Role::DivisionSign ? "{" : token, ""});
+
+    const bool behindFractionBar = point.last == Role::FractionBar;
+    for (const char character : token) {
+        point.Pass(character, code);
+    }
+    if (token.size() > 1 && token.find('/') != std::string::npos) {
+        OpenFraction(line.size() - 1);
+    }
+    NoteStarts(behindFractionBar);
+}
+
+void LineSetter::CloseAll() {
+    if (point.InExponent) {
+        CloseExponent();
+    }
+    if (point.InFraction) {
+        line.back().after += "#";
+    }
+    if (point.RootOpen) {
+        line.back().after += "~";
+    }
+}
+
+void LineSetter::CloseBefore(const TypingPoint& next) {
+    if (point.InExponent && !next.InExponent) {
+        CloseExponent();
+    }
+    if (point.InFraction && !next.InFraction) {
+        line.back().after += "#";
+    }
+    if (point.RootOpen && !next.RootOpen) {
+        line.back().after += "~";
+    }
+}
+
+void LineSetter::CloseExponent() {
+    line.back().after += point.last == Role::Caret ? "?^" : "^";
+}
+
+/// Fractions within the numerator are written with a plain "/".
+void LineSetter::OpenFraction(std::size_t numerator) {
+    for (std::size_t i = numerator; i < line.size(); ++i) {
+        RemoveFractionMarks(line[i].before);
+        RemoveFractionMarks(line[i].after);
+    }
+    line[numerator].before = "#";
+}
+
+std::size_t LineSetter::NumeratorStart() const {
+    if (point.last == Role::CloseParen) {
+        return lastParen;
+    }
+    if (point.last == Role::BarEnd) {
+        return lastBar;
+    }
+    return termStarts.back();
+}
+
+/// Remembers where a numerator would begin that ends behind the token just added.
+void LineSetter::NoteStarts(bool behindFractionBar) {
+    const std::size_t here = line.size() - 1;
+    switch (point.last) {
+        case Role::OpenParen:
+            openParens.push_back(here);
+            termStarts.push_back(here + 1);
+            break;
+        case Role::CloseParen:
+            lastParen = openParens.back();
+            openParens.pop_back();
+            termStarts.pop_back();
+            break;
+        case Role::BarStart:
+            lastBar = here;
+            termStarts.back() = here + 1;
+            break;
+        case Role::Sign:
+            if (!behindFractionBar) {
+                termStarts.back() = here + 1;
+            }
+            break;
+        case Role::Operator:
+        case Role::DivisionSign:
+        case Role::EqualSign:
+            termStarts.back() = here + 1;
+            break;
+        default:
+            break;
+    }
+}
+
+}  // namespace numerello

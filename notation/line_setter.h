@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "notation/typing_point.h"
+
+/// Setting a line of tokens out as mathematics.
+namespace numerello {
+
+/// A token with the marks beside it.
+struct MarkedToken {
+    std::string before;
+    std::string text;
+    std::string after;
+};
+
+/// Goes through the tokens of a line and opens and closes fractions, exponents and roots.
+class LineSetter {
+  public:
+    explicit LineSetter(int ProblemType) : code(ProblemType) {}
+
+    void Add(const std::string& token);
+    void CloseAll();
+    const std::vector<MarkedToken>& Line() const { return line; }
+
+  private:
+    void CloseBefore(const TypingPoint& next);
+    void CloseExponent();
+    void OpenFraction(std::size_t numerator);
+    std::size_t NumeratorStart() const;
+    void NoteStarts(bool behindFractionBar);
+
+    int code;
+    TypingPoint point;
+    std::vector<MarkedToken> line;
+    std::vector<std::size_t> termStarts{0};  ///< by bracket level
+    std::vector<std::size_t> openParens;
+    std::size_t lastParen = 0;  ///< the "(" of the parentheses closed last
+    std::size_t lastBar = 0;    ///< the opening bar last passed
+};
+
+}  // namespace numerello

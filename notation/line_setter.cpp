@@ -1,6 +1,7 @@
 #include "notation/line_setter.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace numerello {
 
@@ -13,6 +14,17 @@ void RemoveFractionMarks(std::string& marks) {
 }  // namespace
 
 void LineSetter::Add(const std::string& token) {
+    if (token == "[") {
+        emphasisStart = line.size();
+        emphasisDue = true;
+    } else if (token == "]") {
+        CloseEmphasis();
+    } else {
+        AddText(token);
+    }
+}
+
+void LineSetter::AddText(const std::string& token) {
     TypingPoint next = point;
     next.Pass(token.front(), code);
     CloseBefore(next);
@@ -22,7 +34,9 @@ void LineSetter::Add(const std::string& token) {
     if (next.last == Role::RootStart && !line.empty() && line.back().text == "1") {
         line.pop_back();
     }
-    line.push_back({"", next.last == Role::DivisionSign ? "{" : token, ""});
+    const bool opensEmphasis = std::exchange(emphasisDue, false);
+    emphasisOpen = emphasisOpen || opensEmphasis;
+    line.push_back({opensEmphasis ? "[" : "", next.last == Role::DivisionSign ? "{" : token, ""});
 
     const bool behindFractionBar = point.last == Role::FractionBar;
     for (const char character : token) {
@@ -62,13 +76,37 @@ void LineSetter::CloseExponent() {
     line.back().after += point.last == Role::Caret ? "?^" : "^";
 }
 
+/// What began within the emphasis ends within it.
+void LineSetter::CloseEmphasis() {
+    if (line.empty() || !std::exchange(emphasisOpen, false)) {
+        return;
+    }
+    if (point.InExponent) {
+        CloseExponent();
+        point.InExponent = false;
+    }
+    if (point.RootOpen) {
+        line.back().after += "~";
+        point.RootOpen = false;
+    }
+    if (point.InFraction && fractionStart >= emphasisStart) {
+        line.back().after += "#";
+        point.InFraction = false;
+    }
+    line.back().after += "]";
+}
+
 /// Fractions within the numerator are written with a plain "/".
 void LineSetter::OpenFraction(std::size_t numerator) {
     for (std::size_t i = numerator; i < line.size(); ++i) {
         RemoveFractionMarks(line[i].before);
         RemoveFractionMarks(line[i].after);
     }
-    line[numerator].before = "#";
+    // Emphasis that is still open goes around the fraction.
+    std::string& before = line[numerator].before;
+    const bool within = emphasisOpen && numerator == emphasisStart;
+    before = within ? before + "#" : "#" + before;
+    fractionStart = numerator;
 }
 
 std::size_t LineSetter::NumeratorStart() const {

@@ -16,7 +16,8 @@ struct MarkedToken {
     std::string after;
 };
 
-/// Goes through the tokens of a line and opens and closes fractions, exponents and roots.
+/// Goes through the tokens of a line and opens and closes fractions, exponents and roots. "[" and
+/// "]" go around what is emphasised and are no tokens.
 class LineSetter {
   public:
     explicit LineSetter(int ProblemType) : code(ProblemType) {}
@@ -26,6 +27,8 @@ class LineSetter {
     const std::vector<MarkedToken>& Line() const { return line; }
 
   private:
+    void AddText(const std::string& token);
+    void CloseEmphasis();
     void CloseBefore(const TypingPoint& next);
     void CloseExponent();
     void OpenFraction(std::size_t numerator);
@@ -39,6 +42,10 @@ class LineSetter {
     std::vector<std::size_t> openParens;
     std::size_t lastParen = 0;  ///< the "(" of the parentheses closed last
     std::size_t lastBar = 0;    ///< the opening bar last passed
+    std::size_t fractionStart = 0;
+    std::size_t emphasisStart = 0;
+    bool emphasisDue = false;  ///< a "[" waits for its token
+    bool emphasisOpen = false;
 };
 
 }  // namespace numerello

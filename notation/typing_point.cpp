@@ -4,6 +4,13 @@
 
 namespace numerello {
 
+namespace {
+
+/// Within a number, as in 1.5E+10; letters of a line are lower case.
+constexpr char kPowerOfTen = 'E';
+
+}  // namespace
+
 bool IsOperandEnd(Role role) {
     switch (role) {
         case Role::Digit:
@@ -31,8 +38,10 @@ void TypingPoint::Pass(char character, int ProblemType) {
     const std::string_view text(&character, 1);
     if (IsDigit(text) || character == '.') {
         PassNumber(character);
+    } else if (character == kPowerOfTen || key == kPowerOfTen) {
+        last = Role::Digit;
     } else if (IsLetter(text)) {
-        last = Role::Letter;
+        PassLetter();
     } else {
         switch (character) {
             case '+':
@@ -62,7 +71,7 @@ void TypingPoint::Pass(char character, int ProblemType) {
             case '=':
                 last = Role::EqualSign;
                 EqualsTyped = true;
-                InExponent = false;
+                InExponent = RootOpen = false;
                 LeaveFraction();
                 break;
             case ',':
@@ -96,6 +105,12 @@ void TypingPoint::PassNumber(char character) {
         last = Role::Digit;
         ++(number.hasPoint ? number.decimals : number.whole);
     }
+}
+
+void TypingPoint::PassLetter() {
+    // No learner types one behind an exponent, but a worked line may go on with it.
+    InExponent = InExponent && last != Role::ExponentDigit;
+    last = Role::Letter;
 }
 
 void TypingPoint::PassMinusOrOperator(char character) {
@@ -140,17 +155,17 @@ void TypingPoint::PassBar() {
 
 void TypingPoint::PassOpenParen() {
     // Only a parenthesis straight behind the bar belongs to the denominator: 1/2(x+4).
-    if (last == Role::Digit) {
+    if (IsOperandEnd(last)) {
         LeaveFraction();
     }
     last = Role::OpenParen;
-    InExponent = false;
+    InExponent = RootOpen = false;
     ++ParenDepth;
 }
 
 void TypingPoint::PassCloseParen() {
     last = Role::CloseParen;
-    InExponent = false;
+    InExponent = RootOpen = false;
     --ParenDepth;
     if (ParenDepth < FractionDepth) {
         InFraction = false;

@@ -53,6 +53,7 @@ struct TypingPoint : LineFlags {
     void Pass(char character, int ProblemType);
 
   private:
+    void PassLetter();
     void PassMinusOrOperator(char character);
     void PassSlash(int ProblemType);
     void PassRoot();

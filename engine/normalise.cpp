@@ -18,10 +18,6 @@ std::size_t BeforeLastParens(const Tokens& tokens, std::size_t close) {
     return 0;
 }
 
-bool IsExponentSign(const Tokens& tokens, std::size_t at) {
-    return at > 0 && tokens[at - 1] == "^";
-}
-
 class Normaliser {
   public:
     explicit Normaliser(const Tokens& tokens) : in(tokens) {}

@@ -120,6 +120,10 @@ bool IsSign(std::string_view token) {
     return IsOneOf(token, "+-");
 }
 
+bool IsExponentSign(const Tokens& tokens, std::size_t at) {
+    return at > 0 && tokens[at - 1] == "^";
+}
+
 bool IsFraction(std::string_view token) {
     for (std::size_t slash = token.find('/'); slash != std::string_view::npos;
          slash = token.find('/', slash + 1)) {

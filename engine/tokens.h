@@ -15,6 +15,9 @@ using Tokens = std::vector<std::string>;
 bool IsOperator(std::string_view token);
 bool IsSign(std::string_view token);
 
+/// Whether the token stands right behind a "^": a sign there belongs to the exponent.
+bool IsExponentSign(const Tokens& tokens, std::size_t at);
+
 /// Whether a "/" stands right behind a digit of the token; a lone operator is none.
 bool IsFraction(std::string_view token);
 

@@ -1,0 +1,267 @@
+#include "engine/term_tables.h"
+
+#include <algorithm>
+
+#include "core/bounds.h"
+#include "core/failure.h"
+#include "core/number.h"
+#include "core/text.h"
+
+namespace numerello {
+
+namespace {
+
+/// A "+", "-" or "*" that begins a term.
+bool BeginsTerm(const Tokens& tokens, std::size_t at) {
+    return (IsSign(tokens[at]) && !IsExponentSign(tokens, at)) || tokens[at] == "*";
+}
+
+/// Reads the tokens of a term; emphasis is passed over.
+class TermReader {
+  public:
+    TermReader(const Tokens& tokens, std::size_t begin, std::size_t end)
+        : tokens(tokens), at(begin), end(end) {
+        term.begin = begin;
+        term.end = end;
+    }
+
+    Term Read() {
+        if (at < end && BeginsTerm(tokens, at)) {
+            term.OpMark = tokens[at];
+            sign = tokens[at] == "-" ? -1.0F : 1.0F;
+            ++at;
+        }
+        for (; at < end; ++at) {
+            TakeToken(tokens[at]);
+        }
+        term.Num *= sign;
+        return term;
+    }
+
+  private:
+    void TakeToken(const std::string& token) {
+        if (token == "/") {
+            under = true;
+            term.DivideMark = true;
+        } else if (token == "^") {
+            TakeExponent();
+        } else if (IsLetter(token)) {
+            Text() += token;
+            if (!under && ++lettersOver == 1) {
+                term.Degree = 1;
+            }
+            behindNumber = false;
+        } else if (IsNumberToken(token)) {
+            TakeNumber(token);
+            behindNumber = true;
+        }
+    }
+
+    void TakeNumber(const std::string& token) {
+        if (const std::size_t root = token.find('~'); root != std::string::npos) {
+            Multiply(term.Num, root == 0 ? "1" : token.substr(0, root));
+            term.NumText += token.substr(root);
+            return;
+        }
+        const std::size_t slash = token.find('/');
+        if (slash != std::string::npos || token.find('.') != std::string::npos) {
+            term.FractionText = token;
+        }
+        Multiply(under ? term.Den : term.Num, token.substr(0, slash));
+        if (slash != std::string::npos) {
+            Multiply(under ? term.Num : term.Den, token.substr(slash + 1));
+        }
+    }
+
+    static void Multiply(float& number, const std::string& factor) {
+        number = ToSingle(static_cast<double>(number) * ToNumber(factor));
+    }
+
+    /// The exponent's number, with its sign, goes to the number or the letter before it.
+    void TakeExponent() {
+        std::string exponent;
+        if (at + 1 < end && tokens[at + 1] == "-") {
+            exponent = "-";
+            ++at;
+        }
+        if (at + 1 < end && IsNumberToken(tokens[at + 1])) {
+            exponent += tokens[++at];
+        }
+        const float value = ToSingle(ToNumber(exponent));
+        Text() += "^" + exponent;
+        if (behindNumber) {
+            (under ? term.DenPower : term.NumPower) = value;
+        } else if (!under && lettersOver == 1) {
+            term.Degree = value;
+        }
+    }
+
+    std::string& Text() { return under ? term.DenText : term.NumText; }
+
+    const Tokens& tokens;
+    std::size_t at;
+    std::size_t end;
+    Term term;
+    float sign = 1;
+    bool under = false;         ///< under the line
+    bool behindNumber = false;  ///< the last factor is a number
+    int lettersOver = 0;
+};
+
+/// Walks a side and finds its groups at the deepest level.
+class TableReader {
+  public:
+    TableReader(const Tokens& tokens, SideRange side) : tokens(tokens), side(side) {}
+
+    TermTables Read() {
+        tables.Depth = DeepestLevel();
+        if (tables.Depth == 0) {
+            Group whole;
+            whole.begin = side.begin;
+            whole.end = whole.tail = side.end;
+            tables.groups.push_back(whole);
+        } else {
+            FindGroups();
+        }
+        for (Group& group : tables.groups) {
+            ReadTerms(group);
+        }
+        return std::move(tables);
+    }
+
+  private:
+    /// Calls `visit` with each opening and closing token: its index, the level inside the pair, and
+    /// whether it opens.
+    template <class Visit>
+    void ForBrackets(Visit visit) const {
+        int level = 0;
+        bool barOpen = false;
+        for (std::size_t at = side.begin; at < side.end; ++at) {
+            const bool bar = tokens[at] == "|";
+            if (tokens[at] == "(" || (bar && !barOpen)) {
+                visit(at, ++level, true);
+            } else if (tokens[at] == ")" || bar) {
+                visit(at, level--, false);
+            }
+            barOpen = bar ? !barOpen : barOpen;
+        }
+    }
+
+    int DeepestLevel() const {
+        int deepest = 0;
+        ForBrackets([&deepest](std::size_t, int level, bool) {
+            deepest = std::max(deepest, level);
+            CheckIndex(level, TermTables::kTopLevel);
+        });
+        return deepest;
+    }
+
+    void FindGroups() {
+        ForBrackets([this](std::size_t at, int level, bool opens) {
+            if (level != tables.Depth) {
+                return;
+            }
+            if (opens) {
+                CheckIndex(static_cast<int>(tables.groups.size()),
+                           static_cast<int>(TermTables::kTopGroup));
+                Open(at);
+            } else {
+                Close(at);
+            }
+        });
+    }
+
+    void Open(std::size_t at) {
+        Group group;
+        group.begin = at + 1;
+        group.IsAbsolute = tokens[at] == "|";
+        const std::size_t start = FrontStart(at);
+        if (start + 1 < at) {
+            group.front = TermReader(tokens, start, at).Read();
+        } else if (start + 1 == at && tokens[start] == "-") {
+            // A bare minus is a factor of -1.
+            group.front = TermReader(tokens, start, at).Read();
+        }
+        tables.groups.push_back(std::move(group));
+    }
+
+    void Close(std::size_t at) {
+        Group& group = tables.groups.back();
+        group.end = at;
+        group.tail = at + 1;
+        if (group.tail < side.end && tokens[group.tail] == "^") {
+            ReadPower(group);
+        }
+        if (group.tail == at + 1 && group.tail < side.end && tokens[group.tail] == "(") {
+            group.NextGroup = static_cast<int>(tables.groups.size());
+        }
+    }
+
+    void ReadPower(Group& group) {
+        ++group.tail;
+        std::string power;
+        if (tokens[group.tail] == "-") {
+            power = "-";
+            ++group.tail;
+        }
+        power += tokens[group.tail++];
+        group.Power = ToSingle(ToNumber(power));
+    }
+
+    /// Back from the bracket over the factor before it, to the sign or "*" that begins it.
+    std::size_t FrontStart(std::size_t open) const {
+        constexpr std::string_view kStops = "()|=";
+        std::size_t at = open;
+        while (at > side.begin) {
+            const std::string& before = tokens[at - 1];
+            const bool divides = before == "/" && at == open;
+            if (divides || kStops.find(before) != std::string_view::npos) {
+                return at;
+            }
+            --at;
+            if (BeginsTerm(tokens, at)) {
+                return at;
+            }
+        }
+        return at;
+    }
+
+    void ReadTerms(Group& group) {
+        std::size_t at = group.begin;
+        while (at < group.end) {
+            const std::size_t start = at++;
+            while (at < group.end && !BeginsTerm(tokens, at)) {
+                ++at;
+            }
+            CheckIndex(static_cast<int>(group.terms.size()),
+                       static_cast<int>(TermTables::kTopTerm) - 1);
+            group.terms.push_back(TermReader(tokens, start, at).Read());
+            group.ProductMark = group.ProductMark || tokens[start] == "*";
+        }
+    }
+
+    const Tokens& tokens;
+    SideRange side;
+    TermTables tables;
+};
+
+}  // namespace
+
+float Term::Value() const {
+    return ToSingle(Divide(static_cast<double>(Num), static_cast<double>(Den)));
+}
+
+SideRange RangeOfSide(const Tokens& tokens, int Side) {
+    const auto equals = std::find(tokens.begin(), tokens.end(), "=");
+    const auto at = static_cast<std::size_t>(equals - tokens.begin());
+    if (Side == 0) {
+        return {0, at};
+    }
+    return {std::min(at + 1, tokens.size()), tokens.size()};
+}
+
+TermTables BreakIntoTerms(const Tokens& tokens, int Side) {
+    return TableReader(tokens, RangeOfSide(tokens, Side)).Read();
+}
+
+}  // namespace numerello

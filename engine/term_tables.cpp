@@ -176,10 +176,8 @@ class TableReader {
         group.begin = at + 1;
         group.IsAbsolute = tokens[at] == "|";
         const std::size_t start = FrontStart(at);
-        if (start + 1 < at) {
-            group.front = TermReader(tokens, start, at).Read();
-        } else if (start + 1 == at && tokens[start] == "-") {
-            // A bare minus is a factor of -1.
+        // A bare minus is a factor of -1.
+        if (start + 1 < at || (start < at && tokens[start] == "-")) {
             group.front = TermReader(tokens, start, at).Read();
         }
         tables.groups.push_back(std::move(group));

@@ -1,0 +1,91 @@
+#include <algorithm>
+
+#include "core/text.h"
+#include "engine/display.h"
+#include "engine/engine.h"
+#include "engine/normalise.h"
+
+namespace numerello {
+
+namespace {
+
+constexpr int kEvaluatingPolynomials = 103;
+
+std::string WithoutEmphasis(const std::string& line) {
+    return Replace(Replace(line, "[", ""), "]", "");
+}
+
+auto Parens(const std::string& line) {
+    return std::count(line.begin(), line.end(), '(');
+}
+
+/// " 1x" becomes " x", and so on.
+std::string WithoutUnit(const std::string& reason, std::string_view before,
+                        std::string_view letter) {
+    const std::string shown = Replace(reason, Text(before, "1", letter), Text(before, letter));
+    return Replace(shown, Text(before, "-1", letter), Text(before, "-", letter));
+}
+
+std::size_t TermCount(const TermTables& tables) {
+    return tables.groups.empty() ? 0 : tables.groups.front().terms.size();
+}
+
+}  // namespace
+
+void Engine::Open() {
+    tokens = CellsToTokens(problem.typed);
+}
+
+void Engine::RecordStep(Record record) {
+    const int code = problem.topic.ProblemType;
+    tokens = NormaliseTokens(MergeNumberTokens(tokens, code));
+    tables = BreakIntoTerms(tokens, Side);
+    const std::string line = DisplayText(tokens, code);
+    CleanReason();
+
+    StepLog& log = problem.log;
+    const bool sameTerms = TermCount(tables) == lastTermCount && !TermsChanged;
+    if ((record == Record::OnlyIfChanged && sameTerms) || line == log.LastStepLine) {
+        log.StepUnchanged = true;
+    } else if (record != Record::Refresh && IsStored(line)) {
+        log.StepLevels[log.StepCount] = log.StepLevel;
+        log.LastStepLine = line;
+        log.StepUnchanged = false;
+        log.Write(line, log.StepReason);
+    }
+    lastTermCount = TermCount(tables);
+}
+
+/// Letters of the reason lose a coefficient of 1.
+void Engine::CleanReason() {
+    std::string& reason = problem.log.StepReason;
+    const TypedProblem& typed = problem.typed;
+    const std::string& first = typed.VarNames[1];
+    for (int slot = 1; slot <= 2 && slot < typed.VarCount; ++slot) {
+        const std::string& letter = typed.VarNames[slot];
+        if (reason.find(letter) == std::string::npos) {
+            continue;
+        }
+        reason = WithoutUnit(reason, " ", letter);
+        reason = WithoutUnit(reason, "(", letter);
+        // Behind "#" the second letter keeps its 1: kept as it is.
+        reason = WithoutUnit(reason, "#", first);
+    }
+}
+
+bool Engine::IsStored(const std::string& line) const {
+    const StepLog& log = problem.log;
+    if (problem.topic.ProblemType == kEvaluatingPolynomials &&
+        WithoutEmphasis(log.LastStepLine) == line) {
+        return false;
+    }
+    if (log.StepCount == 1) {
+        return true;
+    }
+    if (log.StepReason == "Reorder the polynomial.") {
+        return false;
+    }
+    return log.StepReason != "Remove the parenthesis." || Parens(line) < Parens(log.LastStepLine);
+}
+
+}  // namespace numerello

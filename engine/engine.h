@@ -35,6 +35,10 @@ class Engine {
     /// one. StepUnchanged then tells whether it did not.
     void RecordStep(Record record = Record::Line);
 
+    /// Works the first written product of a group into one term and records the line. False when
+    /// the group holds none.
+    bool MultiplyPair(std::size_t group);
+
     const TermTables& Tables() const { return tables; }
     const Tokens& Line() const { return tokens; }
 
@@ -42,6 +46,7 @@ class Engine {
     bool TermsChanged = false;  ///< terms were merged since the last record
 
   private:
+    std::string FactorText(const Term& factor) const;
     void CleanReason();
     bool IsStored(const std::string& line) const;
 

@@ -59,7 +59,7 @@ class TermReader {
 
     void TakeNumber(const std::string& token) {
         if (const std::size_t root = token.find('~'); root != std::string::npos) {
-            Multiply(term.Num, root == 0 ? "1" : token.substr(0, root));
+            MultiplyNumber(true, root == 0 ? "1" : token.substr(0, root));
             term.NumText += token.substr(root);
             return;
         }
@@ -67,14 +67,18 @@ class TermReader {
         if (slash != std::string::npos || token.find('.') != std::string::npos) {
             term.FractionText = token;
         }
-        Multiply(under ? term.Den : term.Num, token.substr(0, slash));
+        MultiplyNumber(!under, token.substr(0, slash));
         if (slash != std::string::npos) {
-            Multiply(under ? term.Num : term.Den, token.substr(slash + 1));
+            MultiplyNumber(under, token.substr(slash + 1));
         }
     }
 
-    static void Multiply(float& number, const std::string& factor) {
-        number = ToSingle(static_cast<double>(number) * ToNumber(factor));
+    void MultiplyNumber(bool over, const std::string& factor) {
+        const double value = ToNumber(factor);
+        double& exact = over ? term.numOver : term.numUnder;
+        exact = Checked(exact * value);
+        float& single = over ? term.Num : term.Den;
+        single = ToSingle(static_cast<double>(single) * value);
     }
 
     /// The exponent's number, with its sign, goes to the number or the letter before it.

@@ -19,6 +19,8 @@ struct Term {
     float Den = 1;
     float NumPower = 1;        ///< exponent on the number over the line
     float DenPower = 1;        ///< exponent on the number under it
+    double numOver = 1;        ///< the number over the line as written, which a Single may not hold
+    double numUnder = 1;       ///< the number under it
     float Degree = 0;          ///< exponent of the first letter over the line
     bool DivideMark = false;   ///< a lone "/" stands in it
     std::string NumText;       ///< letters and exponents over the line: "x^2y", "^2", "~5"

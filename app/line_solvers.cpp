@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/failure.h"
 #include "core/text.h"
 #include "topics/angles.h"
 #include "topics/common_factors.h"
@@ -31,7 +32,7 @@ void OnLine(SolveRun& run) {
 }
 
 /// One that also serves as a stage of others, and here stands alone.
-template <std::string (*procedure)(Problem&, std::string_view, bool)>
+template <auto procedure>
 void OnLineAlone(SolveRun& run) {
     procedure(run.problem, run.problem.typed.ProblemText, true);
 }
@@ -58,7 +59,7 @@ void RoundLine(SolveRun& run) {
     RoundByChoice(run.problem, run.problem.typed.ProblemText, run.problem.boxes.ListIndex[2]);
 }
 
-/// The numbers of the line, the words and signs between them taken off.
+/// The numbers of the line, without parentheses and the sign between two points.
 std::vector<std::string> PartsOfLine(const Problem& problem, std::size_t expected) {
     std::string line = Replace(problem.typed.ProblemText, ")-(", ",");
     line = Replace(Replace(line, "(", ""), ")", "");
@@ -79,12 +80,6 @@ void RequestPoint(Problem& problem, const std::vector<std::string>& parts) {
     problem.graph.GraphX1 = EntryValue(parts[0]);
     problem.graph.GraphY1 = EntryValue(parts[1]);
     problem.graph.GraphMode = 1;
-}
-
-/// The text without its last argument, here true: the solver stands alone.
-template <void (*procedure)(Problem&, std::string_view, bool)>
-void OnLineStandalone(SolveRun& run) {
-    procedure(run.problem, run.problem.typed.ProblemText, true);
 }
 
 /// A whole number, "+" and a fraction; a second "+" would leave a part of the problem out.
@@ -161,15 +156,15 @@ constexpr auto kRows = std::to_array<SolverRow>({
     {86, FactorsOfLine},
     {85, OnLine<PrimeOrComposite>},
     {84, OnLine<PrimeFactorization>},
-    {80, OnLineStandalone<SimplifyFraction>},
+    {80, OnLineAlone<SimplifyFraction>},
     {79, OnLine<FindReciprocal>},
     {78, OnLine<RatioToFraction>},
     {75, OnLine<FractionToMixed>},
     {74, MixedLine},
     {73, OnLine<FractionToDecimal>},
     {72, OnLine<FractionToPercent>},
-    {71, OnLineStandalone<DecimalToFraction>},
-    {70, OnLineStandalone<DecimalToPercent>},
+    {71, OnLineAlone<DecimalToFraction>},
+    {70, OnLineAlone<DecimalToPercent>},
     {69, OnLine<PercentToDecimal>},
     {68, OnLine<PercentToFraction>},
     {65, OnLine<RegularToScientific>},

@@ -18,7 +18,7 @@ struct ReducedFraction {
 };
 
 /// Throws Failure(Format) for a text without a "/".
-ReducedFraction GreatestDivisorText(std::string_view Text);
+ReducedFraction GreatestDivisorText(std::string_view FractionText);
 
 /// Without `Standalone` there is no problem line.
 void SimplifyFraction(Problem& problem, std::string_view FractionText, bool Standalone);

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
+#include "core/learner.h"
 #include "core/problem.h"
 #include "engine/term_tables.h"
 #include "engine/tokens.h"
@@ -12,12 +14,17 @@ namespace numerello {
 /// Works an expression line by line: a pass composes a new text from the tables of the last one,
 /// and RecordStep makes a line of the step log of it. Between two passes an expression exists only
 /// as its tokens.
+///
+/// Groups are counted from 0 and lie at the deepest bracket level of the current Side. A pass on a
+/// group that no longer exists does nothing. All passes throw the Failures of the arithmetic in
+/// them, and Failure(Format) past a bound of the tables or of the log.
 class Engine {
   public:
     /// The problem must outlive the engine.
     explicit Engine(Problem& problem) : problem(problem) {}
 
-    /// Takes the typed problem over. Throws Failure(DivisionByZero) for a literal division by 0.
+    /// Takes the typed problem over and records it as the first line. Throws
+    /// Failure(DivisionByZero) for a literal division by 0.
     void Open();
 
     std::string ExprToText() const { return TokensToText(tokens); }
@@ -35,9 +42,61 @@ class Engine {
     /// one. StepUnchanged then tells whether it did not.
     void RecordStep(Record record = Record::Line);
 
+    // The order of rewriting.
+
+    /// Whether combining moves factors with negative exponents to the other side of the line.
+    enum class NegativeExponents { Remove, Keep };
+
+    void SimplifyExpression();
+    /// For sums with brackets and without products.
+    void SimplifyLight();
+    /// Repeats CombineTerms until nothing changes; sums of fractions go over a common denominator.
+    void CombineUntilStable(std::size_t group,
+                            NegativeExponents negatives = NegativeExponents::Remove);
+
+    // Like terms.
+
+    void CombineTerms(std::size_t group, NegativeExponents negatives, Record record);
+    /// The group's text with its terms in decreasing order of their first letter's exponent.
+    std::string SortTerms(std::size_t group) const;
+
+    // Products.
+
+    /// Works all written products of a group, then what they leave. False without any.
+    bool MultiplyPass(std::size_t group);
     /// Works the first written product of a group into one term and records the line. False when
     /// the group holds none.
     bool MultiplyPair(std::size_t group);
+    /// Puts the factor behind a bracket into a bracket of its own: "(2+3)*4" becomes "(2+3)(4)".
+    bool ReorderFactor(std::size_t group);
+    bool DistributeFront(std::size_t group);
+    /// Multiplies two touching brackets term by term.
+    bool MultiplyGroups(std::size_t first);
+
+    // Brackets and bars.
+
+    /// Takes one pair away where that is safe. The caller records the line.
+    bool RemoveParens();
+    bool RemoveAbsolute(std::size_t group);
+
+    // Powers and roots.
+
+    bool ExpandPowers(std::size_t group);
+    bool ExpandConstantTerms(std::size_t group);
+    bool ExpandFrontPower(std::size_t group);
+    /// Writes a bracket with a power as that many brackets. The caller records the line.
+    bool ExpandPower(std::size_t group);
+    void RootSequence();
+    void SimplifyRoots();
+
+    // Sums and products of fractions.
+
+    void FractionArithmetic(std::size_t group);
+
+    // Topics.
+
+    /// Writes a number or a product as powers of its prime factors.
+    void PowerNotationTopic();
 
     const TermTables& Tables() const { return tables; }
     const Tokens& Line() const { return tokens; }
@@ -46,14 +105,67 @@ class Engine {
     bool TermsChanged = false;  ///< terms were merged since the last record
 
   private:
+    // Reading the line.
+    bool HasGroup(std::size_t group) const { return group < tables.groups.size(); }
+    const Group& GroupAt(std::size_t group) const { return tables.groups.at(group); }
+    std::string_view TokenAt(std::size_t at) const;
+    bool Holds(std::string_view token) const;
+    bool HoldsRoot() const;
+    std::string Written(const Term& term) const;
+    std::string Shown(std::string_view text) const;
     std::string FactorText(const Term& factor) const;
+
+    // Composing the next one.
+    void ReplaceBetween(std::size_t begin, std::size_t end, std::string_view text);
+    void ReplaceGroup(std::size_t group, std::string_view text);
+    void Because(std::string reason, int level);
+
     void CleanReason();
     bool IsStored(const std::string& line) const;
+
+    // order.cpp
+    void OpenLetterProducts();
+    bool RemoveAndRecord();
+    void FirstWalk();
+    void WorkGroup(std::size_t group);
+    void SecondWalk();
+    bool WorkAgain(std::size_t group);
+    bool ExpandGroupPower(std::size_t group);
+    bool WorkBrackets(std::size_t group);
+    void CheckProducts(std::size_t group);
+    bool IsSumOfFractions(std::size_t group) const;
+
+    // combining.cpp
+    void RemoveNegativeExponents(std::size_t group);
+    bool KeepsFractions(const Group& group) const;
+    void RecordSorted(std::size_t group, bool changed, Record record);
+
+    // brackets.cpp
+    bool RemoveBars();
+    bool TakeParensAway(std::size_t group);
+    bool TurnWhatFollows(const Group& group);
+
+    // distribute.cpp
+    void DropStar(std::size_t group);
+    bool ReduceFront(std::size_t group);
+
+    // roots.cpp
+    bool SimplifyRoot(const Term& term);
+
+    // fraction_arithmetic.cpp
+    void MultiplyFractions(std::size_t group);
+    bool CombineCommonDenominators(std::size_t group);
+    bool CombinePair(std::size_t group);
+    void AddPair(std::size_t group, std::size_t one, std::size_t other);
+    bool ReduceFractions(std::size_t group);
+    bool DropZeros(std::size_t group);
+    void CombineOverLcd(std::size_t group);
 
     Problem& problem;
     Tokens tokens;
     TermTables tables;
     std::size_t lastTermCount = 0;
+    bool OrderNoteGiven = false;
 };
 
 }  // namespace numerello

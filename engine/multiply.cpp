@@ -12,6 +12,7 @@ namespace numerello {
 
 namespace {
 
+constexpr int kCalculatingRoots = 82;
 constexpr int kOrdinaryStep = 2;
 constexpr int kProductPlaces = 4;
 
@@ -55,6 +56,13 @@ double Radicand(const Term& factor) {
     return ToNumber(std::string_view(factor.NumText).substr(1));
 }
 
+/// A factor behind a bracket ends at the next sign, product or pair.
+bool EndsFactor(const Tokens& tokens, std::size_t at) {
+    constexpr std::string_view kEnds = "*()=|";
+    return kEnds.find(tokens[at]) != std::string_view::npos ||
+           (IsSign(tokens[at]) && !IsExponentSign(tokens, at));
+}
+
 std::string RoundedProduct(double value) {
     return NumberText(Round(value, kProductPlaces));
 }
@@ -82,14 +90,6 @@ std::string ProductText(const TypedProblem& typed, const Term& one, const Term& 
     std::string text = RoundedProduct(over) + LettersOver(typed, one, other);
     if (under != 1 || !lettersUnder.empty()) {
         text += "/" + RoundedProduct(under) + lettersUnder;
-    }
-    return text;
-}
-
-std::string TextOf(const Tokens& tokens, std::size_t begin, std::size_t end) {
-    std::string text;
-    for (std::size_t i = begin; i < end; ++i) {
-        text += tokens[i];
     }
     return text;
 }
@@ -124,9 +124,49 @@ bool Engine::MultiplyPair(std::size_t group) {
               "root."
             : Text("Multiply ", FactorText(one), " by ", FactorText(other),
                    " using the order of operations.");
-    SetText(Text(TextOf(tokens, 0, one.begin), one.OpMark, ProductText(problem.typed, one, other),
-                 TextOf(tokens, other.end, tokens.size())));
+    SetText(Text(TextBetween(tokens, 0, one.begin), one.OpMark, ProductText(problem.typed, one, other),
+                 TextBetween(tokens, other.end, tokens.size())));
     RecordStep();
+    return true;
+}
+
+bool Engine::MultiplyPass(std::size_t group) {
+    if (!HasGroup(group) || !MultiplyPair(group)) {
+        return false;
+    }
+    while (MultiplyPair(group)) {
+    }
+    if (problem.topic.ProblemType != kCalculatingRoots) {
+        ExpandPowers(tables.groups.size() - 1);
+        CombineUntilStable(tables.groups.size() - 1);
+    }
+    return true;
+}
+
+bool Engine::ReorderFactor(std::size_t group) {
+    const Group& pair = GroupAt(group);
+    const bool multiplied = !pair.IsAbsolute && tables.Depth > 0 && pair.Power == 1 &&
+                            TokenAt(pair.tail) == "*";
+    const bool divides = pair.begin > 1 && TokenAt(pair.begin - 2) == "/";
+    if (!multiplied || divides) {
+        return false;
+    }
+    const std::size_t begin = pair.tail + 1;
+    std::size_t end = begin;
+    bool power = false;
+    while (end < tokens.size() && !EndsFactor(tokens, end)) {
+        power = power || (tokens[end] == "^" && TokenAt(end + 1) > "1");
+        ++end;
+    }
+    if (end == begin || tokens[end - 1] == "/") {
+        return false;
+    }
+    Because("Reorder the polynomial.", kOrdinaryStep);
+    ReplaceBetween(begin, end, Text("(+", TextBetween(tokens, begin, end), ")"));
+    RecordStep();
+    if (power) {
+        ExpandPowers(group + 1);
+    }
     return true;
 }
 

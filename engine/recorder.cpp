@@ -11,8 +11,12 @@ namespace {
 
 constexpr int kEvaluatingPolynomials = 103;
 
-std::string WithoutEmphasis(const std::string& line) {
-    return Replace(Replace(line, "[", ""), "]", "");
+/// The sign goes to the front of the term; its two numbers are put together then.
+bool HasSignBehindSlash(const Tokens& tokens) {
+    return std::adjacent_find(tokens.begin(), tokens.end(),
+                              [](const std::string& one, const std::string& next) {
+                                  return one == "/" && IsSign(next);
+                              }) != tokens.end();
 }
 
 auto Parens(const std::string& line) {
@@ -34,11 +38,17 @@ std::size_t TermCount(const TermTables& tables) {
 
 void Engine::Open() {
     tokens = CellsToTokens(problem.typed);
+    RecordStep();
 }
 
 void Engine::RecordStep(Record record) {
     const int code = problem.topic.ProblemType;
-    tokens = NormaliseTokens(MergeNumberTokens(tokens, code));
+    tokens = MergeNumberTokens(tokens, code);
+    const bool signBehindSlash = HasSignBehindSlash(tokens);
+    tokens = NormaliseTokens(tokens);
+    if (signBehindSlash) {
+        tokens = MergeNumberTokens(TextToTokens(ExprToText()), code);
+    }
     tables = BreakIntoTerms(tokens, Side);
     const std::string line = DisplayText(tokens, code);
     CleanReason();

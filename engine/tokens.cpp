@@ -149,11 +149,19 @@ Tokens TextToTokens(std::string_view text) {
 }
 
 std::string TokensToText(const Tokens& tokens) {
+    return TextBetween(tokens, 0, tokens.size());
+}
+
+std::string TextBetween(const Tokens& tokens, std::size_t begin, std::size_t end) {
     std::string text;
-    for (const std::string& token : tokens) {
-        text += token;
+    for (std::size_t i = begin; i < end; ++i) {
+        text += tokens[i];
     }
     return text;
+}
+
+std::string WithoutEmphasis(std::string_view text) {
+    return Replace(Replace(text, "[", ""), "]", "");
 }
 
 Tokens MergeNumberTokens(const Tokens& tokens, int ProblemType) {
@@ -170,10 +178,11 @@ Tokens CellsToTokens(TypedProblem& typed) {
         const std::string& token = typed.ExprCells[cell];
         tokens.push_back(token == "{" ? "/" : token);
     }
-    if (DividesByZero(TokensToText(tokens))) {
+    const std::string text = TokensToText(tokens);
+    if (DividesByZero(text)) {
         throw Failure(FailureKind::DivisionByZero);
     }
-    return tokens;
+    return TextToTokens(text);
 }
 
 }  // namespace numerello

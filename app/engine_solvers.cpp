@@ -1,0 +1,68 @@
+#include "app/engine_solvers.h"
+
+#include <algorithm>
+#include <array>
+
+#include "engine/engine.h"
+
+namespace numerello {
+
+namespace {
+
+void Simplify(SolveRun& run) {
+    Engine engine(run.problem);
+    engine.Open();
+    engine.SimplifyExpression();
+}
+
+void SimplifyNegativeExponents(SolveRun& run) {
+    Engine engine(run.problem);
+    engine.Open();
+    engine.CombineUntilStable(0);
+    engine.SimplifyExpression();
+}
+
+void NotePowers(SolveRun& run) {
+    Engine engine(run.problem);
+    engine.Open();
+    engine.PowerNotationTopic();
+}
+
+void CalculateRoots(SolveRun& run) {
+    Engine engine(run.problem);
+    engine.Open();
+    engine.RootSequence();
+}
+
+/// A fraction alone is left as it stands: kept as it is.
+void CalculateFractions(SolveRun& run) {
+    run.problem.settings.UseFractions = true;
+    Engine engine(run.problem);
+    engine.Open();
+    const auto fractions =
+        std::count_if(engine.Line().begin(), engine.Line().end(), [](const std::string& token) {
+            return token.find('/') != std::string::npos;
+        });
+    if (engine.Tables().groups.front().terms.size() > 1 || fractions >= 2) {
+        engine.FractionArithmetic(0);
+    }
+}
+
+constexpr auto kRows = std::to_array<SolverRow>({
+    {150, SimplifyNegativeExponents},
+    {121, Simplify},
+    {102, Simplify},
+    {91, Simplify},
+    {83, NotePowers},
+    {82, CalculateRoots},
+    {81, Simplify},
+    {76, CalculateFractions},
+});
+
+}  // namespace
+
+std::span<const SolverRow> EngineSolvers() {
+    return kRows;
+}
+
+}  // namespace numerello

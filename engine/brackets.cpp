@@ -1,0 +1,147 @@
+#include <cmath>
+#include <string>
+
+#include "core/number.h"
+#include "core/text.h"
+#include "engine/engine.h"
+#include "engine/like_terms.h"
+
+namespace numerello {
+
+namespace {
+
+constexpr int kOrdinaryStep = 2;
+
+constexpr std::string_view kFlipReason =
+    "To divide two fractions, flip the numerator and denominator of one of the fractions, then "
+    "multiply the fractions.";
+
+bool IsAFraction(const Term& term) {
+    return term.DivideMark || term.FractionText.find('/') != std::string::npos;
+}
+
+/// The term upside down, without its sign.
+std::string Flipped(const Term& term) {
+    return TermText("", Text(NumberText(term.numUnder), "/", NumberText(term.numOver)),
+                    term.DenText, term.NumText);
+}
+
+}  // namespace
+
+bool Engine::RemoveParens() {
+    if (tables.Depth == 0) {
+        return false;
+    }
+    if (!Holds("(")) {
+        return RemoveBars();
+    }
+    for (std::size_t i = tables.groups.size(); i-- > 0;) {
+        if (GroupAt(i).IsAbsolute ? RemoveAbsolute(i) : TakeParensAway(i)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool Engine::RemoveBars() {
+    for (std::size_t i = 0; i < tables.groups.size(); ++i) {
+        if (RemoveAbsolute(i)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool Engine::TakeParensAway(std::size_t group) {
+    const Group& pair = GroupAt(group);
+    const std::size_t open = pair.begin - 1;
+    const std::string_view after = TokenAt(pair.tail);
+    const std::string_view before = open > 0 ? TokenAt(open - 1) : std::string_view();
+    const std::string_view factor = open > 1 ? TokenAt(open - 2) : std::string_view();
+    const bool oneTerm = pair.terms.size() == 1;
+    const bool divided = before == "/";
+
+    const bool bound = after == "(" || !IsOperator(before) || pair.NextGroup >= 0 || pair.front ||
+                       pair.Power != 1;
+    const bool freed = after == "(" && oneTerm && divided;
+    const bool stays = bound || (divided && !oneTerm) || (after == "*" && !oneTerm) ||
+                       (before == "*" && IsFraction(factor) && after != "/");
+    if (stays && !freed) {
+        return false;
+    }
+    const bool multiplies = after == "*" || after == "/" || before == "*";
+    if (!oneTerm && multiplies) {
+        return false;
+    }
+
+    Because("Remove the parenthesis.", kOrdinaryStep);
+    const Term& first = pair.terms.front();
+    if (divided && IsAFraction(first)) {
+        problem.log.StepReason = kFlipReason;
+        ReplaceBetween(open - 1, pair.tail, Text("*", first.OpMark, Flipped(first)));
+        return true;
+    }
+    if (after == "/" && IsAFraction(first)) {
+        return TurnWhatFollows(pair);
+    }
+    const bool joins = before == "*" || divided;
+    const std::size_t inner = pair.begin + (joins && first.OpMark == "+" ? 1 : 0);
+    ReplaceBetween(joins ? open : open - 1, pair.tail, TextBetween(tokens, inner, pair.end));
+    return true;
+}
+
+/// A fraction in a bracket is divided by what stands behind it: that is turned over, so that the
+/// fraction itself is worked as it stands.
+bool Engine::TurnWhatFollows(const Group& group) {
+    std::size_t end = group.tail + 1;
+    while (end < tokens.size() && (!IsOperator(tokens[end]) || IsExponentSign(tokens, end)) &&
+           std::string_view("()|=[]").find(tokens[end]) == std::string_view::npos) {
+        ++end;
+    }
+    if (end == group.tail + 1) {
+        return false;
+    }
+    const std::string divisor = TextBetween(tokens, group.tail + 1, end);
+    const std::string inside = TextBetween(tokens, group.begin, group.end);
+    const std::string_view before = TokenAt(group.begin - 2);
+    const bool joins = before == "*";
+    problem.log.StepReason = kFlipReason;
+    ReplaceBetween(joins ? group.begin - 1 : group.begin - 2, end,
+                   Text(joins && inside.starts_with('+') ? inside.substr(1) : inside, "*1/",
+                        divisor));
+    return true;
+}
+
+bool Engine::RemoveAbsolute(std::size_t group) {
+    const Group& bars = GroupAt(group);
+    if (!bars.IsAbsolute || bars.terms.size() != 1) {
+        return false;
+    }
+    const Term& term = bars.terms.front();
+    const float value = term.Value();
+    std::string text = NumberText(std::fabs(term.numOver));
+    if (term.Den != 1) {
+        text = Text(text, "/", NumberText(term.numUnder));
+    }
+    const std::string shown = term.Den != 1 ? Text("#", text, "#") : text;
+    if (value == 0) {
+        Because("The absolute value of 0 is 0.", kOrdinaryStep);
+        text = "0";
+    } else if (value < 0) {
+        Because(Text("Since -", shown, " < 0, the absolute value of -", shown, " is ", shown, "."),
+                kOrdinaryStep);
+    } else {
+        Because(Text("Since ", shown, " > 0, the absolute value of ", shown, " is ", shown, "."),
+                kOrdinaryStep);
+    }
+    const std::size_t open = bars.begin - 1;
+    if (open > 0 && TokenAt(open - 1) == "/" && term.Den != 1) {
+        ReplaceBetween(open - 1, bars.tail, Text("*", Flipped(term)));
+    } else {
+        ReplaceBetween(open, bars.tail, text);
+    }
+    RecordStep();
+    return true;
+}
+
+}  // namespace numerello

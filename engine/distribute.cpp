@@ -1,0 +1,157 @@
+#include <algorithm>
+#include <cmath>
+#include <string>
+
+#include "core/number.h"
+#include "core/text.h"
+#include "engine/engine.h"
+#include "engine/letters.h"
+#include "engine/like_terms.h"
+#include "engine/number_forms.h"
+
+namespace numerello {
+
+namespace {
+
+constexpr int kOrdinaryStep = 2;
+constexpr std::size_t kTopProduct = 100;
+
+bool HasNumberPower(const Term& term) {
+    return term.NumText.starts_with('^') || term.DenText.starts_with('^');
+}
+
+/// The product of two terms, sign first. Numbers multiply as Singles.
+std::string Product(const TypedProblem& typed, const Term& one, const Term& other) {
+    const float over = ToSingle(static_cast<double>(one.Num) * static_cast<double>(other.Num));
+    const float under = ToSingle(static_cast<double>(one.Den) * static_cast<double>(other.Den));
+    if (over == 0) {
+        return "+0";
+    }
+    return TermText(over < 0 ? "-" : "+",
+                    Text(SingleValueText(std::fabs(over)), "/", SingleValueText(under)),
+                    MultiplyLetters(typed, one.NumText, other.NumText),
+                    MultiplyLetters(typed, one.DenText, other.DenText));
+}
+
+/// A term without a "+" and with a unit in place of a bare sign: what a reason calls it.
+std::string NameOf(const Term& term) {
+    return TermText(term.Num < 0 ? "-" : "",
+                    Text(NumberText(term.numOver), "/", NumberText(term.numUnder)), term.NumText,
+                    term.DenText);
+}
+
+}  // namespace
+
+bool Engine::DistributeFront(std::size_t group) {
+    if (!HasGroup(group)) {
+        return false;
+    }
+    DropStar(group);
+    const Group& factor = GroupAt(group);
+    const bool powers = std::any_of(factor.terms.begin(), factor.terms.end(), HasNumberPower);
+    if (!factor.front || factor.IsAbsolute || factor.Power != 1 || factor.ProductMark || powers) {
+        return false;
+    }
+    if (HasNumberPower(*factor.front)) {
+        return ExpandFrontPower(group);
+    }
+    if (ReduceFront(group)) {
+        return DistributeFront(group);
+    }
+    const Term& front = *factor.front;
+    std::string products;
+    for (const Term& term : factor.terms) {
+        products += Product(problem.typed, front, term);
+    }
+    const std::string name = Shown(NameOf(front));
+    Because(factor.terms.size() == 1
+                ? Text("Multiply the ", name, " by the term inside the parenthesis.")
+                : Text("Multiply the ", name,
+                       " by each one of the terms inside the parenthesis."),
+            kOrdinaryStep);
+    const std::string_view begin = TokenAt(front.begin);
+    const std::string_view joint = begin == "*" ? "*" : begin == "/" ? "" : "+";
+    ReplaceBetween(front.begin, factor.end, Text(joint, "(", products));
+    return true;
+}
+
+/// A "*" between a factor and its bracket goes without a word.
+void Engine::DropStar(std::size_t group) {
+    const Group& factor = GroupAt(group);
+    const std::size_t open = factor.begin - 1;
+    const bool starred = tables.Depth > 0 && !factor.IsAbsolute && factor.Power == 1 && open > 1 &&
+                         TokenAt(open - 1) == "*";
+    if (starred && TokenAt(open - 2) != ")" && TokenAt(open - 2) != "|") {
+        ReplaceBetween(open - 1, open, "");
+        RecordStep(Record::Refresh);
+    }
+}
+
+/// Brings a factor before a bracket to lowest terms and records the line.
+bool Engine::ReduceFront(std::size_t group) {
+    const Group& factor = GroupAt(group);
+    const Term& front = *factor.front;
+    const double over = front.numOver;
+    const double under = front.numUnder;
+    if (under == 1 || over == 0 || over != std::trunc(over) || under != std::trunc(under)) {
+        return false;
+    }
+    const std::string reduced = ReduceRatio(over, under);
+    if (reduced == Text(NumberText(over), "/", NumberText(under))) {
+        return false;
+    }
+    Because("Reduce the term in front of the parenthesis before multiplying.", kOrdinaryStep);
+    ReplaceBetween(front.begin, front.end,
+                   TermText(front.OpMark, reduced, front.NumText, front.DenText));
+    RecordStep();
+    return true;
+}
+
+bool Engine::MultiplyGroups(std::size_t first) {
+    if (!HasGroup(first) || !HasGroup(first + 1)) {
+        return false;
+    }
+    const Group& one = GroupAt(first);
+    const Group& other = GroupAt(first + 1);
+    const bool touching = one.NextGroup >= 0 && one.Power == 1 && other.Power == 1;
+    const std::size_t open = one.begin - 1;
+    if (!touching || one.ProductMark || other.ProductMark ||
+        (open > 0 && TokenAt(open - 1) == "/")) {
+        return false;
+    }
+    CheckIndex(static_cast<int>(one.terms.size() * other.terms.size()),
+               static_cast<int>(kTopProduct) + 1);
+    std::string products;
+    for (const Term& left : one.terms) {
+        for (const Term& right : other.terms) {
+            products += Product(problem.typed, left, right);
+        }
+    }
+    const Term& left = one.terms.front();
+    const Term& right = other.terms.front();
+    const std::string leftName = Shown(NameOf(left));
+    const std::string rightName = Shown(NameOf(right));
+    const bool single = one.terms.size() == 1 && other.terms.size() == 1;
+    if (single && IsConstant(left) && IsConstant(right)) {
+        const std::string product = products.starts_with('+') ? products.substr(1) : products;
+        Because(Text("Multiply the ", leftName, " by ", rightName, " to form the new term (",
+                     Shown(product), ")."),
+                kOrdinaryStep);
+    } else if (single) {
+        Because(Text("Multiply ", leftName, " by ", rightName, " using the order of operations."),
+                kOrdinaryStep);
+    } else if (one.terms.size() == 1 || other.terms.size() == 1) {
+        const std::string& name = one.terms.size() == 1 ? leftName : rightName;
+        Because(Text("Multiply the polynomial inside the parenthesis by ", name, "."),
+                kOrdinaryStep);
+    } else {
+        Because(
+            "Multiply the polynomials together by multiplying each term of the first by every "
+            "term in the second.",
+            kOrdinaryStep);
+    }
+    ReplaceBetween(open, other.end + 1, Text("(", products, ")"));
+    return true;
+}
+
+}  // namespace numerello

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "app/graph_equation.h"
 #include "engine/engine.h"
 
 namespace numerello {
@@ -48,10 +49,29 @@ void CalculateFractions(SolveRun& run) {
     }
 }
 
+/// Both sides are simplified, then solved for the first letter.
+void SolveEquation(SolveRun& run) {
+    Engine engine(run.problem);
+    engine.Open();
+    engine.SimplifyBothSides();
+    engine.SolveFor(run.problem.typed.VarNames[1]);
+}
+
+void Evaluate(SolveRun& run) {
+    Engine engine(run.problem);
+    engine.Open();
+    engine.EvaluateTopic(run.learner);
+}
+
 constexpr auto kRows = std::to_array<SolverRow>({
     {150, SimplifyNegativeExponents},
+    {122, SolveEquation},
     {121, Simplify},
+    {120, Simplify},
+    {105, GraphEquation},
+    {103, Evaluate},
     {102, Simplify},
+    {101, SolveEquation},
     {91, Simplify},
     {83, NotePowers},
     {82, CalculateRoots},

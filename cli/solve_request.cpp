@@ -101,6 +101,15 @@ Json Drawing(const Problem& problem) {
     return marks;
 }
 
+/// The equation that is to be drawn, as its cells hold it.
+std::string EquationText(const TypedProblem& typed) {
+    std::string text;
+    for (int i = 0; i <= TypedProblem::kTopCell && !typed.ExprVariants[i].empty(); ++i) {
+        text += typed.ExprVariants[i];
+    }
+    return text;
+}
+
 /// The graph request as a playback to the end leaves it.
 Json Graph(const Problem& problem) {
     const GraphRequest& graph = problem.graph;
@@ -109,7 +118,7 @@ Json Graph(const Problem& problem) {
     }
     return {{"mode", graph.GraphMode},         {"x1", JsonNumber(graph.GraphX1)},
             {"y1", JsonNumber(graph.GraphY1)}, {"x2", JsonNumber(graph.GraphX2)},
-            {"y2", JsonNumber(graph.GraphY2)}, {"equation", ""}};
+            {"y2", JsonNumber(graph.GraphY2)}, {"equation", EquationText(problem.typed)}};
 }
 
 void RequireSolver(const Problem& problem) {

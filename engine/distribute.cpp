@@ -2,6 +2,8 @@
 #include <cmath>
 #include <string>
 
+#include "core/bounds.h"
+#include "core/failure.h"
 #include "core/number.h"
 #include "core/text.h"
 #include "engine/engine.h"
@@ -16,14 +18,17 @@ namespace {
 constexpr int kOrdinaryStep = 2;
 constexpr std::size_t kTopProduct = 100;
 
-bool HasNumberPower(const Term& term) {
-    return term.NumText.starts_with('^') || term.DenText.starts_with('^');
+bool HasNumberPowers(const Group& group) {
+    return std::any_of(group.terms.begin(), group.terms.end(), HasNumberPower);
 }
 
 /// The product of two terms, sign first. Numbers multiply as Singles.
 std::string Product(const TypedProblem& typed, const Term& one, const Term& other) {
     const float over = ToSingle(static_cast<double>(one.Num) * static_cast<double>(other.Num));
     const float under = ToSingle(static_cast<double>(one.Den) * static_cast<double>(other.Den));
+    if (under == 0) {
+        throw Failure(FailureKind::DivisionByZero);
+    }
     if (over == 0) {
         return "+0";
     }
@@ -48,9 +53,11 @@ bool Engine::DistributeFront(std::size_t group) {
     }
     DropStar(group);
     const Group& factor = GroupAt(group);
-    const bool powers = std::any_of(factor.terms.begin(), factor.terms.end(), HasNumberPower);
-    if (!factor.front || factor.IsAbsolute || factor.Power != 1 || factor.ProductMark || powers) {
+    if (!factor.front || factor.IsAbsolute || factor.Power != 1 || factor.ProductMark) {
         return false;
+    }
+    if (HasNumberPowers(factor)) {
+        return ExpandPowers(group);
     }
     if (HasNumberPower(*factor.front)) {
         return ExpandFrontPower(group);
@@ -118,6 +125,9 @@ bool Engine::MultiplyGroups(std::size_t first) {
     if (!touching || one.ProductMark || other.ProductMark ||
         (open > 0 && TokenAt(open - 1) == "/")) {
         return false;
+    }
+    if (HasNumberPowers(one) || HasNumberPowers(other)) {
+        return ExpandPowers(HasNumberPowers(one) ? first : first + 1);
     }
     CheckIndex(static_cast<int>(one.terms.size() * other.terms.size()),
                static_cast<int>(kTopProduct) + 1);

@@ -6,6 +6,7 @@
 
 #include "core/learner.h"
 #include "core/problem.h"
+#include "engine/number_forms.h"
 #include "engine/term_tables.h"
 #include "engine/tokens.h"
 
@@ -93,7 +94,36 @@ class Engine {
 
     void FractionArithmetic(std::size_t group);
 
+    // Equations.
+
+    /// Simplifies the left side, then the right one.
+    void SimplifyBothSides();
+    /// Works a simplified equation for a letter. True when a solution stands in the last line.
+    bool SolveFor(const std::string& variable);
+    /// Takes what has not the letter away from both sides.
+    bool MoveTermsLeft(const std::string& variable);
+    /// Takes what has the letter on the right away from both sides, or swaps the sides.
+    bool MoveTermsRight(const std::string& variable);
+    void DivideBothSides(const std::string& variable, const Ratio& divisor);
+    /// The terms of both sides for graphing: "+1/1y^+1=+2/1x+3/1" but for unit exponents.
+    std::string SideToPlainText() const;
+
+    // Factoring.
+
+    void SetEqualToZero();
+    void PrepareBothSides();
+    void NegateBothSides();
+    /// Takes the greatest common factor out, or factors a quadratic by its roots. The caller
+    /// records the line.
+    bool FactorExpression(std::size_t group, bool withGcf);
+    /// Records the quadratic's factors and its solutions.
+    void FactorQuadratic(const std::string& variable);
+
     // Topics.
+
+    /// Asks for the value of each letter and puts it in its place.
+    void EvaluateBySubstitution(Learner& learner);
+    void EvaluateTopic(Learner& learner);
 
     /// Writes a number or a product as powers of its prime factors.
     void PowerNotationTopic();
@@ -101,6 +131,9 @@ class Engine {
     const TermTables& Tables() const { return tables; }
     const Tokens& Line() const { return tokens; }
 
+    /// Whether the terms tell the exponent of their first letter. Off, as ever: equations of a
+    /// higher degree are worked like linear ones.
+    bool ReadsFirstExponents = false;
     int Side = 0;               ///< whose tables are read: 0 left, 1 right of the "="
     bool TermsChanged = false;  ///< terms were merged since the last record
 
@@ -148,6 +181,20 @@ class Engine {
     // distribute.cpp
     void DropStar(std::size_t group);
     bool ReduceFront(std::size_t group);
+
+    // equations.cpp
+    void UseSide(int side);
+    std::vector<Term> TermsOf(int side) const;
+    std::string SideText(int side) const;
+    bool SolveForOther(const std::string& variable);
+    bool StateTruth(const std::string& variable, bool ownLine);
+
+    // quadratics.cpp
+    float FirstExponent() const;
+    bool SolveByFactoring(float exponent);
+    bool FactorOutGcf(std::size_t group);
+    std::string FactoredTerm(const Term& term, int g, float least) const;
+    bool FactorByRoots(std::size_t group);
 
     // roots.cpp
     bool SimplifyRoot(const Term& term);

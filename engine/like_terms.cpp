@@ -75,10 +75,6 @@ bool HasDecimals(const Term& term, const std::string& written) {
            !IsWhole(static_cast<double>(term.Den));
 }
 
-bool HasNumberPower(const Term& term) {
-    return term.NumText.starts_with('^') || term.DenText.starts_with('^');
-}
-
 }  // namespace
 
 bool IsConstant(const Term& term) {
@@ -198,9 +194,7 @@ bool LikeTerms::TakeConversion(const Term& term, const std::string& written) {
 
 /// Turns decimals into a fraction.
 bool LikeTerms::ReadDecimal(const Term& term) {
-    const Ratio magnitude{std::fabs(static_cast<double>(term.Num)),
-                          static_cast<double>(term.Den)};
-    Replace(term, NumberToFractionText(settings, magnitude));
+    Replace(term, NumberToFractionText(settings, {term.numOver, term.numUnder}));
     // Beside letters the sentence ends without its point: kept as it is.
     reason = IsConstant(term) ? "Convert the decimal number to a fraction."
                               : "Convert the decimal number to a fraction";
@@ -236,9 +230,8 @@ bool LikeTerms::Reduce(const Term& term) {
 
 /// Turns a fraction into a decimal.
 bool LikeTerms::Divide(const Term& term) {
-    const Ratio magnitude{std::fabs(static_cast<double>(term.Num)),
-                          static_cast<double>(term.Den)};
-    const std::string value = NumberToFractionText(settings, magnitude);
+    const std::string value =
+        NumberToFractionText(settings, {term.numOver, term.numUnder});
     const std::string fraction = Text(NumberText(term.numOver), "/", NumberText(term.numUnder));
     Replace(term, value);
     reason = IsConstant(term)

@@ -82,10 +82,13 @@ std::string ProductText(const TypedProblem& typed, const Term& one, const Term& 
     const FactorNumbers first = NumbersOf(one);
     const FactorNumbers second = NumbersOf(other);
     const double over = Checked(first.over * second.over);
+    const double under = Checked(first.under * second.under);
+    if (under == 0) {
+        throw Failure(FailureKind::DivisionByZero);
+    }
     if (over == 0) {
         return "0";
     }
-    const double under = Checked(first.under * second.under);
     const std::string lettersUnder = MultiplyLetters(typed, one.DenText, other.DenText);
     std::string text = RoundedProduct(over) + LettersOver(typed, one, other);
     if (under != 1 || !lettersUnder.empty()) {

@@ -85,6 +85,18 @@ std::string PrimeFactorList(double n) {
     return list + WholeText(rest);
 }
 
+std::string GreatestCommonText(std::string_view list) {
+    std::int32_t greatest = 0;
+    for (std::size_t at = 0; at < list.size();) {
+        const std::size_t end = std::min(list.find(' ', at), list.size());
+        if (end > at) {
+            greatest = std::gcd(greatest, ToInteger32(ToNumber(list.substr(at, end - at))));
+        }
+        at = end + 1;
+    }
+    return WholeText(greatest == 0 ? 1 : greatest);
+}
+
 std::string LeastCommonMultipleText(std::span<const double> numbers) {
     std::int64_t multiple = 1;
     for (const double number : numbers) {

@@ -41,6 +41,10 @@ std::string AbsValueToText(const AnswerSettings& settings, float value);
 /// 32 bits.
 std::string PrimeFactorList(double n);
 
+/// The greatest whole number that divides all whole numbers of a text separated by blanks. Throws
+/// Failure(Overflow) beyond 32 bits.
+std::string GreatestCommonText(std::string_view list);
+
 /// The least common multiple of whole numbers, "0" when one of them is 0. Throws Failure(Overflow)
 /// beyond 32 bits.
 std::string LeastCommonMultipleText(std::span<const double> numbers);

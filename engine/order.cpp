@@ -245,7 +245,8 @@ bool Engine::IsSumOfFractions(std::size_t group) const {
     }
     std::size_t fractions = 0;
     for (const Term& term : all.terms) {
-        const bool decimals = term.FractionText.find('.') != std::string::npos;
+        const bool decimals = term.FractionText.find('.') != std::string::npos &&
+                              term.FractionText.find('E') == std::string::npos;
         if (decimals || term.NumText.starts_with('^') || term.DenText.starts_with('^')) {
             return false;
         }

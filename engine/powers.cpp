@@ -57,11 +57,6 @@ std::string Joined(const std::vector<std::string>& factors) {
     return text;
 }
 
-bool HasNumberPower(const Term& term) {
-    return (term.NumText.starts_with('^') && term.NumPower != 1) ||
-           (term.DenText.starts_with('^') && term.DenPower != 1);
-}
-
 WrittenOut Factors(const Term& term) {
     WrittenOut out;
     WriteOut(term.numOver, term.NumText.starts_with('^') ? term.NumPower : 1, out, true);

@@ -50,6 +50,9 @@ void Engine::RecordStep(Record record) {
         tokens = MergeNumberTokens(TextToTokens(ExprToText()), code);
     }
     tables = BreakIntoTerms(tokens, Side);
+    if (ReadsFirstExponents) {
+        TellFirstExponents(tables);
+    }
     const std::string line = DisplayText(tokens, code);
     CleanReason();
 

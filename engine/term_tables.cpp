@@ -253,6 +253,10 @@ float Term::Value() const {
     return ToSingle(Divide(static_cast<double>(Num), static_cast<double>(Den)));
 }
 
+bool HasNumberPower(const Term& term) {
+    return term.NumText.starts_with('^') || term.DenText.starts_with('^');
+}
+
 SideRange RangeOfSide(const Tokens& tokens, int Side) {
     const auto equals = std::find(tokens.begin(), tokens.end(), "=");
     const auto at = static_cast<std::size_t>(equals - tokens.begin());
@@ -260,6 +264,14 @@ SideRange RangeOfSide(const Tokens& tokens, int Side) {
         return {0, at};
     }
     return {std::min(at + 1, tokens.size()), tokens.size()};
+}
+
+void TellFirstExponents(TermTables& tables) {
+    for (Group& group : tables.groups) {
+        for (Term& term : group.terms) {
+            term.FirstExponent = term.Degree;
+        }
+    }
 }
 
 TermTables BreakIntoTerms(const Tokens& tokens, int Side) {

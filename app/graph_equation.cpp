@@ -88,7 +88,11 @@ void GraphEquation(SolveRun& run) {
     Engine engine(problem);
     engine.Open();
     engine.SimplifyBothSides();
-    engine.SolveFor(letters.solved);
+    if (!engine.SolveFor(letters.solved)) {
+        // No letter is left: there is nothing to draw.
+        problem.controls.GraphEnabled = false;
+        return;
+    }
     const std::string text = engine.SideToPlainText();
     problem.log.StepReason = Text("Simplify the fractions to solve for [", letters.solved, "].");
     engine.RecordStep();

@@ -90,25 +90,30 @@ bool Engine::TakeParensAway(std::size_t group) {
     return true;
 }
 
-/// A fraction in a bracket is divided by what stands behind it: that is turned over, so that the
-/// fraction itself is worked as it stands.
-bool Engine::TurnWhatFollows(const Group& group) {
-    std::size_t end = group.tail + 1;
+/// Where the divisor that begins at `begin` ends; `begin` when a pair stands there.
+std::size_t Engine::EndOfDivisor(std::size_t begin) const {
+    std::size_t end = begin;
     while (end < tokens.size() && (!IsOperator(tokens[end]) || IsExponentSign(tokens, end)) &&
            std::string_view("()|=[]").find(tokens[end]) == std::string_view::npos) {
         ++end;
     }
-    if (end == group.tail + 1) {
+    return end;
+}
+
+/// A fraction in a bracket is divided by what stands behind it: that is turned over, so that the
+/// fraction itself is worked as it stands.
+bool Engine::TurnWhatFollows(const Group& group) {
+    const std::size_t begin = group.tail + 1;
+    const std::size_t end = EndOfDivisor(begin);
+    if (end == begin) {
         return false;
     }
-    const std::string divisor = TextBetween(tokens, group.tail + 1, end);
-    const std::string inside = TextBetween(tokens, group.begin, group.end);
-    const std::string_view before = TokenAt(group.begin - 2);
-    const bool joins = before == "*";
+    const bool joins = TokenAt(group.begin - 2) == "*";
+    const bool plus = group.terms.front().OpMark == "+";
     problem.log.StepReason = kFlipReason;
     ReplaceBetween(joins ? group.begin - 1 : group.begin - 2, end,
-                   Text(joins && inside.starts_with('+') ? inside.substr(1) : inside, "*1/",
-                        divisor));
+                   Text(TextBetween(tokens, group.begin + (joins && plus ? 1 : 0), group.end),
+                        "*1/", TextBetween(tokens, begin, end)));
     return true;
 }
 
@@ -135,8 +140,14 @@ bool Engine::RemoveAbsolute(std::size_t group) {
                 kOrdinaryStep);
     }
     const std::size_t open = bars.begin - 1;
-    if (open > 0 && TokenAt(open - 1) == "/" && term.Den != 1) {
+    // A fraction is not divided as it stands: what is under the line is turned over.
+    const std::size_t divisor = bars.tail + 1;
+    const std::size_t divisorEnd = TokenAt(bars.tail) == "/" ? EndOfDivisor(divisor) : divisor;
+    if (term.Den != 1 && open > 0 && TokenAt(open - 1) == "/") {
         ReplaceBetween(open - 1, bars.tail, Text("*", Flipped(term)));
+    } else if (term.Den != 1 && divisorEnd > divisor) {
+        ReplaceBetween(open, divisorEnd,
+                       Text(text, "*1/", TextBetween(tokens, divisor, divisorEnd)));
     } else {
         ReplaceBetween(open, bars.tail, text);
     }

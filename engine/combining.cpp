@@ -23,7 +23,10 @@ bool HasNegativeExponent(const Term& term) {
 
 /// The power of a number, moved over or under the line.
 void PlaceNumber(double base, float power, double& side, double& otherSide) {
-    const double value = Checked(std::pow(base, std::fabs(static_cast<double>(power))));
+    if (base == 0 && power <= 0) {
+        throw Failure(FailureKind::DivisionByZero);
+    }
+    const double value = PowerOf(base, std::fabs(power));
     double& place = power < 0 ? otherSide : side;
     place = Checked(place * value);
 }

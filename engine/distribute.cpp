@@ -22,6 +22,17 @@ bool HasNumberPowers(const Group& group) {
     return std::any_of(group.terms.begin(), group.terms.end(), HasNumberPower);
 }
 
+/// Whether a pair ends at this token, its exponent included.
+bool EndsPair(const Tokens& tokens, std::size_t at) {
+    std::size_t base = at;
+    if (at >= 2 && tokens[at - 1] == "^") {
+        base = at - 2;
+    } else if (at >= 3 && tokens[at - 1] == "-" && tokens[at - 2] == "^") {
+        base = at - 3;
+    }
+    return tokens[base] == ")" || tokens[base] == "|";
+}
+
 /// The product of two terms, sign first. Numbers multiply as Singles.
 std::string Product(const TypedProblem& typed, const Term& one, const Term& other) {
     const float over = ToSingle(static_cast<double>(one.Num) * static_cast<double>(other.Num));
@@ -77,7 +88,7 @@ bool Engine::DistributeFront(std::size_t group) {
                        " by each one of the terms inside the parenthesis."),
             kOrdinaryStep);
     const std::string_view begin = TokenAt(front.begin);
-    const std::string_view joint = begin == "*" ? "*" : begin == "/" ? "" : "+";
+    const std::string_view joint = begin == "*" ? "*" : IsSign(begin) ? "+" : "";
     ReplaceBetween(front.begin, factor.end, Text(joint, "(", products));
     return true;
 }
@@ -88,7 +99,7 @@ void Engine::DropStar(std::size_t group) {
     const std::size_t open = factor.begin - 1;
     const bool starred = tables.Depth > 0 && !factor.IsAbsolute && factor.Power == 1 && open > 1 &&
                          TokenAt(open - 1) == "*";
-    if (starred && TokenAt(open - 2) != ")" && TokenAt(open - 2) != "|") {
+    if (starred && !EndsPair(tokens, open - 2)) {
         ReplaceBetween(open - 1, open, "");
         RecordStep(Record::Refresh);
     }

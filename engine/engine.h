@@ -176,6 +176,7 @@ class Engine {
     // brackets.cpp
     bool RemoveBars();
     bool TakeParensAway(std::size_t group);
+    std::size_t EndOfDivisor(std::size_t begin) const;
     bool TurnWhatFollows(const Group& group);
 
     // distribute.cpp

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "core/failure.h"
 #include "core/number.h"
 #include "core/text.h"
 #include "engine/engine.h"
@@ -47,8 +48,9 @@ void Engine::FractionArithmetic(std::size_t group) {
         CombineCommonDenominators(group);
         DropZeros(group);
     }
-    const bool decimals =
-        inside([](const std::string& token) { return token.find('.') != std::string::npos; });
+    const bool decimals = inside([](const std::string& token) {
+        return token.find('.') != std::string::npos && token.find('E') == std::string::npos;
+    });
     const bool fractions =
         inside([](const std::string& token) { return token.find('/') != std::string::npos; });
     const std::size_t terms = GroupAt(group).terms.size();
@@ -60,6 +62,9 @@ void Engine::FractionArithmetic(std::size_t group) {
     }
     problem.log.StepLevel = kFineStep;
     MultiplyFractions(group);
+    if (inside([](const std::string& token) { return token == "*" || token == "/"; })) {
+        return;
+    }
     if (GroupAt(group).terms.size() > 1) {
         CombineCommonDenominators(group);
         DropZeros(group);
@@ -72,7 +77,8 @@ void Engine::FractionArithmetic(std::size_t group) {
 /// Works products and quotients of fractions from the left, one a line.
 void Engine::MultiplyFractions(std::size_t group) {
     bool found = false;
-    for (int pass = 0; pass < kMostPasses; ++pass) {
+    // A pass works a product and a quotient.
+    for (int work = 0; work < 2 * kMostPasses; ++work) {
         const Group& all = GroupAt(group);
         const auto begin = tokens.begin() + static_cast<std::ptrdiff_t>(all.begin);
         const auto end = tokens.begin() + static_cast<std::ptrdiff_t>(all.end);
@@ -85,6 +91,9 @@ void Engine::MultiplyFractions(std::size_t group) {
         const Ratio left = ReadFraction(*(at - 1));
         const Ratio right = ReadFraction(*(at + 1));
         const auto place = static_cast<std::size_t>(at - tokens.begin());
+        if (left.under == 0 || right.under == 0 || (*at == "/" && right.over == 0)) {
+            throw Failure(FailureKind::DivisionByZero);
+        }
         if (*at == "*") {
             Because("Multiply the numerators and denominators to form the new fraction.",
                     kFineStep);

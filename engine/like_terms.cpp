@@ -168,12 +168,14 @@ bool LikeTerms::TakeNumberPower(const Term& term) {
     Term rest = term;
     rest.NumText = LettersText(ReadLetters(term.NumText));
     rest.DenText = LettersText(ReadLetters(term.DenText));
-    const double over = std::pow(term.numOver, static_cast<double>(term.NumPower));
-    const double under = std::pow(term.numUnder, static_cast<double>(term.DenPower));
-    Replace(rest, Text(NumberText(Checked(over)), "/", NumberText(Checked(under))));
-    reason =
-        "Remove exponents by multiplying the number by itself the same number of times as the "
-        "exponent.";
+    const float overPower = term.NumText.starts_with('^') ? term.NumPower : 1;
+    const float underPower = term.DenText.starts_with('^') ? term.DenPower : 1;
+    Replace(rest, Text(NumberText(PowerOf(term.numOver, overPower)), "/",
+                       NumberText(PowerOf(term.numUnder, underPower))));
+    reason = overPower == 0 || underPower == 0
+                 ? "Any number raised to the 0th power is 1."
+                 : "Remove exponents by multiplying the number by itself the same number of times "
+                   "as the exponent.";
     return true;
 }
 

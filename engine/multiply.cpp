@@ -7,6 +7,7 @@
 #include "engine/display.h"
 #include "engine/engine.h"
 #include "engine/letters.h"
+#include "engine/number_forms.h"
 
 namespace numerello {
 
@@ -28,15 +29,11 @@ bool IsNumberPower(const std::string& letters) {
 
 /// A negative power goes to the other side of the line.
 void TakePower(double base, float power, double& side, double& otherSide) {
-    const double value = Checked(std::pow(base, std::fabs(static_cast<double>(power))));
-    if (power < 0) {
-        if (value == 0) {
-            throw Failure(FailureKind::DivisionByZero);
-        }
-        otherSide = Checked(otherSide * value);
-    } else {
-        side = Checked(side * value);
+    if (base == 0 && power <= 0) {
+        throw Failure(FailureKind::DivisionByZero);
     }
+    double& place = power < 0 ? otherSide : side;
+    place = Checked(place * PowerOf(base, std::fabs(power)));
 }
 
 FactorNumbers NumbersOf(const Term& factor) {

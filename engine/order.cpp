@@ -240,7 +240,8 @@ bool Engine::IsSumOfFractions(std::size_t group) const {
     }
     const Group& all = GroupAt(group);
     const bool outside = tables.Depth == 0 || (tables.Depth == 1 && all.IsAbsolute);
-    if (!outside || !std::all_of(all.terms.begin(), all.terms.end(), IsConstant)) {
+    if (!problem.settings.UseFractions || !outside ||
+        !std::all_of(all.terms.begin(), all.terms.end(), IsConstant)) {
         return false;
     }
     std::size_t fractions = 0;

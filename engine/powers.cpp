@@ -179,7 +179,7 @@ bool Engine::ExpandPower(std::size_t group) {
     if (base.Power == 1) {
         return false;
     }
-    if (base.Power <= 0 && base.terms.size() == 1 && base.terms.front().numOver == 0) {
+    if (base.Power < 0 && base.terms.size() == 1 && base.terms.front().numOver == 0) {
         throw Failure(FailureKind::DivisionByZero);
     }
     if (base.Power == 0) {

@@ -181,7 +181,8 @@ class TableReader {
         group.IsAbsolute = tokens[at] == "|";
         const std::size_t start = FrontStart(at);
         // A bare minus is a factor of -1.
-        if (start + 1 < at || (start < at && tokens[start] == "-")) {
+        const bool bare = start + 1 == at && (tokens[start] == "+" || tokens[start] == "*");
+        if (start < at && !bare) {
             group.front = TermReader(tokens, start, at).Read();
         }
         tables.groups.push_back(std::move(group));
@@ -218,7 +219,7 @@ class TableReader {
             const std::string& before = tokens[at - 1];
             const bool divides = before == "/" && at == open;
             if (divides || kStops.find(before) != std::string_view::npos) {
-                return at;
+                return BehindExponent(at, open);
             }
             --at;
             if (BeginsTerm(tokens, at)) {
@@ -226,6 +227,15 @@ class TableReader {
             }
         }
         return at;
+    }
+
+    /// The exponent of the pair before is no factor.
+    std::size_t BehindExponent(std::size_t at, std::size_t open) const {
+        if (at >= open || tokens[at] != "^") {
+            return at;
+        }
+        at += tokens[at + 1] == "-" ? 3 : 2;
+        return std::min(at, open);
     }
 
     void ReadTerms(Group& group) {

@@ -40,10 +40,9 @@ void CalculateFractions(SolveRun& run) {
     run.problem.settings.UseFractions = true;
     Engine engine(run.problem);
     engine.Open();
-    const auto fractions =
-        std::count_if(engine.Line().begin(), engine.Line().end(), [](const std::string& token) {
-            return token.find('/') != std::string::npos;
-        });
+    const auto fractions = std::count_if(
+        engine.Line().begin(), engine.Line().end(),
+        [](const std::string& token) { return token.find('/') != std::string::npos; });
     if (engine.Tables().groups.front().terms.size() > 1 || fractions >= 2) {
         engine.FractionArithmetic(0);
     }

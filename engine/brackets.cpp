@@ -61,8 +61,8 @@ bool Engine::TakeParensAway(std::size_t group) {
     const bool oneTerm = pair.terms.size() == 1;
     const bool divided = before == "/";
 
-    const bool bound = after == "(" || !IsOperator(before) || pair.NextGroup >= 0 || pair.front ||
-                       pair.Power != 1;
+    const bool bound =
+        after == "(" || !IsOperator(before) || pair.NextGroup >= 0 || pair.front || pair.Power != 1;
     const bool freed = after == "(" && oneTerm && divided;
     const bool stays = bound || (divided && !oneTerm) || (after == "*" && !oneTerm) ||
                        (before == "*" && IsFraction(factor) && after != "/");

@@ -55,8 +55,8 @@ class Multiples {
 
     /// The first factor from `from` up whose multiple lies within `tolerance` of a whole number.
     std::int64_t FirstNear(std::int64_t from, double tolerance) const {
-        const auto slack = static_cast<std::int64_t>(
-            std::floor(tolerance * static_cast<double>(one)));
+        const auto slack =
+            static_cast<std::int64_t>(std::floor(tolerance * static_cast<double>(one)));
         if (2 * slack >= one) {
             return from;
         }

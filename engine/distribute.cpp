@@ -84,8 +84,7 @@ bool Engine::DistributeFront(std::size_t group) {
     const std::string name = Shown(NameOf(front));
     Because(factor.terms.size() == 1
                 ? Text("Multiply the ", name, " by the term inside the parenthesis.")
-                : Text("Multiply the ", name,
-                       " by each one of the terms inside the parenthesis."),
+                : Text("Multiply the ", name, " by each one of the terms inside the parenthesis."),
             kOrdinaryStep);
     const std::string_view begin = TokenAt(front.begin);
     const std::string_view joint = begin == "*" ? "*" : IsSign(begin) ? "+" : "";

@@ -148,8 +148,8 @@ bool Engine::StateTruth(const std::string& variable, bool ownLine) {
     }
     UseSide(1);
     log.StepText[log.StepCount - 1] = Text(left, "$", right);
-    log.StepNote[log.StepCount - 1] = Text("Since ", left, " does not equal ", right,
-                                           ", this equation has no solutions.");
+    log.StepNote[log.StepCount - 1] =
+        Text("Since ", left, " does not equal ", right, ", this equation has no solutions.");
     return false;
 }
 
@@ -220,9 +220,9 @@ void Engine::DivideBothSides(const std::string& variable, const Ratio& divisor) 
             const Ratio magnitude{std::fabs(quotient.over), std::fabs(quotient.under)};
             const std::string sign = term.Num < 0 ? "-" : first ? "" : "+";
             shown += Text(sign, "#", Shown(MagnitudeOf(term)), "/[", by, "]#");
-            worked += TermText(negative ? "-" : "+",
-                               NumberToFractionText(problem.settings, magnitude), term.NumText,
-                               term.DenText);
+            worked +=
+                TermText(negative ? "-" : "+", NumberToFractionText(problem.settings, magnitude),
+                         term.NumText, term.DenText);
             first = false;
         }
     }
@@ -248,8 +248,7 @@ std::string Engine::SideToPlainText() const {
                 continue;
             }
             plain += Text(term.Num < 0 ? "-" : "+", SingleValueText(std::fabs(term.Num)), "/",
-                          SingleValueText(std::fabs(term.Den)),
-                          Replace(term.NumText, "^", "^+"));
+                          SingleValueText(std::fabs(term.Den)), Replace(term.NumText, "^", "^+"));
         }
         text += side == 0 ? "" : "=";
         text += plain.empty() ? "+0" : plain;

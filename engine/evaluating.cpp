@@ -43,8 +43,7 @@ void Engine::EvaluateBySubstitution(Learner& learner) {
     for (int i = 1; i < typed.VarCount; ++i) {
         const std::string& letter = typed.VarNames[i];
         const std::string& value = values[static_cast<std::size_t>(i)];
-        std::string text =
-            Replace(WithoutEmphasis(ExprToText()), letter, Text("[(", value, ")]"));
+        std::string text = Replace(WithoutEmphasis(ExprToText()), letter, Text("[(", value, ")]"));
         text = Replace(Replace(text, "+1[", "+["), "-1[", "-[");
         Because(Text("Replace all the [", letter, "]'s in the expression with ", value, " ."),
                 kLightStep);

@@ -97,17 +97,17 @@ void Engine::MultiplyFractions(std::size_t group) {
         if (*at == "*") {
             Because("Multiply the numerators and denominators to form the new fraction.",
                     kFineStep);
-            ReplaceBetween(place - 1, place + 2,
-                           FractionOf(Checked(left.over * right.over),
-                                      Checked(left.under * right.under)));
+            ReplaceBetween(
+                place - 1, place + 2,
+                FractionOf(Checked(left.over * right.over), Checked(left.under * right.under)));
         } else {
             Because(
                 "To divide two fractions, flip the numerator and denominator of one of the "
                 "fractions, then multiply the fractions.",
                 kFineStep);
-            ReplaceBetween(place - 1, place + 2,
-                           Text(FractionOf(left.over, left.under), "*",
-                                FractionOf(right.under, right.over)));
+            ReplaceBetween(
+                place - 1, place + 2,
+                Text(FractionOf(left.over, left.under), "*", FractionOf(right.under, right.over)));
         }
         RecordStep();
     }
@@ -193,8 +193,8 @@ bool Engine::DropZeros(std::size_t group) {
     for (const Term& term : terms) {
         text += term.Num == 0 ? "" : Written(term);
     }
-    const bool none = std::none_of(terms.begin(), terms.end(),
-                                   [](const Term& term) { return term.Num == 0; });
+    const bool none =
+        std::none_of(terms.begin(), terms.end(), [](const Term& term) { return term.Num == 0; });
     if (none || terms.size() == 1) {
         return false;
     }

@@ -36,7 +36,6 @@ struct LetterRatio {
 
 /// Letters over a line divided by those under it: what cancels is left out, negative exponents
 /// change their side.
-LetterRatio DivideLetters(const TypedProblem& typed, std::string_view over,
-                          std::string_view under);
+LetterRatio DivideLetters(const TypedProblem& typed, std::string_view over, std::string_view under);
 
 }  // namespace numerello

@@ -78,8 +78,7 @@ bool HasDecimals(const Term& term, const std::string& written) {
 }  // namespace
 
 bool IsConstant(const Term& term) {
-    return !HasLetters(term.NumText) && !HasLetters(term.DenText) &&
-           !term.NumText.starts_with('~');
+    return !HasLetters(term.NumText) && !HasLetters(term.DenText) && !term.NumText.starts_with('~');
 }
 
 std::string TermText(std::string_view sign, std::string_view coefficient, std::string_view NumText,
@@ -99,9 +98,7 @@ std::string TermText(std::string_view sign, std::string_view coefficient, std::s
 }
 
 LikeTerms::LikeTerms(const Problem& problem, bool keepFractions)
-    : settings(problem.settings),
-      code(problem.topic.ProblemType),
-      keepFractions(keepFractions) {}
+    : settings(problem.settings), code(problem.topic.ProblemType), keepFractions(keepFractions) {}
 
 void LikeTerms::Take(const Term& term, const std::string& written) {
     if (term.Den == 0) {
@@ -139,8 +136,8 @@ void LikeTerms::Replace(const Term& term, const std::string& coefficient) {
     LikeRow row;
     row.merges = false;
     row.isZero = coefficient == "0";
-    row.written = TermText(SignOf(static_cast<double>(term.Num)), coefficient, term.NumText,
-                           term.DenText);
+    row.written =
+        TermText(SignOf(static_cast<double>(term.Num)), coefficient, term.NumText, term.DenText);
     if (IsConstant(term)) {
         constants.push_back(row);
     } else {
@@ -232,8 +229,7 @@ bool LikeTerms::Reduce(const Term& term) {
 
 /// Turns a fraction into a decimal.
 bool LikeTerms::Divide(const Term& term) {
-    const std::string value =
-        NumberToFractionText(settings, {term.numOver, term.numUnder});
+    const std::string value = NumberToFractionText(settings, {term.numOver, term.numUnder});
     const std::string fraction = Text(NumberText(term.numOver), "/", NumberText(term.numUnder));
     Replace(term, value);
     reason = IsConstant(term)
@@ -264,8 +260,8 @@ void LikeTerms::TakeConstant(const Term& term, const std::string& written) {
 void LikeTerms::TakeLetters(const Term& term, const std::string& written) {
     LikeRow row;
     row.sum = RatioOf(term);
-    row.NumText = term.NumText.starts_with('~') ? term.NumText
-                                                : LettersText(ReadLetters(term.NumText));
+    row.NumText =
+        term.NumText.starts_with('~') ? term.NumText : LettersText(ReadLetters(term.NumText));
     row.DenText = LettersText(ReadLetters(term.DenText));
     row.isZero = term.Num == 0;
     row.written = written;
@@ -285,16 +281,16 @@ void LikeTerms::Merge(LikeRow& row, const Term& term, const std::string& written
     row.sum = Sum(row.sum, RatioOf(term));
     row.alone = false;
     const Ratio magnitude{std::fabs(row.sum.over), row.sum.under};
-    row.written = row.sum.over == 0 ? ""
-                                    : TermText(SignOf(row.sum.over),
-                                               NumberToFractionText(settings, magnitude),
-                                               row.NumText, row.DenText);
+    row.written = row.sum.over == 0
+                      ? ""
+                      : TermText(SignOf(row.sum.over), NumberToFractionText(settings, magnitude),
+                                 row.NumText, row.DenText);
     const std::string result = row.written.empty() ? "0" : Shown(WithoutPlus(row.written));
     changed = true;
-    reason = term.OpMark == "-"
-                 ? Text("Subtract ", added, " from ", before, " to form the new term (", result,
-                        ").")
-                 : Text("Add ", before, " and ", added, " to form the new term (", result, ").");
+    reason =
+        term.OpMark == "-"
+            ? Text("Subtract ", added, " from ", before, " to form the new term (", result, ").")
+            : Text("Add ", before, " and ", added, " to form the new term (", result, ").");
 }
 
 /// A zero that no other term took. It stays among numbers and goes without a word beside letters.

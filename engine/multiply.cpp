@@ -124,7 +124,8 @@ bool Engine::MultiplyPair(std::size_t group) {
               "root."
             : Text("Multiply ", FactorText(one), " by ", FactorText(other),
                    " using the order of operations.");
-    SetText(Text(TextBetween(tokens, 0, one.begin), one.OpMark, ProductText(problem.typed, one, other),
+    SetText(Text(TextBetween(tokens, 0, one.begin), one.OpMark,
+                 ProductText(problem.typed, one, other),
                  TextBetween(tokens, other.end, tokens.size())));
     RecordStep();
     return true;
@@ -145,8 +146,8 @@ bool Engine::MultiplyPass(std::size_t group) {
 
 bool Engine::ReorderFactor(std::size_t group) {
     const Group& pair = GroupAt(group);
-    const bool multiplied = !pair.IsAbsolute && tables.Depth > 0 && pair.Power == 1 &&
-                            TokenAt(pair.tail) == "*";
+    const bool multiplied =
+        !pair.IsAbsolute && tables.Depth > 0 && pair.Power == 1 && TokenAt(pair.tail) == "*";
     const bool divides = pair.begin > 1 && TokenAt(pair.begin - 2) == "/";
     if (!multiplied || divides) {
         return false;

@@ -85,9 +85,8 @@ std::string WrittenOutText(const Term& term, const WrittenOut& factors) {
 
 /// A negative power beside a denominator of its own stands as a fraction by itself.
 std::string ExpandedTerm(const Term& term, WrittenOut& factors) {
-    const bool splits =
-        term.NumText.starts_with('^') && term.NumPower < 0 && term.DivideMark &&
-        !term.DenText.starts_with('^');
+    const bool splits = term.NumText.starts_with('^') && term.NumPower < 0 && term.DivideMark &&
+                        !term.DenText.starts_with('^');
     if (!splits) {
         factors = Factors(term);
         return WrittenOutText(term, factors);
@@ -146,8 +145,7 @@ bool Engine::ExpandConstantTerms(std::size_t group) {
         text += term.OpMark + ExpandedTerm(term, factors);
         zeroPower = zeroPower || factors.zeroPower;
     }
-    Because(zeroPower ? "Any number raised to the 0th power is 1."
-                      : std::string(kWrittenOutReason),
+    Because(zeroPower ? "Any number raised to the 0th power is 1." : std::string(kWrittenOutReason),
             kOrdinaryStep);
     ReplaceGroup(group, text);
     RecordStep();

@@ -198,10 +198,10 @@ std::string Engine::FactoredTerm(const Term& term, int g, float least) const {
     for (LetterPower& each : letters) {
         each.exponent -= each.letter == problem.typed.VarNames[1] ? least : 0;
     }
-    return Text(sign,
-                NumberToFractionText(problem.settings,
-                                     {std::fabs(value), static_cast<double>(term.Den)}),
-                LettersText(letters));
+    return Text(
+        sign,
+        NumberToFractionText(problem.settings, {std::fabs(value), static_cast<double>(term.Den)}),
+        LettersText(letters));
 }
 
 bool Engine::FactorByRoots(std::size_t group) {
@@ -257,8 +257,7 @@ void Engine::FactorQuadratic(const std::string& variable) {
     std::string factors;
     std::string solutions;
     for (const double root : roots) {
-        const std::string value =
-            NumberToFractionText(problem.settings, {std::fabs(root), 1});
+        const std::string value = NumberToFractionText(problem.settings, {std::fabs(root), 1});
         factors += Text("(", variable, root > 0 ? "-" : "+", value, ")");
         solutions += Text(solutions.empty() ? "" : ",", root < 0 ? "-" : "", value);
     }

@@ -37,7 +37,7 @@ std::size_t TermCount(const TermTables& tables) {
 }  // namespace
 
 void Engine::Open() {
-    tokens = CellsToTokens(problem.typed);
+    SetText(TokensToText(CellsToTokens(problem.typed)));
     RecordStep();
 }
 

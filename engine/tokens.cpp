@@ -178,11 +178,10 @@ Tokens CellsToTokens(TypedProblem& typed) {
         const std::string& token = typed.ExprCells[cell];
         tokens.push_back(token == "{" ? "/" : token);
     }
-    const std::string text = TokensToText(tokens);
-    if (DividesByZero(text)) {
+    if (DividesByZero(TokensToText(tokens))) {
         throw Failure(FailureKind::DivisionByZero);
     }
-    return TextToTokens(text);
+    return tokens;
 }
 
 }  // namespace numerello

@@ -41,7 +41,7 @@ std::string WithoutEmphasis(std::string_view text);
 /// or a "~" already. What is put together stays so.
 Tokens MergeNumberTokens(const Tokens& tokens, int ProblemType);
 
-/// The characters that the cells of the typed line stand for. Throws Failure(DivisionByZero) when the
+/// The tokens that the cells of the typed line stand for. Throws Failure(DivisionByZero) when the
 /// line divides by a literal 0.
 Tokens CellsToTokens(TypedProblem& typed);
 

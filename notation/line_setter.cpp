@@ -100,8 +100,8 @@ void LineSetter::CloseEmphasis() {
     line.back().after += "]";
 }
 
-/// In parentheses or bars under a fraction bar. Nobody types a fraction there, but one may arise; it
-/// is written with a plain "/".
+/// In parentheses or bars under a fraction bar. Nobody types a fraction there, but one may arise;
+/// it is written with a plain "/".
 bool LineSetter::IsWithinDenominator() const {
     return point.InFraction &&
            (point.ParenDepth > point.FractionDepth || (point.AbsOpen && point.barInFraction));

@@ -24,7 +24,9 @@ class RecordingLearner : public Learner {
         messages.emplace_back(title, text);
         return agrees;
     }
-    std::optional<std::string> InputBox(std::string_view, std::string_view) override { return std::nullopt; }
+    std::optional<std::string> InputBox(std::string_view, std::string_view) override {
+        return std::nullopt;
+    }
 };
 
 class RecordingStage : public Stage {

@@ -14,8 +14,6 @@ namespace numerello {
 
 namespace {
 
-constexpr int kOrdinaryStep = 2;
-
 bool HasNegativeExponent(const Term& term) {
     return term.NumText.find("^-") != std::string::npos ||
            term.DenText.find("^-") != std::string::npos;
@@ -108,8 +106,11 @@ void Engine::CombineTerms(std::size_t group, NegativeExponents negatives, Record
     if (!like.Reason().empty()) {
         problem.log.StepReason = like.Reason();
     }
-    ReplaceGroup(group, changed ? like.GroupText()
-                                : WithoutEmphasis(TextBetween(tokens, all.begin, all.end)));
+    if (changed) {
+        ReplaceGroup(group, like.GroupText());
+    } else if (Holds("[")) {
+        ReplaceGroup(group, WithoutEmphasis(TextBetween(tokens, all.begin, all.end)));
+    }
     RecordSorted(group, changed, record);
 }
 
@@ -140,7 +141,7 @@ void Engine::RecordSorted(std::size_t group, bool changed, Record record) {
         RecordStep(record);
         return;
     }
-    if (!outside || OrderNoteGiven) {
+    if (!outside || orderNoteGiven) {
         ReplaceGroup(group, sorted);
         RecordStep(record);
         return;
@@ -148,7 +149,7 @@ void Engine::RecordSorted(std::size_t group, bool changed, Record record) {
     if (changed) {
         RecordStep(record);
     }
-    OrderNoteGiven = true;
+    orderNoteGiven = true;
     ReplaceGroup(group, sorted);
     problem.log.StepReason =
         "Polynomials are written in decreasing order of terms. The largest term or the term with "
@@ -161,6 +162,7 @@ void Engine::RecordSorted(std::size_t group, bool changed, Record record) {
 std::string Engine::SortTerms(std::size_t group) const {
     const std::vector<Term>& terms = GroupAt(group).terms;
     std::vector<const Term*> order;
+    order.reserve(terms.size());
     for (const Term& term : terms) {
         order.push_back(&term);
     }

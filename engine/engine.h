@@ -28,10 +28,10 @@ class Engine {
     /// Failure(DivisionByZero) for a literal division by 0.
     void Open();
 
-    std::string ExprToText() const { return TokensToText(tokens); }
+    std::string ExprToText() const { return isRead ? lineText : TokensToText(tokens); }
 
     /// Replaces the expression, one character a token.
-    void SetText(std::string_view text) { tokens = TextToTokens(text); }
+    void SetText(std::string_view text);
 
     enum class Record {
         Line,           ///< stores the new line, if it is one
@@ -153,6 +153,7 @@ class Engine {
     void ReplaceGroup(std::size_t group, std::string_view text);
     void Because(std::string reason, int level);
 
+    void ReadLine();
     void CleanReason();
     bool IsStored(const std::string& line) const;
 
@@ -212,8 +213,12 @@ class Engine {
     Problem& problem;
     Tokens tokens;
     TermTables tables;
+    bool isRead = false;    ///< the tables are those of the tokens
+    int readSide = 0;       ///< and of this side
+    std::string lineText;   ///< the tokens joined, once they are read
+    std::string shownLine;  ///< the line as the learner sees it
     std::size_t lastTermCount = 0;
-    bool OrderNoteGiven = false;
+    bool orderNoteGiven = false;
 };
 
 }  // namespace numerello

@@ -66,6 +66,9 @@ void Engine::UseSide(int side) {
 }
 
 std::vector<Term> Engine::TermsOf(int side) const {
+    if (isRead && side == readSide) {
+        return tables.groups.front().terms;
+    }
     TermTables read = BreakIntoTerms(tokens, side);
     if (ReadsFirstExponents) {
         TellFirstExponents(read);

@@ -148,8 +148,8 @@ bool Engine::CombinePair(std::size_t group) {
 /// The sum stands first, the others follow.
 void Engine::AddPair(std::size_t group, std::size_t one, std::size_t other) {
     const std::vector<Term>& terms = GroupAt(group).terms;
-    const double first = static_cast<double>(terms[one].Num);
-    const double second = static_cast<double>(terms[other].Num);
+    const auto first = static_cast<double>(terms[one].Num);
+    const auto second = static_cast<double>(terms[other].Num);
     const int n = ToInteger16(first + second);
     const std::string sum = WholeText(n);
     const std::string under = NumberText(terms[one].numUnder);

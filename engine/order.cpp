@@ -50,7 +50,7 @@ void Engine::OpenLetterProducts() {
         }
         opened.push_back(token);
     }
-    tokens = std::move(opened);
+    SetText(TokensToText(opened));
     RecordStep(Record::Refresh);
 }
 

@@ -41,30 +41,50 @@ void Engine::Open() {
     RecordStep();
 }
 
-void Engine::RecordStep(Record record) {
-    const int code = problem.topic.ProblemType;
-    tokens = MergeNumberTokens(tokens, code);
-    const bool signBehindSlash = HasSignBehindSlash(tokens);
-    tokens = NormaliseTokens(tokens);
-    if (signBehindSlash) {
-        tokens = MergeNumberTokens(TextToTokens(ExprToText()), code);
+void Engine::SetText(std::string_view text) {
+    if (isRead && text == lineText) {
+        return;
+    }
+    tokens = TextToTokens(text);
+    isRead = false;
+}
+
+/// Puts the tokens in order and reads the tables; what has not changed since is not read again.
+void Engine::ReadLine() {
+    if (isRead && readSide == Side) {
+        return;
+    }
+    if (!isRead) {
+        const int code = problem.topic.ProblemType;
+        tokens = MergeNumberTokens(tokens, code);
+        const bool signBehindSlash = HasSignBehindSlash(tokens);
+        tokens = NormaliseTokens(tokens);
+        if (signBehindSlash) {
+            tokens = MergeNumberTokens(TextToTokens(TokensToText(tokens)), code);
+        }
+        lineText = TokensToText(tokens);
+        shownLine = DisplayText(tokens, code);
     }
     tables = BreakIntoTerms(tokens, Side);
     if (ReadsFirstExponents) {
         TellFirstExponents(tables);
     }
-    const std::string line = DisplayText(tokens, code);
-    CleanReason();
+    isRead = true;
+    readSide = Side;
+}
 
+void Engine::RecordStep(Record record) {
+    ReadLine();
     StepLog& log = problem.log;
     const bool sameTerms = TermCount(tables) == lastTermCount && !TermsChanged;
-    if ((record == Record::OnlyIfChanged && sameTerms) || line == log.LastStepLine) {
+    if ((record == Record::OnlyIfChanged && sameTerms) || shownLine == log.LastStepLine) {
         log.StepUnchanged = true;
-    } else if (record != Record::Refresh && IsStored(line)) {
+    } else if (record != Record::Refresh && IsStored(shownLine)) {
+        CleanReason();
         log.StepLevels[log.StepCount] = log.StepLevel;
-        log.LastStepLine = line;
+        log.LastStepLine = shownLine;
         log.StepUnchanged = false;
-        log.Write(line, log.StepReason);
+        log.Write(shownLine, log.StepReason);
     }
     lastTermCount = TermCount(tables);
 }

@@ -36,19 +36,15 @@ void SchoolProblems(benchmark::State& state) {
     constexpr const char* kPolynomials = "Simplifying Polynomials";
     constexpr const char* kComplex = "Complex Arithmetic Expressions";
     constexpr const char* kFractions = "Fraction Arithmetic";
-    SolveInTurn(state, {TypedProblemOf(kEquations, "2x+3=7"),
-                        TypedProblemOf(kEquations, "3x-4=2x+5"),
-                        TypedProblemOf(kEquations, "-x=4"),
-                        TypedProblemOf(kEquations, "2x+3=4x-5"),
-                        TypedProblemOf(kPolynomials, "3x+2x"),
-                        TypedProblemOf(kPolynomials, "2(x+3)"),
-                        TypedProblemOf(kPolynomials, "(x+1)*(x-1)"),
-                        TypedProblemOf("Arithmetic", "4+2*3-5"),
-                        TypedProblemOf(kComplex, "2*(3+4)*5"),
-                        TypedProblemOf(kFractions, "1/2+1/3"),
-                        TypedProblemOf(kFractions, "5/6+1/4-1/2"),
-                        TypedProblemOf(kComplex, "2^3*(5-3)^2"),
-                        TypedProblemOf("Absolute Values", "|-5|+3")});
+    SolveInTurn(
+        state,
+        {TypedProblemOf(kEquations, "2x+3=7"), TypedProblemOf(kEquations, "3x-4=2x+5"),
+         TypedProblemOf(kEquations, "-x=4"), TypedProblemOf(kEquations, "2x+3=4x-5"),
+         TypedProblemOf(kPolynomials, "3x+2x"), TypedProblemOf(kPolynomials, "2(x+3)"),
+         TypedProblemOf(kPolynomials, "(x+1)*(x-1)"), TypedProblemOf("Arithmetic", "4+2*3-5"),
+         TypedProblemOf(kComplex, "2*(3+4)*5"), TypedProblemOf(kFractions, "1/2+1/3"),
+         TypedProblemOf(kFractions, "5/6+1/4-1/2"), TypedProblemOf(kComplex, "2^3*(5-3)^2"),
+         TypedProblemOf("Absolute Values", "|-5|+3")});
 }
 BENCHMARK(SchoolProblems);
 

@@ -1,5 +1,7 @@
 #include "app/graph_equation.h"
 
+#include <algorithm>
+#include <cctype>
 #include <optional>
 #include <string>
 
@@ -23,6 +25,14 @@ bool Holds(const std::string& text, const std::string& letter) {
     return !letter.empty() && text.find(letter) != std::string::npos;
 }
 
+/// Letters are typed small, whatever the key.
+std::string LowerCase(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(), [](char c) {
+        return static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    });
+    return text;
+}
+
 Letters ChooseLetters(const TypedProblem& typed, Learner& learner) {
     const std::string& first = typed.VarNames[1];
     const std::string& second = typed.VarNames[2];
@@ -38,8 +48,9 @@ Letters ChooseLetters(const TypedProblem& typed, Learner& learner) {
         if (!answer) {
             throw Failure(FailureKind::Unanswered);
         }
-        if (FindVariable(typed, *answer) != 0) {
-            return {*answer, *answer == first ? second : first};
+        const std::string letter = LowerCase(*answer);
+        if (FindVariable(typed, letter) != 0) {
+            return {letter, letter == first ? second : first};
         }
     }
 }
@@ -94,8 +105,6 @@ void GraphEquation(SolveRun& run) {
         return;
     }
     const std::string text = engine.SideToPlainText();
-    problem.log.StepReason = Text("Simplify the fractions to solve for [", letters.solved, "].");
-    engine.RecordStep();
     FillVariants(problem.typed, RenamedForGraph(text, letters), problem.topic.ProblemType);
     problem.graph.GraphMode = kEquationGraph;
 }

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "catalogue/topic_codes.h"
+#include "core/topic_codes.h"
 #include "core/number.h"
 #include "core/text.h"
 

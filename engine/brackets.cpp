@@ -4,26 +4,17 @@
 #include "core/number.h"
 #include "core/text.h"
 #include "engine/engine.h"
-#include "engine/like_terms.h"
+#include "engine/reasons.h"
+#include "engine/step_levels.h"
+#include "engine/term_text.h"
 
 namespace numerello {
 
 namespace {
 
-constexpr int kOrdinaryStep = 2;
-
-constexpr std::string_view kFlipReason =
-    "To divide two fractions, flip the numerator and denominator of one of the fractions, then "
-    "multiply the fractions.";
-
-bool IsAFraction(const Term& term) {
+/// Whether a "/" stands in the term.
+bool IsDivided(const Term& term) {
     return term.DivideMark || term.FractionText.find('/') != std::string::npos;
-}
-
-/// The term upside down, without its sign.
-std::string Flipped(const Term& term) {
-    return TermText("", Text(NumberText(term.numUnder), "/", NumberText(term.numOver)),
-                    term.DenText, term.NumText);
 }
 
 }  // namespace
@@ -74,16 +65,16 @@ bool Engine::TakeParensAway(std::size_t group) {
         return false;
     }
 
-    Because("Remove the parenthesis.", kOrdinaryStep);
     const Term& first = pair.terms.front();
-    if (divided && IsAFraction(first)) {
-        problem.log.StepReason = kFlipReason;
+    if (divided && IsDivided(first)) {
+        Because(std::string(kFlipReason), kOrdinaryStep);
         ReplaceBetween(open - 1, pair.tail, Text("*", first.OpMark, Flipped(first)));
         return true;
     }
-    if (after == "/" && IsAFraction(first)) {
+    if (after == "/" && IsDivided(first)) {
         return TurnWhatFollows(pair);
     }
+    Because(std::string(kRemoveParensReason), kOrdinaryStep);
     const bool joins = before == "*" || divided;
     const std::size_t inner = pair.begin + (joins && first.OpMark == "+" ? 1 : 0);
     ReplaceBetween(joins ? open : open - 1, pair.tail, TextBetween(tokens, inner, pair.end));
@@ -110,7 +101,7 @@ bool Engine::TurnWhatFollows(const Group& group) {
     }
     const bool joins = TokenAt(group.begin - 2) == "*";
     const bool plus = group.terms.front().OpMark == "+";
-    problem.log.StepReason = kFlipReason;
+    Because(std::string(kFlipReason), kOrdinaryStep);
     ReplaceBetween(joins ? group.begin - 1 : group.begin - 2, end,
                    Text(TextBetween(tokens, group.begin + (joins && plus ? 1 : 0), group.end),
                         "*1/", TextBetween(tokens, begin, end)));

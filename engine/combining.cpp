@@ -1,14 +1,14 @@
 #include <algorithm>
-#include <cmath>
 #include <string>
 
-#include "core/failure.h"
 #include "core/number.h"
 #include "core/text.h"
 #include "engine/engine.h"
 #include "engine/letters.h"
 #include "engine/like_terms.h"
 #include "engine/number_forms.h"
+#include "engine/reasons.h"
+#include "engine/term_text.h"
 
 namespace numerello {
 
@@ -19,29 +19,10 @@ bool HasNegativeExponent(const Term& term) {
            term.DenText.find("^-") != std::string::npos;
 }
 
-/// The power of a number, moved over or under the line.
-void PlaceNumber(double base, float power, double& side, double& otherSide) {
-    if (base == 0 && power <= 0) {
-        throw Failure(FailureKind::DivisionByZero);
-    }
-    const double value = PowerOf(base, std::fabs(power));
-    double& place = power < 0 ? otherSide : side;
-    place = Checked(place * value);
-}
-
 /// The term without negative exponents, its coefficient reduced.
 std::string ReduceTerm(const Problem& problem, const Term& term) {
-    const bool overPower = term.NumText.starts_with('^');
-    const bool underPower = term.DenText.starts_with('^');
-    double over = 1;
-    double under = 1;
-    PlaceNumber(term.numOver, overPower ? term.NumPower : 1, over, under);
-    PlaceNumber(term.numUnder, underPower ? term.DenPower : 1, under, over);
-    if (under == 0) {
-        throw Failure(FailureKind::DivisionByZero);
-    }
     const LetterRatio letters = DivideLetters(problem.typed, term.NumText, term.DenText);
-    return TermText(term.OpMark, NumberToFractionText(problem.settings, {over, under}),
+    return TermText(term.OpMark, NumberToFractionText(problem.settings, NumbersOf(term)),
                     letters.over, letters.under);
 }
 
@@ -99,7 +80,7 @@ void Engine::CombineTerms(std::size_t group, NegativeExponents negatives, Record
     }
     Because(HoldsRoot() ? "Simplfy the square roots by removing any perfect squares from under "
                           "the radical."
-                        : "Reorder the polynomial.",
+                        : std::string(kReorderReason),
             problem.log.StepLevel);
     const bool changed = like.IsChanged();
     TermsChanged = changed;

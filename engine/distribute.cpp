@@ -8,14 +8,14 @@
 #include "core/text.h"
 #include "engine/engine.h"
 #include "engine/letters.h"
-#include "engine/like_terms.h"
 #include "engine/number_forms.h"
+#include "engine/step_levels.h"
+#include "engine/term_text.h"
 
 namespace numerello {
 
 namespace {
 
-constexpr int kOrdinaryStep = 2;
 constexpr std::size_t kTopProduct = 100;
 
 bool HasNumberPowers(const Group& group) {
@@ -47,13 +47,6 @@ std::string Product(const TypedProblem& typed, const Term& one, const Term& othe
                     Text(SingleValueText(std::fabs(over)), "/", SingleValueText(under)),
                     MultiplyLetters(typed, one.NumText, other.NumText),
                     MultiplyLetters(typed, one.DenText, other.DenText));
-}
-
-/// A term without a "+" and with a unit in place of a bare sign: what a reason calls it.
-std::string NameOf(const Term& term) {
-    return TermText(term.Num < 0 ? "-" : "",
-                    Text(NumberText(term.numOver), "/", NumberText(term.numUnder)), term.NumText,
-                    term.DenText);
 }
 
 }  // namespace
@@ -114,7 +107,7 @@ bool Engine::ReduceFront(std::size_t group) {
         return false;
     }
     const std::string reduced = ReduceRatio(over, under);
-    if (reduced == Text(NumberText(over), "/", NumberText(under))) {
+    if (reduced == RatioText(over, under)) {
         return false;
     }
     Because("Reduce the term in front of the parenthesis before multiplying.", kOrdinaryStep);
@@ -147,31 +140,29 @@ bool Engine::MultiplyGroups(std::size_t first) {
             products += Product(problem.typed, left, right);
         }
     }
-    const Term& left = one.terms.front();
-    const Term& right = other.terms.front();
-    const std::string leftName = Shown(NameOf(left));
-    const std::string rightName = Shown(NameOf(right));
-    const bool single = one.terms.size() == 1 && other.terms.size() == 1;
-    if (single && IsConstant(left) && IsConstant(right)) {
-        const std::string product = products.starts_with('+') ? products.substr(1) : products;
-        Because(Text("Multiply the ", leftName, " by ", rightName, " to form the new term (",
-                     Shown(product), ")."),
-                kOrdinaryStep);
-    } else if (single) {
-        Because(Text("Multiply ", leftName, " by ", rightName, " using the order of operations."),
-                kOrdinaryStep);
-    } else if (one.terms.size() == 1 || other.terms.size() == 1) {
-        const std::string& name = one.terms.size() == 1 ? leftName : rightName;
-        Because(Text("Multiply the polynomial inside the parenthesis by ", name, "."),
-                kOrdinaryStep);
-    } else {
-        Because(
-            "Multiply the polynomials together by multiplying each term of the first by every "
-            "term in the second.",
-            kOrdinaryStep);
-    }
+    Because(ProductReason(one.terms, other.terms, products), kOrdinaryStep);
     ReplaceBetween(open, other.end + 1, Text("(", products, ")"));
     return true;
+}
+
+std::string Engine::ProductReason(const std::vector<Term>& one, const std::vector<Term>& other,
+                                  const std::string& products) const {
+    const std::string left = Shown(NameOf(one.front()));
+    const std::string right = Shown(NameOf(other.front()));
+    if (one.size() > 1 && other.size() > 1) {
+        return "Multiply the polynomials together by multiplying each term of the first by every "
+               "term in the second.";
+    }
+    if (one.size() > 1 || other.size() > 1) {
+        return Text("Multiply the polynomial inside the parenthesis by ",
+                    one.size() == 1 ? left : right, ".");
+    }
+    if (IsConstant(one.front()) && IsConstant(other.front())) {
+        const std::size_t plus = products.starts_with('+') ? 1 : 0;
+        return Text("Multiply the ", left, " by ", right, " to form the new term (",
+                    Shown(products.substr(plus)), ").");
+    }
+    return Text("Multiply ", left, " by ", right, " using the order of operations.");
 }
 
 }  // namespace numerello

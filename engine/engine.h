@@ -76,7 +76,8 @@ class Engine {
 
     // Brackets and bars.
 
-    /// Takes one pair away where that is safe. The caller records the line.
+    /// Takes one pair away where that is safe. The caller records the line; bars that go record
+    /// theirs.
     bool RemoveParens();
     bool RemoveAbsolute(std::size_t group);
 
@@ -112,6 +113,7 @@ class Engine {
 
     void SetEqualToZero();
     void PrepareBothSides();
+    /// Puts the current side into a bracket with a minus before it. The caller records the line.
     void NegateBothSides();
     /// Takes the greatest common factor out, or factors a quadratic by its roots. The caller
     /// records the line.
@@ -134,13 +136,12 @@ class Engine {
     /// Whether the terms tell the exponent of their first letter. Off, as ever: equations of a
     /// higher degree are worked like linear ones.
     bool ReadsFirstExponents = false;
-    int Side = 0;               ///< whose tables are read: 0 left, 1 right of the "="
     bool TermsChanged = false;  ///< terms were merged since the last record
 
   private:
     // Reading the line.
     bool HasGroup(std::size_t group) const { return group < tables.groups.size(); }
-    const Group& GroupAt(std::size_t group) const { return tables.groups.at(group); }
+    const Group& GroupAt(std::size_t group) const;
     std::string_view TokenAt(std::size_t at) const;
     bool Holds(std::string_view token) const;
     bool HoldsRoot() const;
@@ -182,6 +183,8 @@ class Engine {
 
     // distribute.cpp
     void DropStar(std::size_t group);
+    std::string ProductReason(const std::vector<Term>& one, const std::vector<Term>& other,
+                              const std::string& products) const;
     bool ReduceFront(std::size_t group);
 
     // equations.cpp
@@ -199,24 +202,39 @@ class Engine {
     bool FactorByRoots(std::size_t group);
 
     // roots.cpp
-    bool SimplifyRoot(const Term& term);
+    bool SimplifyRoot(Term term);
 
     // fraction_arithmetic.cpp
+    /// A sum brought to its least common denominator, as its lines show it.
+    struct LcdSum {
+        std::string lcd;
+        std::string denominators;
+        std::string shown;       ///< each fraction times what raises it
+        std::string values;      ///< the raised fractions
+        std::string numerators;  ///< theirs
+        std::string example;
+        double n = 0;  ///< the sum of the numerators
+    };
+    static LcdSum SumOverLcd(const std::vector<Term>& terms);
+    template <class Test>
+    bool AnyInside(std::size_t group, Test test) const;
     void MultiplyFractions(std::size_t group);
-    bool CombineCommonDenominators(std::size_t group);
+    bool MultiplyFractionPair(std::size_t group);
+    void CombineCommonDenominators(std::size_t group);
     bool CombinePair(std::size_t group);
     void AddPair(std::size_t group, std::size_t one, std::size_t other);
     bool ReduceFractions(std::size_t group);
-    bool DropZeros(std::size_t group);
+    void ReduceAndDropZeros(std::size_t group);
     void CombineOverLcd(std::size_t group);
 
     Problem& problem;
     Tokens tokens;
+    int Side = 0;  ///< whose tables are read: 0 left, 1 right of the "="
     TermTables tables;
-    bool isRead = false;    ///< the tables are those of the tokens
-    int readSide = 0;       ///< and of this side
-    std::string lineText;   ///< the tokens joined, once they are read
-    std::string shownLine;  ///< the line as the learner sees it
+    bool isRead = false;        ///< the tables are those of the tokens
+    int readSide = 0;           ///< and of this side
+    std::string lineText;       ///< the tokens joined, once they are read
+    std::string shownLine;      ///< the line as the learner sees it
     std::size_t lastTermCount = 0;
     bool orderNoteGiven = false;
 };

@@ -5,15 +5,13 @@
 #include "core/number.h"
 #include "core/text.h"
 #include "engine/engine.h"
-#include "engine/like_terms.h"
 #include "engine/number_forms.h"
+#include "engine/step_levels.h"
+#include "engine/term_text.h"
 
 namespace numerello {
 
 namespace {
-
-constexpr int kOrdinaryStep = 2;
-constexpr int kFineStep = 3;
 
 bool HasLetter(const Term& term, const std::string& letter) {
     return term.NumText.find(letter) != std::string::npos ||
@@ -25,18 +23,9 @@ bool AnyHasLetter(const std::vector<Term>& terms, const std::string& letter) {
                        [&letter](const Term& term) { return HasLetter(term, letter); });
 }
 
-Ratio SignedRatio(const Term& term) {
-    return {term.Num < 0 ? -term.numOver : term.numOver, term.numUnder};
-}
-
-std::string MagnitudeOf(const Term& term) {
-    return TermText("", Text(NumberText(term.numOver), "/", NumberText(term.numUnder)),
-                    term.NumText, term.DenText);
-}
-
 /// A term taken away from a side, emphasised.
 std::string TakenAway(const Term& term) {
-    return Text("[", term.Num < 0 ? "+" : "-", MagnitudeOf(term), "]");
+    return Text("[", term.Num < 0 ? "+" : "-", MagnitudeText(term), "]");
 }
 
 /// All terms with the letter, or all without it, taken away. A zero needs no taking.
@@ -103,8 +92,10 @@ bool Engine::SolveFor(const std::string& variable) {
     const std::string line = ExprToText();
     const bool letterLeft = std::any_of(tokens.begin(), tokens.end(), IsLetter);
     if (line.find(variable) != std::string::npos && !left.empty() && left.front().Num != 0) {
-        Because("Remove cancelled terms from both sides.", kOrdinaryStep);
-        RecordStep();
+        if (problem.log.LastStepLine.find('[') != std::string::npos) {
+            Because("Remove cancelled terms from both sides.", kOrdinaryStep);
+            RecordStep();
+        }
         DivideBothSides(variable, SignedRatio(left.front()));
         Because(Text("Simplify the fractions to solve for [", variable, "]."), kOrdinaryStep);
         RecordStep();
@@ -123,10 +114,7 @@ bool Engine::SolveForOther(const std::string& variable) {
             kOrdinaryStep);
     RecordStep();
     SimplifyBothSides();
-    SolveFor(other);
-    Because(Text("Simplify the fractions to solve for [", other, "]."), kOrdinaryStep);
-    RecordStep();
-    return true;
+    return SolveFor(other);
 }
 
 /// Without letters an equation holds always or never.
@@ -222,7 +210,7 @@ void Engine::DivideBothSides(const std::string& variable, const Ratio& divisor) 
             const bool negative = (quotient.over < 0) != (quotient.under < 0) && quotient.over != 0;
             const Ratio magnitude{std::fabs(quotient.over), std::fabs(quotient.under)};
             const std::string sign = term.Num < 0 ? "-" : first ? "" : "+";
-            shown += Text(sign, "#", Shown(MagnitudeOf(term)), "/[", by, "]#");
+            shown += Text(sign, "#", Shown(MagnitudeText(term)), "/[", by, "]#");
             worked +=
                 TermText(negative ? "-" : "+", NumberToFractionText(problem.settings, magnitude),
                          term.NumText, term.DenText);
@@ -230,6 +218,7 @@ void Engine::DivideBothSides(const std::string& variable, const Ratio& divisor) 
         }
     }
     if (by != "1") {
+        // Past the recorder: it would take the working line for this one.
         problem.log.Write(shown, Text("Solve for ", variable,
                                       " by dividing both sides of the equation by ", by, "."));
     }

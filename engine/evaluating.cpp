@@ -7,12 +7,11 @@
 #include "core/number.h"
 #include "core/text.h"
 #include "engine/engine.h"
+#include "engine/step_levels.h"
 
 namespace numerello {
 
 namespace {
-
-constexpr int kLightStep = 1;
 
 /// Asks until the answer is a number that is not too large.
 double AskValue(Learner& learner, const std::string& letter) {
@@ -44,7 +43,9 @@ void Engine::EvaluateBySubstitution(Learner& learner) {
         const std::string& letter = typed.VarNames[i];
         const std::string& value = values[static_cast<std::size_t>(i)];
         std::string text = Replace(WithoutEmphasis(ExprToText()), letter, Text("[(", value, ")]"));
-        text = Replace(Replace(text, "+1[", "+["), "-1[", "-[");
+        for (const std::string_view sign : {"+", "-", "*"}) {
+            text = Replace(text, Text(sign, "1["), Text(sign, "["));
+        }
         Because(Text("Replace all the [", letter, "]'s in the expression with ", value, " ."),
                 kLightStep);
         SetText(text);

@@ -7,18 +7,19 @@
 #include "core/number.h"
 #include "core/text.h"
 #include "engine/engine.h"
-#include "engine/like_terms.h"
 #include "engine/number_forms.h"
+#include "engine/reasons.h"
+#include "engine/step_levels.h"
+#include "engine/term_text.h"
 
 namespace numerello {
 
 namespace {
 
-constexpr int kFineStep = 3;
 constexpr int kMostPasses = 20;
 
-std::string FractionOf(double over, double under) {
-    return Text(NumberText(over), "/", NumberText(under));
+bool IsProductMark(const std::string& token) {
+    return token == "*" || token == "/";
 }
 
 /// A fraction in lowest terms, sign first.
@@ -37,22 +38,15 @@ Ratio ReadFraction(std::string_view token) {
 }  // namespace
 
 void Engine::FractionArithmetic(std::size_t group) {
-    const auto inside = [this, group](auto test) {
-        const Group& all = GroupAt(group);
-        return std::any_of(tokens.begin() + static_cast<std::ptrdiff_t>(all.begin),
-                           tokens.begin() + static_cast<std::ptrdiff_t>(all.end), test);
-    };
-    const bool product =
-        inside([](const std::string& token) { return token == "*" || token == "/"; });
+    const bool product = AnyInside(group, IsProductMark);
     if (!product) {
         CombineCommonDenominators(group);
-        DropZeros(group);
+        ReduceAndDropZeros(group);
     }
-    const bool decimals = inside([](const std::string& token) {
-        return token.find('.') != std::string::npos && token.find('E') == std::string::npos;
-    });
-    const bool fractions =
-        inside([](const std::string& token) { return token.find('/') != std::string::npos; });
+    const bool decimals =
+        AnyInside(group, [](const std::string& token) { return HasPoint(token); });
+    const bool fractions = AnyInside(
+        group, [](const std::string& token) { return token.find('/') != std::string::npos; });
     const std::size_t terms = GroupAt(group).terms.size();
     if (!problem.settings.UseFractions || !fractions || decimals || (!product && terms == 1)) {
         if (terms > 1) {
@@ -60,83 +54,88 @@ void Engine::FractionArithmetic(std::size_t group) {
         }
         return;
     }
-    problem.log.StepLevel = kFineStep;
     MultiplyFractions(group);
-    if (inside([](const std::string& token) { return token == "*" || token == "/"; })) {
+    if (AnyInside(group, IsProductMark)) {
         return;
     }
     if (GroupAt(group).terms.size() > 1) {
         CombineCommonDenominators(group);
-        DropZeros(group);
+        ReduceAndDropZeros(group);
     }
     if (GroupAt(group).terms.size() > 1) {
         CombineOverLcd(group);
     }
 }
 
-/// Works products and quotients of fractions from the left, one a line.
+template <class Test>
+bool Engine::AnyInside(std::size_t group, Test test) const {
+    const Group& all = GroupAt(group);
+    return std::any_of(tokens.begin() + static_cast<std::ptrdiff_t>(all.begin),
+                       tokens.begin() + static_cast<std::ptrdiff_t>(all.end), test);
+}
+
+/// Works products and quotients of fractions from the left, one a line. A single fraction that is
+/// left comes to lowest terms.
 void Engine::MultiplyFractions(std::size_t group) {
     bool found = false;
     // A pass works a product and a quotient.
-    for (int work = 0; work < 2 * kMostPasses; ++work) {
-        const Group& all = GroupAt(group);
-        const auto begin = tokens.begin() + static_cast<std::ptrdiff_t>(all.begin);
-        const auto end = tokens.begin() + static_cast<std::ptrdiff_t>(all.end);
-        const auto at = std::find_if(
-            begin, end, [](const std::string& token) { return token == "*" || token == "/"; });
-        if (at == end || at == begin || at + 1 == end) {
-            break;
-        }
+    for (int work = 0; work < 2 * kMostPasses && MultiplyFractionPair(group); ++work) {
         found = true;
-        const Ratio left = ReadFraction(*(at - 1));
-        const Ratio right = ReadFraction(*(at + 1));
-        const auto place = static_cast<std::size_t>(at - tokens.begin());
-        if (left.under == 0 || right.under == 0 || (*at == "/" && right.over == 0)) {
-            throw Failure(FailureKind::DivisionByZero);
-        }
-        if (*at == "*") {
-            Because("Multiply the numerators and denominators to form the new fraction.",
-                    kFineStep);
-            ReplaceBetween(
-                place - 1, place + 2,
-                FractionOf(Checked(left.over * right.over), Checked(left.under * right.under)));
-        } else {
-            Because(
-                "To divide two fractions, flip the numerator and denominator of one of the "
-                "fractions, then multiply the fractions.",
-                kFineStep);
-            ReplaceBetween(
-                place - 1, place + 2,
-                Text(FractionOf(left.over, left.under), "*", FractionOf(right.under, right.over)));
-        }
-        RecordStep();
     }
     const Group& all = GroupAt(group);
-    if (found && all.terms.size() == 1) {
+    if (found && all.terms.size() == 1 && !AnyInside(group, IsProductMark)) {
         Because("Simplify the fraction.", kFineStep);
         ReplaceGroup(group, ReducedTerm(all.terms.front()));
         RecordStep();
     }
 }
 
+/// Multiplies the first pair, or turns the right one of a quotient over.
+bool Engine::MultiplyFractionPair(std::size_t group) {
+    const Group& all = GroupAt(group);
+    std::size_t at = all.begin;
+    while (at < all.end && !IsProductMark(tokens[at])) {
+        ++at;
+    }
+    if (at == all.begin || at + 1 >= all.end) {
+        return false;
+    }
+    const bool divides = tokens[at] == "/";
+    const Ratio left = ReadFraction(tokens[at - 1]);
+    const Ratio right = ReadFraction(tokens[at + 1]);
+    if (left.under == 0 || right.under == 0 || (divides && right.over == 0)) {
+        throw Failure(FailureKind::DivisionByZero);
+    }
+    if (divides) {
+        Because(std::string(kFlipReason), kFineStep);
+        ReplaceBetween(
+            at - 1, at + 2,
+            Text(RatioText(left.over, left.under), "*", RatioText(right.under, right.over)));
+    } else {
+        Because("Multiply the numerators and denominators to form the new fraction.", kFineStep);
+        ReplaceBetween(
+            at - 1, at + 2,
+            RatioText(Checked(left.over * right.over), Checked(left.under * right.under)));
+    }
+    RecordStep();
+    return true;
+}
+
 /// Adds the numbers that have the same denominator pair by pair, then reduces what is left; that
 /// may make new pairs.
-bool Engine::CombineCommonDenominators(std::size_t group) {
-    bool found = false;
+void Engine::CombineCommonDenominators(std::size_t group) {
     for (int pass = 0; pass < kMostPasses; ++pass) {
         if (!CombinePair(group) && !ReduceFractions(group)) {
-            break;
+            return;
         }
-        found = true;
     }
-    return found;
 }
 
 bool Engine::CombinePair(std::size_t group) {
     const std::vector<Term>& terms = GroupAt(group).terms;
     for (std::size_t i = 0; i < terms.size(); ++i) {
         for (std::size_t j = i + 1; j < terms.size(); ++j) {
-            if (terms[i].Den == terms[j].Den) {
+            if (terms[i].numUnder == terms[j].numUnder) {
                 AddPair(group, i, j);
                 return true;
             }
@@ -172,6 +171,7 @@ void Engine::AddPair(std::size_t group, std::size_t one, std::size_t other) {
     RecordStep();
 }
 
+/// Brings the fractions that have a denominator other than 1 to lowest terms; zeros wait.
 bool Engine::ReduceFractions(std::size_t group) {
     const Group& all = GroupAt(group);
     std::string text;
@@ -187,21 +187,24 @@ bool Engine::ReduceFractions(std::size_t group) {
     return true;
 }
 
-bool Engine::DropZeros(std::size_t group) {
-    const std::vector<Term>& terms = GroupAt(group).terms;
+/// Brings all numbers of a sum to lowest terms and drops the zeros.
+void Engine::ReduceAndDropZeros(std::size_t group) {
+    const Group& all = GroupAt(group);
+    if (all.terms.size() == 1) {
+        return;
+    }
     std::string text;
-    for (const Term& term : terms) {
-        text += term.Num == 0 ? "" : Written(term);
+    bool zeros = false;
+    for (const Term& term : all.terms) {
+        zeros = zeros || term.Num == 0;
+        text += term.Num == 0 ? "" : HasPoint(Written(term)) ? Written(term) : ReducedTerm(term);
     }
-    const bool none =
-        std::none_of(terms.begin(), terms.end(), [](const Term& term) { return term.Num == 0; });
-    if (none || terms.size() == 1) {
-        return false;
+    if (text == WithoutEmphasis(TextBetween(tokens, all.begin, all.end))) {
+        return;
     }
-    Because("0 divided by any number equals 0.", kFineStep);
+    Because(std::string(zeros ? kZeroDividedReason : "Reduce fractions."), kFineStep);
     ReplaceGroup(group, text.empty() ? "+0" : text);
     RecordStep();
-    return true;
 }
 
 /// Brings the fractions of a sum to their least common denominator, adds and reduces.
@@ -214,59 +217,55 @@ void Engine::CombineOverLcd(std::size_t group) {
         SetText(Text(before, text, after));
         RecordStep();
     };
-
-    std::vector<double> unders;
-    std::string denominators;
-    for (const Term& term : terms) {
-        unders.push_back(term.numUnder);
-        denominators += denominators.empty() ? "" : ",";
-        denominators += NumberText(term.numUnder);
-    }
-    const std::string lcd = LeastCommonMultipleText(unders);
-    const double common = ToNumber(lcd);
-
-    std::string shown;
-    std::string values;
-    std::string numerators;
-    double sum = 0;
-    for (const Term& term : terms) {
-        const double m = Divide(common, term.numUnder);
-        const std::string multiplier = NumberText(m);
-        const double over = Checked(term.numOver * m);
-        shown += Text(term.OpMark, FractionOf(term.numOver, term.numUnder), "*[", multiplier, "/",
-                      multiplier, "]");
-        values += term.OpMark + FractionOf(over, common);
-        numerators += term.OpMark + NumberText(over);
-        sum += term.OpMark == "-" ? -over : over;
-    }
-    const Term& first = terms.front();
-    const std::string example = FractionOf(first.numOver, first.numUnder);
-    const std::string raised = values.substr(1, values.find_first_of("+-", 1) - 1);
-
-    write(shown,
-          Text("Find the least common denominator of all the fractions (", denominators,
+    const LcdSum sum = SumOverLcd(terms);
+    write(sum.shown,
+          Text("Find the least common denominator of all the fractions (", sum.denominators,
                "), then multiply all of the fractions by a number over itself (which will be "
                "equivalent to multiplying the fraction by 1 and will not affect the value of the "
                "fraction) that will produce the common denominator (",
-               lcd, ") in all the fractions."),
+               sum.lcd, ") in all the fractions."),
           kFineStep);
-    write(values,
+    write(sum.values,
           Text("Multiply to form the fractions that all have the same denominator. Remember that "
                "we haven't changed the value of the fractions, we've changed their form (ex. #",
-               example, "#=#", raised, "#)."),
+               sum.example, "#)."),
           kFineStep);
-    write(Text("+(", numerators, ")/", lcd),
+    write(Text("+(", sum.numerators, ")/", sum.lcd),
           "Combine the numerators of each fraction and place over the common denominator.",
           kFineStep);
-
-    constexpr int kLightStep = 1;
-    const int n = ToInteger32(sum);
+    const int n = ToInteger32(sum.n);
     const std::string sign = n < 0 ? "-" : "+";
-    const std::string magnitude = NumberText(std::fabs(sum));
-    write(Text(sign, magnitude, "/", lcd),
+    const double magnitude = std::fabs(sum.n);
+    write(Text(sign, NumberText(magnitude), "/", sum.lcd),
           "Combine all the terms in the numerator using arithmetic.", kLightStep);
-    write(sign + ReduceRatio(std::fabs(sum), common),
-          n == 0 ? "0 divided by any number equals 0." : "Simplify the fraction.", kLightStep);
+    write(sign + ReduceRatio(magnitude, ToNumber(sum.lcd)),
+          n == 0 ? std::string(kZeroDividedReason) : "Simplify the fraction.", kLightStep);
+}
+
+Engine::LcdSum Engine::SumOverLcd(const std::vector<Term>& terms) {
+    LcdSum sum;
+    std::vector<double> unders;
+    for (const Term& term : terms) {
+        unders.push_back(term.numUnder);
+        sum.denominators += sum.denominators.empty() ? "" : ",";
+        sum.denominators += NumberText(term.numUnder);
+    }
+    sum.lcd = LeastCommonMultipleText(unders);
+    const double common = ToNumber(sum.lcd);
+    for (const Term& term : terms) {
+        const double m = Divide(common, term.numUnder);
+        const double over = Checked(term.numOver * m);
+        const std::string fraction = RatioText(term.numOver, term.numUnder);
+        const std::string raised = RatioText(over, common);
+        sum.shown += Text(term.OpMark, fraction, "*[", RatioText(m, m), "]");
+        sum.values += term.OpMark + raised;
+        sum.numerators += term.OpMark + NumberText(over);
+        sum.n += term.OpMark == "-" ? -over : over;
+        if (sum.example.empty()) {
+            sum.example = Text(fraction, "#=#", raised);
+        }
+    }
+    return sum;
 }
 
 }  // namespace numerello

@@ -10,6 +10,8 @@
 #include "core/text.h"
 #include "engine/display.h"
 #include "engine/letters.h"
+#include "engine/reasons.h"
+#include "engine/term_text.h"
 
 namespace numerello {
 
@@ -45,14 +47,6 @@ Ratio Sum(const Ratio& one, const Ratio& other) {
     return {single(over / divisor), single(under / divisor)};
 }
 
-std::string WithoutSign(const std::string& written) {
-    return written.starts_with('+') || written.starts_with('-') ? written.substr(1) : written;
-}
-
-std::string WithoutPlus(const std::string& written) {
-    return written.starts_with('+') ? written.substr(1) : written;
-}
-
 std::string_view SignOf(double value) {
     return value < 0 ? "-" : "+";
 }
@@ -68,34 +62,16 @@ bool IsWrittenFraction(const Term& term) {
     return term.FractionText.find('/') != std::string::npos && !term.DivideMark;
 }
 
+/// Letters over the line, or the root.
+std::string LettersOf(const Term& term) {
+    return IsRoot(term) ? term.NumText : LettersText(ReadLetters(term.NumText));
+}
+
 bool HasDecimals(const Term& term, const std::string& written) {
-    const bool point =
-        written.find('.') != std::string::npos && written.find('E') == std::string::npos;
-    return point || !IsWhole(static_cast<double>(term.Num)) ||
-           !IsWhole(static_cast<double>(term.Den));
+    return HasPoint(written) || !IsWhole(term.numOver) || !IsWhole(term.numUnder);
 }
 
 }  // namespace
-
-bool IsConstant(const Term& term) {
-    return !HasLetters(term.NumText) && !HasLetters(term.DenText) && !term.NumText.starts_with('~');
-}
-
-std::string TermText(std::string_view sign, std::string_view coefficient, std::string_view NumText,
-                     std::string_view DenText) {
-    const std::size_t slash = coefficient.find('/');
-    std::string_view over = coefficient.substr(0, slash);
-    std::string_view under =
-        slash == std::string_view::npos ? std::string_view() : coefficient.substr(slash + 1);
-    if (over == "1" && !NumText.empty()) {
-        over = "";
-    }
-    if (under == "1") {
-        under = "";
-    }
-    const bool line = !under.empty() || !DenText.empty();
-    return Text(sign, over, NumText, line ? "/" : "", under, DenText);
-}
 
 LikeTerms::LikeTerms(const Problem& problem, bool keepFractions)
     : settings(problem.settings), code(problem.topic.ProblemType), keepFractions(keepFractions) {}
@@ -125,8 +101,13 @@ std::string LikeTerms::Shown(std::string_view text) const {
     return DisplayText(MergeNumberTokens(TextToTokens(text), code), code);
 }
 
+/// Rows of the same letters count once.
 void LikeTerms::AddRow(LikeRow row) {
-    CheckIndex(static_cast<int>(letters.size()), kTopLetterRow);
+    const bool known = std::any_of(letters.begin(), letters.end(), [&row](const LikeRow& each) {
+        return each.NumText == row.NumText && each.DenText == row.DenText;
+    });
+    unlike += known ? 0 : 1;
+    CheckIndex(unlike, kMostLetterRows);
     letters.push_back(std::move(row));
 }
 
@@ -136,6 +117,8 @@ void LikeTerms::Replace(const Term& term, const std::string& coefficient) {
     LikeRow row;
     row.merges = false;
     row.isZero = coefficient == "0";
+    row.NumText = LettersOf(term);
+    row.DenText = LettersText(ReadLetters(term.DenText));
     row.written =
         TermText(SignOf(static_cast<double>(term.Num)), coefficient, term.NumText, term.DenText);
     if (IsConstant(term)) {
@@ -149,12 +132,18 @@ bool LikeTerms::TakeZeroPower(const Term& term) {
     if (!HasZeroPower(term.NumText) && !HasZeroPower(term.DenText)) {
         return false;
     }
+    ReplaceNumbers(term);
+    reason = kLetterZeroPowerReason;
+    return true;
+}
+
+/// Works the numbers' powers out; letters with the exponent 0 go.
+void LikeTerms::ReplaceNumbers(const Term& term) {
     Term rest = term;
     rest.NumText = LettersText(ReadLetters(term.NumText));
     rest.DenText = LettersText(ReadLetters(term.DenText));
-    Replace(rest, Text(NumberText(term.numOver), "/", NumberText(term.numUnder)));
-    reason = "Any variable or number raised to the 0th power is 1.";
-    return true;
+    const Ratio numbers = NumbersOf(term);
+    Replace(rest, RatioText(numbers.over, numbers.under));
 }
 
 /// A constant power that stands beside letters.
@@ -162,17 +151,9 @@ bool LikeTerms::TakeNumberPower(const Term& term) {
     if (!HasNumberPower(term)) {
         return false;
     }
-    Term rest = term;
-    rest.NumText = LettersText(ReadLetters(term.NumText));
-    rest.DenText = LettersText(ReadLetters(term.DenText));
-    const float overPower = term.NumText.starts_with('^') ? term.NumPower : 1;
-    const float underPower = term.DenText.starts_with('^') ? term.DenPower : 1;
-    Replace(rest, Text(NumberText(PowerOf(term.numOver, overPower)), "/",
-                       NumberText(PowerOf(term.numUnder, underPower))));
-    reason = overPower == 0 || underPower == 0
-                 ? "Any number raised to the 0th power is 1."
-                 : "Remove exponents by multiplying the number by itself the same number of times "
-                   "as the exponent.";
+    ReplaceNumbers(term);
+    const bool zeroPower = term.NumPower == 0 || term.DenPower == 0;
+    reason = zeroPower ? kZeroPowerReason : kWrittenOutReason;
     return true;
 }
 
@@ -205,13 +186,13 @@ bool LikeTerms::Reduce(const Term& term) {
     const double over = term.numOver;
     const double under = term.numUnder;
     const std::string reduced = ReduceRatio(over, under);
-    const std::string shown = Text(NumberText(over), "/", NumberText(under));
+    const std::string shown = RatioText(over, under);
     if (reduced == shown) {
         return false;
     }
     Replace(term, reduced);
     if (over == 0) {
-        reason = "0 divided by any number equals 0.";
+        reason = kZeroDividedReason;
         return true;
     }
     const std::string g = NumberText(ReducedBy(over, reduced));
@@ -230,7 +211,7 @@ bool LikeTerms::Reduce(const Term& term) {
 /// Turns a fraction into a decimal.
 bool LikeTerms::Divide(const Term& term) {
     const std::string value = NumberToFractionText(settings, {term.numOver, term.numUnder});
-    const std::string fraction = Text(NumberText(term.numOver), "/", NumberText(term.numUnder));
+    const std::string fraction = RatioText(term.numOver, term.numUnder);
     Replace(term, value);
     reason = IsConstant(term)
                  ? Text("Convert #", fraction,
@@ -247,11 +228,12 @@ void LikeTerms::TakeConstant(const Term& term, const std::string& written) {
     row.sum = RatioOf(term);
     row.isZero = term.Num == 0;
     row.written = written;
+    row.name = Shown(NameOf(term));
     row.merges = !keepFractions || term.Den == 1;
     const auto other = std::find_if(constants.begin(), constants.end(),
                                     [](const LikeRow& each) { return each.merges; });
     if (row.merges && other != constants.end()) {
-        Merge(*other, term, written);
+        Merge(*other, term);
     } else {
         constants.push_back(row);
     }
@@ -260,24 +242,24 @@ void LikeTerms::TakeConstant(const Term& term, const std::string& written) {
 void LikeTerms::TakeLetters(const Term& term, const std::string& written) {
     LikeRow row;
     row.sum = RatioOf(term);
-    row.NumText =
-        term.NumText.starts_with('~') ? term.NumText : LettersText(ReadLetters(term.NumText));
+    row.NumText = LettersOf(term);
     row.DenText = LettersText(ReadLetters(term.DenText));
     row.isZero = term.Num == 0;
     row.written = written;
+    row.name = Shown(NameOf(term));
     const auto like = std::find_if(letters.begin(), letters.end(), [&row](const LikeRow& each) {
         return each.merges && each.NumText == row.NumText && each.DenText == row.DenText;
     });
     if (like != letters.end()) {
-        Merge(*like, term, written);
+        Merge(*like, term);
     } else {
         AddRow(row);
     }
 }
 
-void LikeTerms::Merge(LikeRow& row, const Term& term, const std::string& written) {
-    const std::string before = row.written.empty() ? "0" : Shown(WithoutPlus(row.written));
-    const std::string added = Shown(WithoutSign(written));
+void LikeTerms::Merge(LikeRow& row, const Term& term) {
+    const std::string before = row.name;
+    const std::string added = Shown(MagnitudeText(term));
     row.sum = Sum(row.sum, RatioOf(term));
     row.alone = false;
     const Ratio magnitude{std::fabs(row.sum.over), row.sum.under};
@@ -285,12 +267,12 @@ void LikeTerms::Merge(LikeRow& row, const Term& term, const std::string& written
                       ? ""
                       : TermText(SignOf(row.sum.over), NumberToFractionText(settings, magnitude),
                                  row.NumText, row.DenText);
-    const std::string result = row.written.empty() ? "0" : Shown(WithoutPlus(row.written));
+    row.name = row.written.empty() ? "0" : Shown(row.written.substr(row.sum.over < 0 ? 0 : 1));
     changed = true;
     reason =
         term.OpMark == "-"
-            ? Text("Subtract ", added, " from ", before, " to form the new term (", result, ").")
-            : Text("Add ", before, " and ", added, " to form the new term (", result, ").");
+            ? Text("Subtract ", added, " from ", before, " to form the new term (", row.name, ").")
+            : Text("Add ", before, " and ", added, " to form the new term (", row.name, ").");
 }
 
 /// A zero that no other term took. It stays among numbers and goes without a word beside letters.

@@ -21,6 +21,7 @@ struct LikeRow {
     bool merges = true;   ///< a term that has just been rewritten takes no other one
     bool alone = true;    ///< no other term was added
     bool isZero = false;  ///< its first term is 0
+    std::string name;     ///< what a reason calls it
 };
 
 /// Takes the terms of a group one after the other and keeps the text that is to stand in their
@@ -46,9 +47,10 @@ class LikeTerms {
     std::string GroupText() const;
 
   private:
-    static constexpr int kTopLetterRow = 14;
+    static constexpr int kMostLetterRows = 15;
 
     bool TakeZeroPower(const Term& term);
+    void ReplaceNumbers(const Term& term);
     bool TakeNumberPower(const Term& term);
     bool TakeConversion(const Term& term, const std::string& written);
     bool Reduce(const Term& term);
@@ -57,7 +59,7 @@ class LikeTerms {
     void Replace(const Term& term, const std::string& coefficient);
     void TakeConstant(const Term& term, const std::string& written);
     void TakeLetters(const Term& term, const std::string& written);
-    void Merge(LikeRow& row, const Term& term, const std::string& written);
+    void Merge(LikeRow& row, const Term& term);
     void AddRow(LikeRow row);
     bool IsDropped(const LikeRow& row) const;
     std::string Shown(std::string_view text) const;
@@ -67,15 +69,9 @@ class LikeTerms {
     bool keepFractions;
     std::vector<LikeRow> letters;
     std::vector<LikeRow> constants;
+    int unlike = 0;  ///< letter parts that are not alike
     bool changed = false;
     std::string reason;
 };
-
-/// Whether a term is a number, without letters and roots.
-bool IsConstant(const Term& term);
-
-/// A term as text: sign, coefficient "a" or "a/b", letters over and under the line.
-std::string TermText(std::string_view sign, std::string_view coefficient, std::string_view NumText,
-                     std::string_view DenText);
 
 }  // namespace numerello

@@ -1,10 +1,16 @@
 #include <algorithm>
 
+#include "core/bounds.h"
 #include "engine/display.h"
 #include "engine/engine.h"
 
 /// What the passes read of the line, and how they put the next one together.
 namespace numerello {
+
+const Group& Engine::GroupAt(std::size_t group) const {
+    CheckIndex(static_cast<int>(group), static_cast<int>(tables.groups.size()) - 1);
+    return tables.groups[group];
+}
 
 std::string_view Engine::TokenAt(std::size_t at) const {
     return at < tokens.size() ? std::string_view(tokens[at]) : std::string_view();

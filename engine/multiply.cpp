@@ -1,53 +1,19 @@
 #include <algorithm>
-#include <cmath>
 
-#include "core/failure.h"
 #include "core/number.h"
 #include "core/text.h"
-#include "engine/display.h"
+#include "core/topic_codes.h"
 #include "engine/engine.h"
 #include "engine/letters.h"
-#include "engine/number_forms.h"
+#include "engine/reasons.h"
+#include "engine/step_levels.h"
+#include "engine/term_text.h"
 
 namespace numerello {
 
 namespace {
 
-constexpr int kCalculatingRoots = 82;
-constexpr int kOrdinaryStep = 2;
 constexpr int kProductPlaces = 4;
-
-/// The numbers of a factor, its constant powers worked out; both are magnitudes.
-struct FactorNumbers {
-    double over = 1;
-    double under = 1;
-};
-
-bool IsNumberPower(const std::string& letters) {
-    return letters.starts_with('^');
-}
-
-/// A negative power goes to the other side of the line.
-void TakePower(double base, float power, double& side, double& otherSide) {
-    if (base == 0 && power <= 0) {
-        throw Failure(FailureKind::DivisionByZero);
-    }
-    double& place = power < 0 ? otherSide : side;
-    place = Checked(place * PowerOf(base, std::fabs(power)));
-}
-
-FactorNumbers NumbersOf(const Term& factor) {
-    FactorNumbers numbers;
-    TakePower(factor.numOver, IsNumberPower(factor.NumText) ? factor.NumPower : 1, numbers.over,
-              numbers.under);
-    TakePower(factor.numUnder, IsNumberPower(factor.DenText) ? factor.DenPower : 1, numbers.under,
-              numbers.over);
-    return numbers;
-}
-
-bool IsRoot(const Term& factor) {
-    return factor.NumText.starts_with('~');
-}
 
 double Radicand(const Term& factor) {
     return ToNumber(std::string_view(factor.NumText).substr(1));
@@ -60,8 +26,10 @@ bool EndsFactor(const Tokens& tokens, std::size_t at) {
            (IsSign(tokens[at]) && !IsExponentSign(tokens, at));
 }
 
+/// A product that would round to nothing keeps its digits.
 std::string RoundedProduct(double value) {
-    return NumberText(Round(value, kProductPlaces));
+    const double rounded = Round(value, kProductPlaces);
+    return NumberText(rounded == 0 ? value : rounded);
 }
 
 /// Letters or root of the product over the line.
@@ -76,13 +44,10 @@ std::string LettersOver(const TypedProblem& typed, const Term& one, const Term& 
 }
 
 std::string ProductText(const TypedProblem& typed, const Term& one, const Term& other) {
-    const FactorNumbers first = NumbersOf(one);
-    const FactorNumbers second = NumbersOf(other);
+    const Ratio first = NumbersOf(one);
+    const Ratio second = NumbersOf(other);
     const double over = Checked(first.over * second.over);
     const double under = Checked(first.under * second.under);
-    if (under == 0) {
-        throw Failure(FailureKind::DivisionByZero);
-    }
     if (over == 0) {
         return "0";
     }
@@ -98,14 +63,11 @@ std::string ProductText(const TypedProblem& typed, const Term& one, const Term& 
 
 /// How a reason names a factor: without its sign, a constant power worked out.
 std::string Engine::FactorText(const Term& factor) const {
-    if (IsNumberPower(factor.NumText) && factor.DenText.empty() && factor.numUnder == 1) {
-        const FactorNumbers numbers = NumbersOf(factor);
-        const std::string over = NumberText(numbers.over);
-        return numbers.under == 1 ? over : Text("#", over, "/", NumberText(numbers.under), "#");
+    if (factor.NumText.starts_with('^') && factor.DenText.empty() && factor.numUnder == 1) {
+        const Ratio numbers = NumbersOf(factor);
+        return Shown(TermText("", RatioText(numbers.over, numbers.under), "", ""));
     }
-    const Tokens named(tokens.begin() + static_cast<std::ptrdiff_t>(factor.begin) + 1,
-                       tokens.begin() + static_cast<std::ptrdiff_t>(factor.end));
-    return DisplayText(named, problem.topic.ProblemType);
+    return Shown(Written(factor).substr(IsOperator(factor.OpMark) ? 1 : 0));
 }
 
 bool Engine::MultiplyPair(std::size_t group) {
@@ -162,7 +124,7 @@ bool Engine::ReorderFactor(std::size_t group) {
     if (end == begin || tokens[end - 1] == "/") {
         return false;
     }
-    Because("Reorder the polynomial.", kOrdinaryStep);
+    Because(std::string(kReorderReason), kOrdinaryStep);
     ReplaceBetween(begin, end, Text("(+", TextBetween(tokens, begin, end), ")"));
     RecordStep();
     if (power) {

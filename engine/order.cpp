@@ -2,8 +2,10 @@
 #include <string>
 
 #include "core/text.h"
+#include "core/topic_codes.h"
 #include "engine/engine.h"
-#include "engine/like_terms.h"
+#include "engine/step_levels.h"
+#include "engine/term_text.h"
 
 /// The order of operations: brackets from the deepest level outward; inside a group powers, then
 /// products, then sums.
@@ -11,14 +13,13 @@ namespace numerello {
 
 namespace {
 
-constexpr int kCalculatingRoots = 82;
 constexpr int kMostPasses = 10;
 constexpr int kMostCombinings = 30;
 
 }  // namespace
 
 void Engine::SimplifyExpression() {
-    problem.log.StepLevel = 0;
+    problem.log.StepLevel = kOpeningStep;
     RecordStep();
     OpenLetterProducts();
     std::string last;
@@ -125,7 +126,7 @@ void Engine::SecondWalk() {
     }
 }
 
-/// True when brackets changed.
+/// True when the walk is to begin anew.
 bool Engine::WorkAgain(std::size_t group) {
     CheckProducts(group);
     ExpandPowers(group);
@@ -184,7 +185,7 @@ bool Engine::WorkBrackets(std::size_t group) {
 }
 
 void Engine::SimplifyLight() {
-    problem.log.StepLevel = 1;
+    problem.log.StepLevel = kLightStep;
     RecordStep();
     for (std::size_t i = 0; HasGroup(i); ++i) {
         if (GroupAt(i).ProductMark) {
@@ -207,7 +208,7 @@ void Engine::CombineUntilStable(std::size_t group, NegativeExponents negatives) 
     StepLog& log = problem.log;
     const bool roots = problem.topic.ProblemType == kCalculatingRoots;
     log.StepUnchanged = false;
-    log.StepLevel = 2;
+    log.StepLevel = kOrdinaryStep;
     for (int pass = 0; pass < kMostCombinings && !log.StepUnchanged; ++pass) {
         const std::string text = ExprToText();
         if (!Holds("|") && tables.Depth >= 1) {
@@ -227,7 +228,7 @@ void Engine::CombineUntilStable(std::size_t group, NegativeExponents negatives) 
             break;
         }
     }
-    log.StepLevel = 1;
+    log.StepLevel = kLightStep;
     if (!roots) {
         RecordStep();
     }
@@ -246,9 +247,8 @@ bool Engine::IsSumOfFractions(std::size_t group) const {
     }
     std::size_t fractions = 0;
     for (const Term& term : all.terms) {
-        const bool decimals = term.FractionText.find('.') != std::string::npos &&
-                              term.FractionText.find('E') == std::string::npos;
-        if (decimals || term.NumText.starts_with('^') || term.DenText.starts_with('^')) {
+        if (HasPoint(term.FractionText) || term.NumText.starts_with('^') ||
+            term.DenText.starts_with('^')) {
             return false;
         }
         fractions += term.FractionText.empty() && !term.DivideMark ? 0 : 1;

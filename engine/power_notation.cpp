@@ -7,12 +7,11 @@
 #include "core/text.h"
 #include "engine/engine.h"
 #include "engine/number_forms.h"
+#include "engine/step_levels.h"
 
 namespace numerello {
 
 namespace {
-
-constexpr int kOrdinaryStep = 2;
 
 struct CountedFactor {
     std::string factor;

@@ -9,14 +9,13 @@
 #include "core/text.h"
 #include "engine/engine.h"
 #include "engine/letters.h"
-#include "engine/like_terms.h"
+#include "engine/reasons.h"
+#include "engine/step_levels.h"
+#include "engine/term_text.h"
 
 namespace numerello {
 
 namespace {
-
-constexpr int kOrdinaryStep = 2;
-constexpr int kFineStep = 3;
 
 /// The numbers of a term with a power, written out as factors.
 struct WrittenOut {
@@ -96,12 +95,8 @@ std::string ExpandedTerm(const Term& term, WrittenOut& factors) {
     over.DenText.clear();
     factors = Factors(over);
     return Text(WrittenOutText(over, factors), "*",
-                TermText("", Text("1/", NumberText(term.numUnder)), "", term.DenText));
+                TermText("", RatioText(1, term.numUnder), "", term.DenText));
 }
-
-constexpr std::string_view kWrittenOutReason =
-    "Remove exponents by multiplying the number by itself the same number of times as the "
-    "exponent.";
 
 }  // namespace
 
@@ -162,9 +157,7 @@ bool Engine::ExpandFrontPower(std::size_t group) {
     if (text.ends_with(')')) {
         text += "*";
     }
-    Because(factors.zeroPower ? "Any variable or number raised to the 0th power is 1."
-                              : std::string(kWrittenOutReason),
-            kFineStep);
+    Because(std::string(factors.zeroPower ? kLetterZeroPowerReason : kWrittenOutReason), kFineStep);
     const std::size_t begin = IsOperator(TokenAt(front.begin)) ? front.begin + 1 : front.begin;
     ReplaceBetween(begin, front.end, text);
     RecordStep();
@@ -181,7 +174,7 @@ bool Engine::ExpandPower(std::size_t group) {
         throw Failure(FailureKind::DivisionByZero);
     }
     if (base.Power == 0) {
-        Because("Any number raised to the 0th power is 1.", kOrdinaryStep);
+        Because(std::string(kZeroPowerReason), kOrdinaryStep);
         ReplaceBetween(open, base.tail, "(+1)");
         return true;
     }
@@ -191,10 +184,7 @@ bool Engine::ExpandPower(std::size_t group) {
             return false;
         }
         const Term& term = base.terms.front();
-        factor = Text("(", term.OpMark,
-                      TermText("", Text(NumberText(term.numUnder), "/", NumberText(term.numOver)),
-                               term.DenText, term.NumText),
-                      ")");
+        factor = Text("(", term.OpMark, Flipped(term), ")");
     }
     const auto times = static_cast<int>(std::fabs(base.Power));
     CheckIndex(times, static_cast<int>(TermTables::kTopGroup) + 1);

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <numeric>
 #include <string>
 #include <vector>
 
@@ -9,8 +8,8 @@
 #include "core/text.h"
 #include "engine/engine.h"
 #include "engine/letters.h"
-#include "engine/like_terms.h"
 #include "engine/number_forms.h"
+#include "engine/step_levels.h"
 
 /// Factoring. It stands ready for a reader of terms that tells the exponent of the first letter;
 /// the one in use does not, so that no typed problem comes here.
@@ -18,9 +17,6 @@ namespace numerello {
 
 namespace {
 
-constexpr int kLightStep = 1;
-constexpr int kOrdinaryStep = 2;
-constexpr int kFineStep = 3;
 constexpr int kRootPlaces = 5;
 constexpr std::string_view kImaginary = " has imaginary solutions...cannot factor.";
 
@@ -114,7 +110,6 @@ void Engine::SetEqualToZero() {
     RecordStep();
 }
 
-/// Puts the current side into a bracket with a minus before it.
 void Engine::NegateBothSides() {
     const SideRange range = RangeOfSide(tokens, Side);
     Because(Text("Solve for ", problem.typed.VarNames[1],

@@ -1,22 +1,22 @@
 #include <algorithm>
 
 #include "core/text.h"
+#include "core/topic_codes.h"
 #include "engine/display.h"
 #include "engine/engine.h"
 #include "engine/normalise.h"
+#include "engine/reasons.h"
 
 namespace numerello {
 
 namespace {
 
-constexpr int kEvaluatingPolynomials = 103;
-
-/// The sign goes to the front of the term; its two numbers are put together then.
-bool HasSignBehindSlash(const Tokens& tokens) {
-    return std::adjacent_find(tokens.begin(), tokens.end(),
-                              [](const std::string& one, const std::string& next) {
-                                  return one == "/" && IsSign(next);
-                              }) != tokens.end();
+/// A sign behind "/" and an exponent of 1 go; numbers beside them are put together then.
+bool LeavesNumbersToJoin(const Tokens& tokens) {
+    return std::adjacent_find(
+               tokens.begin(), tokens.end(), [](const std::string& one, const std::string& next) {
+                   return (one == "/" && IsSign(next)) || (one == "^" && next == "1");
+               }) != tokens.end();
 }
 
 auto Parens(const std::string& line) {
@@ -57,9 +57,9 @@ void Engine::ReadLine() {
     if (!isRead) {
         const int code = problem.topic.ProblemType;
         tokens = MergeNumberTokens(tokens, code);
-        const bool signBehindSlash = HasSignBehindSlash(tokens);
+        const bool joins = LeavesNumbersToJoin(tokens);
         tokens = NormaliseTokens(tokens);
-        if (signBehindSlash) {
+        if (joins) {
             tokens = MergeNumberTokens(TextToTokens(TokensToText(tokens)), code);
         }
         lineText = TokensToText(tokens);
@@ -115,10 +115,10 @@ bool Engine::IsStored(const std::string& line) const {
     if (log.StepCount == 1) {
         return true;
     }
-    if (log.StepReason == "Reorder the polynomial.") {
+    if (log.StepReason == kReorderReason) {
         return false;
     }
-    return log.StepReason != "Remove the parenthesis." || Parens(line) < Parens(log.LastStepLine);
+    return log.StepReason != kRemoveParensReason || Parens(line) < Parens(log.LastStepLine);
 }
 
 }  // namespace numerello

@@ -7,12 +7,11 @@
 #include "core/text.h"
 #include "engine/engine.h"
 #include "engine/number_forms.h"
+#include "engine/step_levels.h"
 
 namespace numerello {
 
 namespace {
-
-constexpr int kOrdinaryStep = 2;
 
 /// outside * root of inside.
 struct RootParts {
@@ -26,7 +25,7 @@ RootParts SimplifyRootValue(double radicand) {
     if (root == std::trunc(root)) {
         return {root, 1};
     }
-    // A larger prime factor is not looked for: kept as it is.
+    // The factors are counted in a table; a larger one fails. Kept as it is.
     constexpr int kTopPrime = 200000;
     std::map<int, int> counts;
     std::string list = PrimeFactorList(radicand) + "*";
@@ -43,6 +42,21 @@ RootParts SimplifyRootValue(double radicand) {
     }
     parts.inside = radicand / (parts.outside * parts.outside);
     return parts;
+}
+
+std::string RootReason(const std::string& r, const RootParts& parts) {
+    const std::string outside = NumberText(parts.outside);
+    if (parts.inside == 1) {
+        return Text(
+            "Simplify the square root by removing any perfect squares from under the radical (~", r,
+            "~=", outside, ").");
+    }
+    const std::string square = NumberText(parts.outside * parts.outside);
+    return Text(
+        "Simplify the square root by removing any perfect square factors from under the radical.  "
+        "In this problem (",
+        r, ") there is a perfect square factor (", square,
+        ") that can be moved outside the radical (~", square, "~ = ", outside, ").");
 }
 
 }  // namespace
@@ -72,10 +86,8 @@ void Engine::SimplifyRoots() {
 }
 
 /// Takes the squares out of one root; false when there are none.
-bool Engine::SimplifyRoot(const Term& root) {
-    const Term term = root;
+bool Engine::SimplifyRoot(Term term) {
     const std::string r = term.NumText.substr(1);
-    const std::string number = NumberText(term.numOver);
     if (term.numOver == 0) {
         Because(Text("Multiply the 0 by the ~", r, "~ using the order of operations."),
                 kOrdinaryStep);
@@ -91,31 +103,20 @@ bool Engine::SimplifyRoot(const Term& root) {
     if (parts.outside == 1 && parts.inside != 1) {
         return false;
     }
+    Because(RootReason(r, parts), kOrdinaryStep);
     const std::string outside = NumberText(parts.outside);
     const std::string inside = parts.inside == 1 ? "" : "~" + NumberText(parts.inside);
-    if (inside.empty()) {
-        Because(Text("Simplify the square root by removing any perfect squares from under the "
-                     "radical (~",
-                     r, "~=", outside, ")."),
-                kOrdinaryStep);
-    } else {
-        const std::string square = NumberText(parts.outside * parts.outside);
-        Because(Text("Simplify the square root by removing any perfect square factors from under "
-                     "the radical.  In this problem (",
-                     r, ") there is a perfect square factor (", square,
-                     ") that can be moved outside the radical (~", square, "~ = ", outside, ")."),
-                kOrdinaryStep);
-    }
     if (term.numOver == 1) {
         ReplaceBetween(term.begin, term.end, Text(term.OpMark, outside, inside));
         RecordStep();
         return true;
     }
+    const std::string number = NumberText(term.numOver);
     ReplaceBetween(term.begin, term.end, Text(term.OpMark, number, "*", outside, inside));
     RecordStep();
     Because(Text("Multiply ", number, " by ", outside, " using the order of operations."),
             kOrdinaryStep);
-    constexpr std::size_t kProductTokens = 4;
+    constexpr std::size_t kProductTokens = 4;  // the sign, two numbers, the "*" between them
     const std::string product = NumberText(Checked(term.numOver * parts.outside));
     ReplaceBetween(term.begin, term.begin + kProductTokens, Text(term.OpMark, product, inside));
     RecordStep();

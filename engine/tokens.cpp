@@ -4,6 +4,7 @@
 
 #include "core/failure.h"
 #include "core/text.h"
+#include "core/topic_codes.h"
 #include "notation/typing_point.h"
 
 namespace numerello {
@@ -86,7 +87,8 @@ class NumberMerger {
             ++end;
         }
         const std::string& next = Token(end);
-        return end > at + 1 && IsDigit(in[at - 1]) && (next.empty() || IsOneOf(next, "+-*/()|=[]"));
+        return end > at + 1 && IsDigit(in[at - 1]) &&
+               (next.empty() || IsOneOf(next, "+-*/()|=[],"));
     }
 
     const Tokens& in;

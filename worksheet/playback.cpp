@@ -81,9 +81,12 @@ void Worksheet::ShowLastLine() {
     }
     FinishWork();
 
+    // An equation without a solution leaves nothing to draw.
     const int code = problem.topic.ProblemType;
-    if (code == kLinearEquation || code == kQuadrantOfPoint) {
-        problem.graph.GraphMode = code == kLinearEquation ? kEquationMode : kPointMode;
+    const bool equation =
+        code == kLinearEquation && !std::as_const(problem.typed).ExprVariants[0].empty();
+    if (equation || code == kQuadrantOfPoint) {
+        problem.graph.GraphMode = equation ? kEquationMode : kPointMode;
         OpenGraph();
     }
 }

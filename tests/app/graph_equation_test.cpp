@@ -63,6 +63,22 @@ TEST(GraphEquation, AsksWhichOfTwoOtherLettersUntilItIsOneOfThem) {
     EXPECT_EQ(problem.log.StepText[problem.log.StepCount - 1], "b=-a+3");
 }
 
+TEST(GraphEquation, TakesTheAnswerInCapitalsToo) {
+    AskedLearner learner({"B"});
+    EXPECT_EQ(Graphed("a+b=3", learner).graph.GraphMode, 3);
+    EXPECT_EQ(learner.prompts.size(), 1U);
+}
+
+TEST(GraphEquation, TellsThatTheLetterAskedForHasGone) {
+    AskedLearner learner({});
+    const Problem problem = Graphed("0y+x=3", learner);
+    EXPECT_EQ(problem.graph.GraphMode, 3);
+    EXPECT_EQ(problem.log.StepText[2], "x=3");
+    EXPECT_EQ(problem.log.StepNote[2],
+              "This cannot be solved for y because it has been cancelled out of the equation. "
+              "Instead we will solve for x.");
+}
+
 TEST(GraphEquation, AsksNothingWhenYStandsFirst) {
     AskedLearner learner({});
     EXPECT_EQ(Graphed("y=5", learner).graph.GraphMode, 3);
@@ -85,6 +101,8 @@ TEST(GraphEquation, HasNothingToDrawWithoutALetter) {
     EXPECT_EQ(problem.graph.GraphMode, 0);
     EXPECT_FALSE(problem.controls.GraphEnabled);
     EXPECT_EQ(problem.log.StepText[problem.log.StepCount - 1], "0$3");
+    EXPECT_EQ(Graphed("y+x=y+x+1", learner).graph.GraphMode, 0);
+    EXPECT_EQ(Graphed("y+x=y+x", learner).graph.GraphMode, 0);
 }
 
 }  // namespace

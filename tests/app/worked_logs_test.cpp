@@ -23,7 +23,7 @@ struct WorkedProblem {
     std::vector<std::string> answers;
     std::vector<std::string> lines;
     std::optional<FailureKind> failure;
-    std::optional<std::string> graph;
+    std::string graph;
 };
 
 std::vector<std::string> SplitAtCommas(const std::string& text) {
@@ -134,13 +134,11 @@ void Check(const WorkedProblem& worked) {
         lines.push_back(problem.log.StepText[i] + " | " + problem.log.StepNote[i]);
     }
     EXPECT_EQ(lines, worked.lines);
-    if (worked.graph) {
-        std::string equation;
-        for (int i = 0; !problem.typed.ExprVariants[i].empty(); ++i) {
-            equation += problem.typed.ExprVariants[i];
-        }
-        EXPECT_EQ(equation, *worked.graph);
+    std::string equation;
+    for (int i = 0; !problem.typed.ExprVariants[i].empty(); ++i) {
+        equation += problem.typed.ExprVariants[i];
     }
+    EXPECT_EQ(equation, worked.graph);
 }
 
 class WorkedLogs : public testing::TestWithParam<std::string> {};

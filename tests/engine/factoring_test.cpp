@@ -86,6 +86,15 @@ TEST_F(Factoring, SolvesByTheFormulaWhenARootIsNoSmallFraction) {
                                        "x=2.41421,-0.41421 |   -  solve"}));
 }
 
+TEST_F(Factoring, WritesSolutionsThatAreFractions) {
+    Line("2x^2+3x+1").FactorQuadratic("x");
+    EXPECT_EQ(problem.log.StepText[3], "x=-#1/2#,-1");
+    // 1/2 is no part of a leading 1: the formula takes over.
+    Line("x^2-1/4");
+    EXPECT_TRUE(engine->FactorExpression(0, false));
+    EXPECT_EQ(problem.log.StepText[3], "x=#1/2#,-#1/2#");
+}
+
 TEST_F(Factoring, ShowsTheFormulaAtFullDetailOnly) {
     Line("x^2-5x+6");
     problem.settings.DetailLevel = 3;

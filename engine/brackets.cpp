@@ -1,6 +1,7 @@
 #include <cmath>
 #include <string>
 
+#include "core/failure.h"
 #include "core/number.h"
 #include "core/text.h"
 #include "engine/engine.h"
@@ -66,6 +67,9 @@ bool Engine::TakeParensAway(std::size_t group) {
     }
 
     const Term& first = pair.terms.front();
+    if (first.Den == 0) {
+        throw Failure(FailureKind::DivisionByZero);
+    }
     if (divided && IsDivided(first)) {
         Because(std::string(kFlipReason), kOrdinaryStep);
         ReplaceBetween(open - 1, pair.tail, Text("*", first.OpMark, Flipped(first)));

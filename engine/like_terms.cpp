@@ -159,17 +159,18 @@ bool LikeTerms::TakeNumberPower(const Term& term) {
 
 /// A decimal or a fraction that is not written as the learner wants it.
 bool LikeTerms::TakeConversion(const Term& term, const std::string& written) {
-    if (HasDecimals(term, written)) {
-        return settings.UseFractions ? ReadDecimal(term) : term.Den != 1 && Divide(term);
-    }
     const bool fraction = IsWrittenFraction(term);
+    const bool decimal = HasDecimals(term, written);
+    if (decimal && settings.UseFractions) {
+        return ReadDecimal(term);
+    }
     if (term.Den == 1 && !fraction) {
         return false;
     }
     if (settings.UseFractions) {
         return Reduce(term);
     }
-    return (!fraction && Reduce(term)) || Divide(term);
+    return (!fraction && !decimal && Reduce(term)) || Divide(term);
 }
 
 /// Turns decimals into a fraction.

@@ -1,0 +1,258 @@
+#include "last_line.h"
+
+#include <map>
+#include <numeric>
+#include <set>
+#include <vector>
+
+#include "notation_cursor.h"
+
+namespace numerello {
+
+namespace {
+
+/// The letters of one side of a fraction line with their exponents, and the number with them.
+struct Product {
+    std::string digits;
+    std::map<char, int> exponents;
+    std::string wrong;
+};
+
+Product TakeProduct(NotationCursor& cursor) {
+    Product product;
+    product.digits = cursor.TakeDigits();
+    while (cursor.AtLetter()) {
+        const char letter = cursor.Next();
+        int exponent = 1;
+        if (cursor.Take('^')) {
+            exponent = cursor.TakeExponent();
+            cursor.Expect('^');
+            product.wrong = exponent < 2 ? "an exponent below 2 is shown" : product.wrong;
+        }
+        if (!product.exponents.try_emplace(letter, exponent).second) {
+            product.wrong = "a letter stands twice in a term";
+        }
+    }
+    if (product.digits == "1" && !product.exponents.empty()) {
+        product.wrong = "a coefficient 1 is shown";
+    }
+    return product;
+}
+
+struct ShownTerm {
+    Product top;
+    Product bottom;
+    bool isFraction = false;
+};
+
+ShownTerm TakeTerm(NotationCursor& cursor) {
+    ShownTerm term;
+    term.isFraction = cursor.Take('#');
+    term.top = TakeProduct(cursor);
+    if (term.isFraction) {
+        cursor.Expect('/');
+        term.bottom = TakeProduct(cursor);
+        cursor.Expect('#');
+    }
+    return term;
+}
+
+bool IsEmpty(const Product& product) {
+    return product.digits.empty() && product.exponents.empty();
+}
+
+std::string LeftInTerm(const ShownTerm& term, Digits digits) {
+    if (IsEmpty(term.top) || (term.isFraction && IsEmpty(term.bottom))) {
+        return "something is left to work";
+    }
+    if (!term.top.wrong.empty() || !term.bottom.wrong.empty()) {
+        return term.top.wrong + term.bottom.wrong;
+    }
+    if (digits == Digits::Decimals) {
+        return term.bottom.digits.empty() ? "" : "a fraction is left";
+    }
+    const std::string top = term.top.digits.empty() ? "1" : term.top.digits;
+    const std::string bottom = term.bottom.digits.empty() ? "1" : term.bottom.digits;
+    if ((top + bottom).find('.') != std::string::npos) {
+        return "a decimal number is left";
+    }
+    const bool lowest = std::gcd(std::stoll(top), std::stoll(bottom)) == 1;
+    const bool whole = !term.isFraction;
+    return whole || (lowest && term.bottom.digits != "1") ? "" : "a fraction can be reduced";
+}
+
+bool IsZero(const ShownTerm& term) {
+    return !term.isFraction && term.top.digits == "0";
+}
+
+/// The terms of a sum that holds nothing else; throws std::invalid_argument for any other line.
+std::vector<ShownTerm> TermsOf(std::string_view line) {
+    NotationCursor cursor(line);
+    std::vector<ShownTerm> terms;
+    do {
+        if (cursor.IsAt("+-") && (cursor.Next() == '+') && terms.empty()) {
+            cursor.Fail("a leading plus");
+        }
+        terms.push_back(TakeTerm(cursor));
+    } while (cursor.IsAt("+-"));
+    if (!cursor.AtEnd()) {
+        cursor.Fail("something is left to work");
+    }
+    return terms;
+}
+
+int DegreeOf(const ShownTerm& term) {
+    return term.top.exponents.empty() ? 0 : term.top.exponents.begin()->second;
+}
+
+std::string LeftInTerms(const std::vector<ShownTerm>& terms, Digits digits) {
+    std::set<std::pair<std::map<char, int>, std::map<char, int>>> kinds;
+    for (const ShownTerm& term : terms) {
+        // A zero beside letters stays: the line without it is never shown.
+        if (IsZero(term) && terms.size() > 1) {
+            continue;
+        }
+        const std::string left = LeftInTerm(term, digits);
+        if (!left.empty()) {
+            return left;
+        }
+        if (!kinds.emplace(term.top.exponents, term.bottom.exponents).second) {
+            return "like terms are left";
+        }
+    }
+    return "";
+}
+
+bool IsInOrder(const std::vector<ShownTerm>& terms) {
+    for (std::size_t i = 1; i < terms.size(); ++i) {
+        if (DegreeOf(terms[i]) > DegreeOf(terms[i - 1])) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Whether a bracket stands where none can go, and all brackets hold several terms.
+bool BracketsMayStay(std::string_view line) {
+    bool bound = false;
+    for (std::size_t at = 0; at < line.size(); ++at) {
+        if (line[at] == '(') {
+            const std::size_t end = line.find_first_of("()", at + 1);
+            if (end != std::string_view::npos && line[end] == ')' &&
+                line.substr(at, end - at).find_first_of("+-", 2) == std::string_view::npos) {
+                return false;
+            }
+            bound = bound || (at > 0 && line[at - 1] == '/') ||
+                    (at > 1 && line.substr(at - 2, 2) == "/-");
+        } else if (line[at] == ')') {
+            std::size_t next = at + 1;
+            bound = bound || line.substr(next, 2) == "^-";
+            if (next < line.size() && line[next] == '^') {
+                next = line.find('^', next + 1) + 1;
+            }
+            bound = bound || line.substr(next, 1) == "/";
+        }
+    }
+    return bound;
+}
+
+bool IsPrime(long long number) {
+    for (long long d = 2; d * d <= number; ++d) {
+        if (number % d == 0) {
+            return false;
+        }
+    }
+    return number > 1;
+}
+
+template <class Check>
+std::string Read(Check check) {
+    try {
+        return check();
+    } catch (const std::invalid_argument& wrong) {
+        return "not worked out";
+    }
+}
+
+}  // namespace
+
+std::string LeftInNumber(std::string_view line, Digits digits) {
+    return Read([&]() -> std::string {
+        const std::vector<ShownTerm> terms = TermsOf(line);
+        if (terms.size() != 1 || !terms[0].top.exponents.empty() ||
+            !terms[0].bottom.exponents.empty()) {
+            return "more than a number is left";
+        }
+        return LeftInTerm(terms[0], digits);
+    });
+}
+
+std::string LeftInPrimePowers(std::string_view line) {
+    if (line == "0" || line == "1") {
+        return "";
+    }
+    return Read([&]() -> std::string {
+        NotationCursor cursor(line);
+        long long last = 0;
+        do {
+            const long long prime = std::stoll(std::string(cursor.TakeDigits()));
+            if (!IsPrime(prime) || prime <= last) {
+                return "no prime, or not in order";
+            }
+            last = prime;
+            if (cursor.Take('^')) {
+                if (cursor.TakeExponent() < 2) {
+                    return "an exponent below 2 is shown";
+                }
+                cursor.Expect('^');
+            }
+        } while (cursor.Take('*'));
+        return cursor.AtEnd() ? "" : "more than a product is left";
+    });
+}
+
+std::string LeftInRoots(std::string_view line) {
+    return Read([&]() -> std::string {
+        NotationCursor cursor(line);
+        std::set<long long> radicands;
+        do {
+            cursor.TakeSigns();
+            const std::string_view count = cursor.TakeDigits();
+            long long radicand = 1;
+            if (cursor.Take('~')) {
+                radicand = std::stoll(std::string(cursor.TakeDigits()));
+                cursor.Expect('~');
+                if (radicand < 2 || SquareFactorsOf(radicand).outside != 1) {
+                    return "a root can be simplified";
+                }
+                if (count == "0" || count == "1") {
+                    return "a coefficient 0 or 1 is shown";
+                }
+            } else if (count.empty()) {
+                return "no number";
+            }
+            // A zero beside a root stays, as beside letters.
+            if (count != "0" && !radicands.insert(radicand).second) {
+                return "like terms are left";
+            }
+        } while (cursor.IsAt("+-"));
+        return cursor.AtEnd() ? "" : "more than a sum is left";
+    });
+}
+
+std::string LeftInPolynomial(std::string_view line, Digits digits) {
+    if (line.find('(') != std::string_view::npos) {
+        return BracketsMayStay(line) ? "" : "a bracket is left";
+    }
+    return Read([&]() -> std::string {
+        const std::vector<ShownTerm> terms = TermsOf(line);
+        const std::string left = LeftInTerms(terms, digits);
+        return left.empty() && !IsInOrder(terms) ? "not in decreasing order" : left;
+    });
+}
+
+std::string LeftInSum(std::string_view line, Digits digits) {
+    return Read([&] { return LeftInTerms(TermsOf(line), digits); });
+}
+
+}  // namespace numerello

@@ -1,0 +1,281 @@
+#include "log_check.h"
+
+#include <set>
+
+#include "core/step_log.h"
+#include "last_line.h"
+
+namespace numerello {
+
+namespace {
+
+constexpr double kLongestSeconds = 2;
+constexpr long long kSinglesLimit = 1 << 24;
+constexpr long long kShortLimit = 32767;
+
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+/// The numbers of a line as they are written.
+std::vector<std::string> NumbersOf(std::string_view line) {
+    std::vector<std::string> numbers;
+    bool open = false;
+    for (const char c : line) {
+        const bool part = IsDigit(c) || c == '.';
+        if (part && !open) {
+            numbers.emplace_back();
+        }
+        if (part) {
+            numbers.back() += c;
+        }
+        open = part;
+    }
+    return numbers;
+}
+
+long long GreatestIn(const WorkedProblem& worked) {
+    long long greatest = 0;
+    for (const std::string& line : worked.lines) {
+        for (std::string number : NumbersOf(line)) {
+            std::erase(number, '.');
+            greatest = std::max(greatest, number.empty()       ? 0
+                                          : number.size() > 18 ? kSinglesLimit
+                                                               : std::stoll(number));
+        }
+    }
+    return greatest;
+}
+
+enum class Existence { Exists, DividesByZero, Untold };
+
+struct Value {
+    Existence existence = Existence::Exists;
+    RootSum number = RootSum(0);
+};
+
+template <class Read>
+Value ValueBy(Read read) {
+    try {
+        return {Existence::Exists, read()};
+    } catch (const std::domain_error&) {
+        return {Existence::DividesByZero};
+    } catch (const std::overflow_error&) {
+        return {Existence::Untold};
+    }
+}
+
+Value ValueOfTyped(const WorkedProblem& worked, const Point& point) {
+    return ValueBy([&] { return TypedValueOf(worked.code, worked.typed, point); });
+}
+
+std::string LeftInLastLine(const WorkedProblem& worked) {
+    const std::string& line = worked.lines.back();
+    const Digits digits = worked.settings.UseFractions ? Digits::Fractions : Digits::Decimals;
+    switch (worked.code) {
+        case 76:
+            // A fraction alone is left as it stands.
+            return worked.lines.size() == 1 ? "" : LeftInNumber(line);
+        case 82:
+            return LeftInRoots(line);
+        case 83:
+            return LeftInPrimePowers(line);
+        case 102:
+        case 150:
+            return LeftInPolynomial(line, digits);
+        default:
+            return LeftInNumber(line, digits);
+    }
+}
+
+/// Lines of 103 up to the first value that is put in hold at any point.
+std::size_t FirstLineWithValues(const WorkedProblem& worked) {
+    std::size_t line = 0;
+    while (line < worked.lines.size() && !worked.notes[line].starts_with("Replace all the")) {
+        ++line;
+    }
+    return line;
+}
+
+std::vector<Point> FreePoints(std::string_view letters) {
+    const Rational kValues[] = {{3, 2}, {-5, 3}, {7, 5}, {-2, 7}};
+    std::vector<Point> points(2);
+    for (std::size_t i = 0; i < letters.size(); ++i) {
+        points[0].emplace(letters[i], kValues[i % 4]);
+        points[1].emplace(letters[i], kValues[(i + 1) % 4]);
+    }
+    return points;
+}
+
+std::string WrongAt(const WorkedProblem& worked, const Point& point, std::size_t lines) {
+    const Value problem = ValueOfTyped(worked, point);
+    if (problem.existence != Existence::Exists) {
+        return "";
+    }
+    for (std::size_t i = 0; i < lines; ++i) {
+        const Value line = ValueBy([&] { return ValueOf(worked.lines[i], point); });
+        if (line.existence == Existence::DividesByZero ||
+            (line.existence == Existence::Exists && !(line.number == problem.number))) {
+            return "not the value of the problem: the line behind \"" +
+                   worked.notes[i].substr(0, 24) + "\"";
+        }
+    }
+    return "";
+}
+
+std::string WrongInValues(const WorkedProblem& worked) {
+    try {
+        for (const Point& point : PointsFor(worked)) {
+            const std::string wrong = WrongAt(worked, point, worked.lines.size());
+            if (!wrong.empty()) {
+                return wrong;
+            }
+        }
+        if (worked.code == 103) {
+            const Point point = FreePoints(LettersOf(worked.typed)).front();
+            return WrongAt(worked, point, FirstLineWithValues(worked));
+        }
+    } catch (const std::logic_error& unreadable) {
+        return "a line that is none of the notation";
+    }
+    return "";
+}
+
+bool DividesByZero(const WorkedProblem& worked) {
+    for (const Point& point : PointsFor(worked)) {
+        if (ValueOfTyped(worked, point).existence != Existence::DividesByZero) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// What the numbers of a line may have lost: those that the line before has too lost nothing.
+struct Rounding {
+    std::set<std::string, std::less<>> known;
+    long double half = 0;
+
+    static long double SlackOf(std::string_view digits, const void* context) {
+        const auto& rounding = *static_cast<const Rounding*>(context);
+        return rounding.known.contains(digits) ? 0 : rounding.half;
+    }
+};
+
+bool RoundsTo(const WorkedProblem& worked, std::size_t line, const Point& point) {
+    Rounding rounding;
+    for (const std::string& number : NumbersOf(worked.lines[line - 1])) {
+        rounding.known.insert(number);
+    }
+    rounding.half = 0.5L / std::pow(10.0L, worked.settings.RoundDigits);
+    try {
+        const Rational before = ValueOf(worked.lines[line - 1], point).Plain();
+        const long double number = static_cast<long double>(before.Numerator()) /
+                                   static_cast<long double>(before.Denominator());
+        return RangeOf(worked.lines[line], point, &Rounding::SlackOf, &rounding).Holds(number);
+    } catch (const std::domain_error&) {
+        // A divisor was rounded to 0.
+        return true;
+    } catch (const std::overflow_error&) {
+        return true;
+    }
+}
+
+}  // namespace
+
+bool IsBeyondSingles(const WorkedProblem& worked) {
+    return GreatestIn(worked) >= kSinglesLimit;
+}
+
+std::string WrongInForm(const WorkedProblem& worked) {
+    if (worked.seconds > kLongestSeconds) {
+        return "too slow";
+    }
+    if (worked.lines.size() > StepLog::kTopIndex) {
+        return "too long";
+    }
+    for (std::size_t i = 0; i < worked.lines.size(); ++i) {
+        if (worked.lines[i].empty()) {
+            return "an empty line";
+        }
+        if (i > 0 && worked.lines[i] == worked.lines[i - 1]) {
+            return "a line repeats the one before";
+        }
+        if (i > 0 && worked.notes[i].empty()) {
+            return "a line without a reason";
+        }
+    }
+    return worked.lines.empty() && !worked.failure ? "an empty log" : "";
+}
+
+Verdict JudgeFailure(const WorkedProblem& worked, bool dividesByZero) {
+    if (worked.failure == FailureKind::Overflow && GreatestIn(worked) > kShortLimit) {
+        return {true, ""};
+    }
+    if (dividesByZero) {
+        return {false, worked.failure == FailureKind::DivisionByZero
+                           ? ""
+                           : "a division by zero is not refused"};
+    }
+    return {false, worked.failure
+                       ? "a failure without a cause: " + std::string(FailureName(*worked.failure))
+                       : ""};
+}
+
+std::vector<Point> PointsFor(const WorkedProblem& worked) {
+    const std::string letters = LettersOf(worked.typed);
+    if (letters.empty()) {
+        return {Point()};
+    }
+    if (worked.code != 103) {
+        return FreePoints(letters);
+    }
+    std::vector<Point> points(1);
+    for (std::size_t i = 0; i < letters.size(); ++i) {
+        points[0].emplace(letters[i], Rational::Of(worked.answers[i]));
+    }
+    return points;
+}
+
+Verdict JudgeExactLines(const WorkedProblem& worked) {
+    const std::string form = WrongInForm(worked);
+    if (!form.empty()) {
+        return {false, form};
+    }
+    const bool dividesByZero = DividesByZero(worked);
+    if (dividesByZero || worked.failure) {
+        return JudgeFailure(worked, dividesByZero);
+    }
+    if (IsBeyondSingles(worked)) {
+        return {true, ""};
+    }
+    const std::string wrong = WrongInValues(worked);
+    return {false, wrong.empty() ? LeftInLastLine(worked) : wrong};
+}
+
+Verdict JudgeRoundedLines(const WorkedProblem& worked) {
+    const std::string form = WrongInForm(worked);
+    if (!form.empty()) {
+        return {false, form};
+    }
+    if (worked.failure || DividesByZero(worked) || IsBeyondSingles(worked)) {
+        return {true, ""};
+    }
+    try {
+        for (const Point& point : PointsFor(worked)) {
+            if (!WrongAt(worked, point, 1).empty()) {
+                return {false, "the first line is not the problem"};
+            }
+            for (std::size_t i = 1; i < worked.lines.size(); ++i) {
+                if (!RoundsTo(worked, i, point)) {
+                    return {false, "further off than rounding goes: the line behind \"" +
+                                       worked.notes[i].substr(0, 24) + "\""};
+                }
+            }
+        }
+    } catch (const std::logic_error& unreadable) {
+        return {false, "a line that is none of the notation"};
+    }
+    return {false, LeftInLastLine(worked)};
+}
+
+}  // namespace numerello

@@ -1,5 +1,6 @@
 #include "last_line.h"
 
+#include <climits>
 #include <map>
 #include <numeric>
 #include <set>
@@ -81,10 +82,6 @@ std::string LeftInTerm(const ShownTerm& term, Digits digits) {
     return whole || (lowest && term.bottom.digits != "1") ? "" : "a fraction can be reduced";
 }
 
-bool IsZero(const ShownTerm& term) {
-    return !term.isFraction && term.top.digits == "0";
-}
-
 /// The terms of a sum that holds nothing else; throws std::invalid_argument for any other line.
 std::vector<ShownTerm> TermsOf(std::string_view line) {
     NotationCursor cursor(line);
@@ -99,6 +96,10 @@ std::vector<ShownTerm> TermsOf(std::string_view line) {
         cursor.Fail("something is left to work");
     }
     return terms;
+}
+
+bool IsZero(const ShownTerm& term) {
+    return term.top.digits == "0";
 }
 
 int DegreeOf(const ShownTerm& term) {
@@ -124,36 +125,42 @@ std::string LeftInTerms(const std::vector<ShownTerm>& terms, Digits digits) {
 }
 
 bool IsInOrder(const std::vector<ShownTerm>& terms) {
-    for (std::size_t i = 1; i < terms.size(); ++i) {
-        if (DegreeOf(terms[i]) > DegreeOf(terms[i - 1])) {
+    int last = INT_MAX;
+    for (const ShownTerm& term : terms) {
+        if (IsZero(term)) {
+            continue;
+        }
+        if (DegreeOf(term) > last) {
             return false;
         }
+        last = DegreeOf(term);
     }
     return true;
 }
 
-/// Whether a bracket stands where none can go, and all brackets hold several terms.
-bool BracketsMayStay(std::string_view line) {
-    bool bound = false;
-    for (std::size_t at = 0; at < line.size(); ++at) {
-        if (line[at] == '(') {
-            const std::size_t end = line.find_first_of("()", at + 1);
-            if (end != std::string_view::npos && line[end] == ')' &&
-                line.substr(at, end - at).find_first_of("+-", 2) == std::string_view::npos) {
-                return false;
-            }
-            bound = bound || (at > 0 && line[at - 1] == '/') ||
-                    (at > 1 && line.substr(at - 2, 2) == "/-");
-        } else if (line[at] == ')') {
-            std::size_t next = at + 1;
-            bound = bound || line.substr(next, 2) == "^-";
-            if (next < line.size() && line[next] == '^') {
-                next = line.find('^', next + 1) + 1;
-            }
-            bound = bound || line.substr(next, 1) == "/";
+bool HoldsSeveralTerms(std::string_view bracket) {
+    return bracket.substr(1).find_first_of("+-", 1) != std::string_view::npos;
+}
+
+/// Whether a bracket of several terms stands where it cannot go. It keeps those around it.
+bool SomeBracketMustStay(std::string_view line) {
+    for (std::size_t begin = line.find('('); begin != std::string_view::npos;
+         begin = line.find('(', begin + 1)) {
+        std::size_t end = begin;
+        for (int open = 1; open > 0 && end + 1 < line.size();) {
+            ++end;
+            open += line[end] == '(' ? 1 : line[end] == ')' ? -1 : 0;
+        }
+        const std::string_view before = line.substr(0, begin);
+        const std::string_view behind = line.substr(end + 1);
+        const std::size_t power = behind.starts_with("^") ? behind.find('^', 1) + 1 : 0;
+        const bool bound = before.ends_with("/") || before.ends_with("/-") ||
+                           behind.substr(power).starts_with("/") || behind.starts_with("^-");
+        if (bound && HoldsSeveralTerms(line.substr(begin, end - begin))) {
+            return true;
         }
     }
-    return bound;
+    return false;
 }
 
 bool IsPrime(long long number) {
@@ -242,7 +249,7 @@ std::string LeftInRoots(std::string_view line) {
 
 std::string LeftInPolynomial(std::string_view line, Digits digits) {
     if (line.find('(') != std::string_view::npos) {
-        return BracketsMayStay(line) ? "" : "a bracket is left";
+        return SomeBracketMustStay(line) ? "" : "a bracket is left";
     }
     return Read([&]() -> std::string {
         const std::vector<ShownTerm> terms = TermsOf(line);

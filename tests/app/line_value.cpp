@@ -119,7 +119,7 @@ class LineReader {
 
     bool RunEnds() const {
         return cursor.AtEnd() || cursor.IsAt("+-*{/)") || (cursor.IsAt("|") && cursor.IsIn('|')) ||
-               (cursor.IsAt("~") && cursor.IsIn('~')) || (cursor.IsAt("#") && cursor.IsIn('/'));
+               (cursor.IsAt("~") && cursor.IsIn('~')) || (cursor.IsAt("#(") && cursor.IsIn('/'));
     }
 
     Number Run() {
@@ -176,10 +176,15 @@ class LineReader {
         Number value = Sum();
         cursor.Close();
         cursor.Open('/');
-        do {
-            cursor.Expect('/');
-            value = value / Sum();
-        } while (cursor.IsAt("/"));
+        while (!cursor.IsAt("#")) {
+            // A bracket that does not stand behind the slash itself is worked from the left.
+            if (cursor.IsAt("(")) {
+                value = value * Factor();
+            } else {
+                cursor.Expect('/');
+                value = value / Sum();
+            }
+        }
         cursor.Close();
         cursor.Expect('#');
         return value;

@@ -17,34 +17,40 @@ bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
+enum class Place { Anywhere, Denominator };
+
 /// The numbers of a line as they are written.
-std::vector<std::string> NumbersOf(std::string_view line) {
+std::vector<std::string> NumbersOf(std::string_view line, Place place = Place::Anywhere) {
     std::vector<std::string> numbers;
-    bool open = false;
-    for (const char c : line) {
-        const bool part = IsDigit(c) || c == '.';
-        if (part && !open) {
-            numbers.emplace_back();
+    for (std::size_t at = 0; at < line.size(); ++at) {
+        const std::size_t begin = at;
+        while (at < line.size() && (IsDigit(line[at]) || line[at] == '.')) {
+            ++at;
         }
-        if (part) {
-            numbers.back() += c;
+        const bool wanted = place == Place::Anywhere || (begin > 0 && (line[begin - 1] == '/'));
+        if (at > begin && wanted) {
+            numbers.emplace_back(line.substr(begin, at - begin));
         }
-        open = part;
     }
     return numbers;
 }
 
-long long GreatestIn(const WorkedProblem& worked) {
-    long long greatest = 0;
+/// Of the digits: where the point stands plays no role.
+long long GreatestIn(const WorkedProblem& worked, Place place) {
+    long long greatest = 1;
     for (const std::string& line : worked.lines) {
-        for (std::string number : NumbersOf(line)) {
+        for (std::string number : NumbersOf(line, place)) {
             std::erase(number, '.');
-            greatest = std::max(greatest, number.empty()       ? 0
-                                          : number.size() > 18 ? kSinglesLimit
-                                                               : std::stoll(number));
+            constexpr std::size_t kManyDigits = 12;
+            greatest = std::max(greatest,
+                                number.size() > kManyDigits ? kSinglesLimit : std::stoll(number));
         }
     }
     return greatest;
+}
+
+bool HoldsDecimals(const WorkedProblem& worked) {
+    return worked.typed.find('.') != std::string::npos;
 }
 
 enum class Existence { Exists, DividesByZero, Untold };
@@ -151,27 +157,47 @@ bool DividesByZero(const WorkedProblem& worked) {
 }
 
 /// What the numbers of a line may have lost: those that the line before has too lost nothing.
-struct Rounding {
+struct Loss {
     std::set<std::string, std::less<>> known;
     long double half = 0;
 
     static long double SlackOf(std::string_view digits, const void* context) {
-        const auto& rounding = *static_cast<const Rounding*>(context);
-        return rounding.known.contains(digits) ? 0 : rounding.half;
+        const auto& loss = *static_cast<const Loss*>(context);
+        if (loss.known.contains(digits)) {
+            return 0;
+        }
+        constexpr long double kSinglePrecision = 0x1p-22L;
+        return loss.half + std::stold(std::string(digits)) * kSinglePrecision;
     }
 };
 
-bool RoundsTo(const WorkedProblem& worked, std::size_t line, const Point& point) {
-    Rounding rounding;
-    for (const std::string& number : NumbersOf(worked.lines[line - 1])) {
-        rounding.known.insert(number);
+/// The numbers that stand no oftener in the new line than before.
+std::set<std::string, std::less<>> KnownNumbers(std::string_view before, std::string_view line) {
+    std::map<std::string, int> counts;
+    for (const std::string& number : NumbersOf(before)) {
+        ++counts[number];
     }
-    rounding.half = 0.5L / std::pow(10.0L, worked.settings.RoundDigits);
+    for (const std::string& number : NumbersOf(line)) {
+        --counts[number];
+    }
+    std::set<std::string, std::less<>> known;
+    for (const auto& [number, count] : counts) {
+        if (count >= 0) {
+            known.insert(number);
+        }
+    }
+    return known;
+}
+
+bool RoundsTo(const WorkedProblem& worked, std::size_t line, const Point& point) {
+    const std::string& before = worked.lines[line - 1];
+    const Loss loss{KnownNumbers(before, worked.lines[line]),
+                    0.5L / std::pow(10.0L, worked.settings.RoundDigits)};
     try {
-        const Rational before = ValueOf(worked.lines[line - 1], point).Plain();
-        const long double number = static_cast<long double>(before.Numerator()) /
-                                   static_cast<long double>(before.Denominator());
-        return RangeOf(worked.lines[line], point, &Rounding::SlackOf, &rounding).Holds(number);
+        const Rational value = ValueOf(before, point).Plain();
+        const long double number = static_cast<long double>(value.Numerator()) /
+                                   static_cast<long double>(value.Denominator());
+        return RangeOf(worked.lines[line], point, &Loss::SlackOf, &loss).Holds(number);
     } catch (const std::domain_error&) {
         // A divisor was rounded to 0.
         return true;
@@ -183,7 +209,13 @@ bool RoundsTo(const WorkedProblem& worked, std::size_t line, const Point& point)
 }  // namespace
 
 bool IsBeyondSingles(const WorkedProblem& worked) {
-    return GreatestIn(worked) >= kSinglesLimit;
+    const long long greatest = GreatestIn(worked, Place::Anywhere);
+    const long long denominator = GreatestIn(worked, Place::Denominator);
+    if (greatest >= kSinglesLimit || greatest * denominator >= kSinglesLimit) {
+        return true;
+    }
+    // Decimal numbers become fractions by trying denominators, whose products are singles too.
+    return HoldsDecimals(worked) && greatest * greatest >= kSinglesLimit;
 }
 
 std::string WrongInForm(const WorkedProblem& worked) {
@@ -208,7 +240,8 @@ std::string WrongInForm(const WorkedProblem& worked) {
 }
 
 Verdict JudgeFailure(const WorkedProblem& worked, bool dividesByZero) {
-    if (worked.failure == FailureKind::Overflow && GreatestIn(worked) > kShortLimit) {
+    if (worked.failure == FailureKind::Overflow &&
+        GreatestIn(worked, Place::Anywhere) > kShortLimit) {
         return {true, ""};
     }
     if (dividesByZero) {
@@ -257,7 +290,7 @@ Verdict JudgeRoundedLines(const WorkedProblem& worked) {
     if (!form.empty()) {
         return {false, form};
     }
-    if (worked.failure || DividesByZero(worked) || IsBeyondSingles(worked)) {
+    if (worked.failure || DividesByZero(worked)) {
         return {true, ""};
     }
     try {

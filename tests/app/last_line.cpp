@@ -1,6 +1,6 @@
 #include "last_line.h"
 
-#include <climits>
+#include <algorithm>
 #include <map>
 #include <numeric>
 #include <set>
@@ -69,6 +69,10 @@ std::string LeftInTerm(const ShownTerm& term, Digits digits) {
     if (!term.top.wrong.empty() || !term.bottom.wrong.empty()) {
         return term.top.wrong + term.bottom.wrong;
     }
+    if (term.bottom.digits == "1" && !term.top.exponents.empty()) {
+        // Letters over 1 are no fraction to reduce.
+        return "";
+    }
     if (digits == Digits::Decimals) {
         return term.bottom.digits.empty() ? "" : "a fraction is left";
     }
@@ -124,18 +128,13 @@ std::string LeftInTerms(const std::vector<ShownTerm>& terms, Digits digits) {
     return "";
 }
 
+/// The line without a zero is the sorted one, and is never shown.
 bool IsInOrder(const std::vector<ShownTerm>& terms) {
-    int last = INT_MAX;
-    for (const ShownTerm& term : terms) {
-        if (IsZero(term)) {
-            continue;
-        }
-        if (DegreeOf(term) > last) {
-            return false;
-        }
-        last = DegreeOf(term);
-    }
-    return true;
+    return std::any_of(terms.begin(), terms.end(), IsZero) ||
+           std::is_sorted(terms.begin(), terms.end(),
+                          [](const ShownTerm& a, const ShownTerm& b) {
+                              return DegreeOf(a) > DegreeOf(b);
+                          });
 }
 
 bool HoldsSeveralTerms(std::string_view bracket) {

@@ -156,18 +156,21 @@ bool DividesByZero(const WorkedProblem& worked) {
     return true;
 }
 
-/// What the numbers of a line may have lost: those that the line before has too lost nothing.
+/// What the numbers of a line may have lost: those that the line before has too lost nothing,
+/// unless they are so large that seven digits round them to the same.
 struct Loss {
     std::set<std::string, std::less<>> known;
     long double half = 0;
 
     static long double SlackOf(std::string_view digits, const void* context) {
         const auto& loss = *static_cast<const Loss*>(context);
-        if (loss.known.contains(digits)) {
+        constexpr long double kLarge = 1e4L;
+        constexpr long double kSevenDigits = 1e-6L;
+        const long double number = std::stold(std::string(digits));
+        if (number < kLarge && loss.known.contains(digits)) {
             return 0;
         }
-        constexpr long double kSinglePrecision = 0x1p-22L;
-        return loss.half + std::stold(std::string(digits)) * kSinglePrecision;
+        return loss.half + number * kSevenDigits;
     }
 };
 
@@ -190,6 +193,10 @@ std::set<std::string, std::less<>> KnownNumbers(std::string_view before, std::st
 }
 
 bool RoundsTo(const WorkedProblem& worked, std::size_t line, const Point& point) {
+    if (worked.notes[line].find("(0).") != std::string::npos) {
+        // A number that is rounded to 0 leaves the line, its bracket, and what multiplies it.
+        return true;
+    }
     const std::string& before = worked.lines[line - 1];
     const Loss loss{KnownNumbers(before, worked.lines[line]),
                     0.5L / std::pow(10.0L, worked.settings.RoundDigits)};
@@ -290,7 +297,8 @@ Verdict JudgeRoundedLines(const WorkedProblem& worked) {
     if (!form.empty()) {
         return {false, form};
     }
-    if (worked.failure || DividesByZero(worked)) {
+    if (worked.failure || GreatestIn(worked, Place::Anywhere) >= kSinglesLimit ||
+        DividesByZero(worked)) {
         return {true, ""};
     }
     try {

@@ -131,10 +131,9 @@ std::string LeftInTerms(const std::vector<ShownTerm>& terms, Digits digits) {
 /// The line without a zero is the sorted one, and is never shown.
 bool IsInOrder(const std::vector<ShownTerm>& terms) {
     return std::any_of(terms.begin(), terms.end(), IsZero) ||
-           std::is_sorted(terms.begin(), terms.end(),
-                          [](const ShownTerm& a, const ShownTerm& b) {
-                              return DegreeOf(a) > DegreeOf(b);
-                          });
+           std::is_sorted(terms.begin(), terms.end(), [](const ShownTerm& a, const ShownTerm& b) {
+               return DegreeOf(a) > DegreeOf(b);
+           });
 }
 
 bool HoldsSeveralTerms(std::string_view bracket) {

@@ -33,27 +33,19 @@ class ListLearner : public Learner {
 };
 
 /// Code 122 has no entry of its own: its equations are typed into that of 101.
-const Problem& OpenedForm(int code) {
-    static std::map<int, Problem> forms;
-    const auto [form, isNew] = forms.try_emplace(code);
-    if (isNew) {
-        form->second = Opened(FindTopicByCode(code == 122 ? 101 : code)->caption);
-        form->second.topic.ProblemType = code;
-    }
-    return form->second;
+int EntryCode(int code) {
+    return code == 122 ? 101 : code;
 }
 
-/// The filter's own codes decide what may be typed.
-std::optional<Problem> TypedInto(int code, std::string_view keys) {
-    Problem problem = OpenedForm(code == 122 ? 101 : code);
+/// False when the filter refuses a key or waits for more.
+bool TypeWhole(Problem& problem, std::string_view keys) {
     for (const char key : keys) {
         Form_KeyPress(problem, std::string_view(&key, 1));
         if (!problem.input.KeyAccepted) {
-            return std::nullopt;
+            return false;
         }
     }
-    problem.topic.ProblemType = code;
-    return problem;
+    return LineIsComplete(problem);
 }
 
 }  // namespace
@@ -86,17 +78,18 @@ std::string WorkedProblem::Description() const {
 }
 
 InventedProblems::InventedProblems(int code, std::uint32_t seed)
-    : code(code), inventor(code, seed) {}
+    : code(code), opened(Opened(FindTopicByCode(EntryCode(code))->caption)), inventor(code, seed) {}
 
 WorkedProblem InventedProblems::Next() {
     while (true) {
         WorkedProblem worked;
         worked.code = code;
         worked.typed = inventor.Problem();
-        const std::optional<Problem> problem = TypedInto(code, worked.typed);
-        if (!problem || !LineIsComplete(*problem)) {
+        worked.unsolved = opened;
+        if (!TypeWhole(worked.unsolved, worked.typed)) {
             continue;
         }
+        worked.unsolved.topic.ProblemType = code;
         const std::string letters = LettersOf(worked.typed);
         for (std::size_t i = 0; code == 103 && i < letters.size(); ++i) {
             worked.answers.push_back(inventor.Answer());
@@ -109,7 +102,7 @@ WorkedProblem InventedProblems::Next() {
 }
 
 void Solve(WorkedProblem& worked) {
-    Problem problem = TypedInto(worked.code, worked.typed).value();
+    Problem problem = worked.unsolved;
     problem.settings = worked.settings;
     ListLearner learner(worked.answers);
     Stage stage;

@@ -13,6 +13,7 @@ namespace numerello {
 struct WorkedProblem {
     int code = 0;
     std::string typed;
+    Problem unsolved;  ///< with the keys typed
     std::vector<std::string> answers;
     AnswerSettings settings;
     std::vector<std::string> lines;
@@ -33,10 +34,11 @@ class InventedProblems {
 
   private:
     int code;
+    Problem opened;
     Inventor inventor;
 };
 
-/// Solves the typed problem by its code with its settings; fills lines, notes, failure and time.
+/// Solves the typed problem with its settings; fills lines, notes, failure and time.
 void Solve(WorkedProblem& worked);
 
 /// The letters of a text in order of first appearance.

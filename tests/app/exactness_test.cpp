@@ -16,14 +16,18 @@ INSTANTIATE_TEST_SUITE_P(Topics, Exactness,
                          ::testing::Values(91, 121, 81, 102, 82, 83, 76, 150, 120, 103),
                          ::testing::PrintToStringParamName());
 
-class Solutions : public ::testing::TestWithParam<int> {};
+class EquationLines : public ::testing::TestWithParam<int> {};
 
-TEST_P(Solutions, AreThoseOfEveryLine) {
+TEST_P(EquationLines, HaveTheSolutionsOfTheProblem) {
     JudgeMany(GetParam(), 20266, kInventedProblems, AnswerSettings(), JudgeEquation);
 }
 
-INSTANTIATE_TEST_SUITE_P(Topics, Solutions, ::testing::Values(101, 122, 105),
+INSTANTIATE_TEST_SUITE_P(Topics, EquationLines, ::testing::Values(101, 105),
                          ::testing::PrintToStringParamName());
+
+TEST(Code122, HasTheSolutionsOfTheProblemOnEveryLine) {
+    JudgeMany(122, 20268, kInventedProblems / 10, AnswerSettings(), JudgeEquation);
+}
 
 class Rounding : public ::testing::TestWithParam<int> {};
 

@@ -1,5 +1,6 @@
 #include "log_check.h"
 
+#include <algorithm>
 #include <set>
 
 #include "core/step_log.h"
@@ -192,19 +193,39 @@ std::set<std::string, std::less<>> KnownNumbers(std::string_view before, std::st
     return known;
 }
 
+/// Whether the line holds a number that may be rounded to 0: with it goes what multiplies it.
+bool HoldsAlmostZero(std::string_view line, long double half) {
+    const auto anyOf = [&](Place place, auto isAlmostZero) {
+        const std::vector<std::string> numbers = NumbersOf(line, place);
+        return std::any_of(numbers.begin(), numbers.end(), [&](const std::string& digits) {
+            return isAlmostZero(std::stold(digits));
+        });
+    };
+    return anyOf(Place::Anywhere, [&](long double n) { return n > 0 && n < 2 * half; }) ||
+           anyOf(Place::Denominator, [&](long double n) { return n * half >= 1; });
+}
+
 bool RoundsTo(const WorkedProblem& worked, std::size_t line, const Point& point) {
-    if (worked.notes[line].find("(0).") != std::string::npos) {
-        // A number that is rounded to 0 leaves the line, its bracket, and what multiplies it.
+    const std::string& before = worked.lines[line - 1];
+    Loss loss{KnownNumbers(before, worked.lines[line]),
+              0.5L / std::pow(10.0L, worked.settings.RoundDigits)};
+    if (worked.notes[line].find("(0).") != std::string::npos ||
+        HoldsAlmostZero(before, loss.half)) {
         return true;
     }
-    const std::string& before = worked.lines[line - 1];
-    const Loss loss{KnownNumbers(before, worked.lines[line]),
-                    0.5L / std::pow(10.0L, worked.settings.RoundDigits)};
     try {
         const Rational value = ValueOf(before, point).Plain();
         const long double number = static_cast<long double>(value.Numerator()) /
                                    static_cast<long double>(value.Denominator());
-        return RangeOf(worked.lines[line], point, &Loss::SlackOf, &loss).Holds(number);
+        const auto holds = [&] {
+            return RangeOf(worked.lines[line], point, &Loss::SlackOf, &loss).Holds(number);
+        };
+        if (holds()) {
+            return true;
+        }
+        // A new number may be written like an old one.
+        loss.known.clear();
+        return holds();
     } catch (const std::domain_error&) {
         // A divisor was rounded to 0.
         return true;

@@ -30,7 +30,7 @@ struct Range {
 
     /// But for what calculating with long doubles loses.
     bool Holds(long double number) const {
-        const long double slack = 1e-12L * std::max(1.0L, std::fabs(number));
+        const long double slack = 1e-9L * std::max(1.0L, std::fabs(number));
         return low - slack <= number && number <= high + slack;
     }
 };

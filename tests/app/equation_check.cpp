@@ -1,6 +1,7 @@
 #include "equation_check.h"
 
 #include "last_line.h"
+#include "log_numbers.h"
 
 namespace numerello {
 

@@ -31,12 +31,11 @@ struct Exactly {
 struct Nearly {
     using Number = Range;
 
-    long double (*slackOf)(std::string_view digits, const void* context);
-    const void* context;
+    const SlackOf& slackOf;
 
     Number Of(std::string_view digits) const {
         const Number exact = Of(Rational::Of(digits));
-        const long double slack = slackOf(digits, context);
+        const long double slack = slackOf(digits);
         return {exact.low - slack, exact.high + slack};
     }
     static Number Of(const Rational& value) {
@@ -214,10 +213,8 @@ RootSum ValueOf(std::string_view line, const Point& letters) {
     return Read(line, letters, Exactly());
 }
 
-Range RangeOf(std::string_view line, const Point& letters,
-              long double (*slackOf)(std::string_view digits, const void* context),
-              const void* context) {
-    return Read(line, letters, Nearly{slackOf, context});
+Range RangeOf(std::string_view line, const Point& letters, const SlackOf& slackOf) {
+    return Read(line, letters, Nearly{slackOf});
 }
 
 }  // namespace numerello

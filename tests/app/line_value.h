@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <string_view>
@@ -17,10 +18,11 @@ using Point = std::map<char, Rational>;
 /// text that is none of the notation.
 RootSum ValueOf(std::string_view line, const Point& letters = {});
 
-/// The same where a number may be off by as much as `slackOf` says of its digits.
-Range RangeOf(std::string_view line, const Point& letters,
-              long double (*slackOf)(std::string_view digits, const void* context),
-              const void* context);
+/// By how much a number with these digits may be off.
+using SlackOf = std::function<long double(std::string_view digits)>;
+
+/// The same where numbers may be off.
+Range RangeOf(std::string_view line, const Point& letters, const SlackOf& slackOf);
 
 /// What typed characters stand for, worked from the left: "8/2(3)" is 12, "8/2x" is 8/(2x). In code
 /// 76 a slash behind a fraction divides two fractions. Throws as ValueOf does.

@@ -5,54 +5,14 @@
 
 #include "core/step_log.h"
 #include "last_line.h"
+#include "log_numbers.h"
 
 namespace numerello {
 
 namespace {
 
 constexpr double kLongestSeconds = 2;
-constexpr long long kSinglesLimit = 1 << 24;
 constexpr long long kShortLimit = 32767;
-
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
-enum class Place { Anywhere, Denominator };
-
-/// The numbers of a line as they are written.
-std::vector<std::string> NumbersOf(std::string_view line, Place place = Place::Anywhere) {
-    std::vector<std::string> numbers;
-    for (std::size_t at = 0; at < line.size(); ++at) {
-        const std::size_t begin = at;
-        while (at < line.size() && (IsDigit(line[at]) || line[at] == '.')) {
-            ++at;
-        }
-        const bool wanted = place == Place::Anywhere || (begin > 0 && (line[begin - 1] == '/'));
-        if (at > begin && wanted) {
-            numbers.emplace_back(line.substr(begin, at - begin));
-        }
-    }
-    return numbers;
-}
-
-/// Of the digits: where the point stands plays no role.
-long long GreatestIn(const WorkedProblem& worked, Place place) {
-    long long greatest = 1;
-    for (const std::string& line : worked.lines) {
-        for (std::string number : NumbersOf(line, place)) {
-            std::erase(number, '.');
-            constexpr std::size_t kManyDigits = 12;
-            greatest = std::max(greatest,
-                                number.size() > kManyDigits ? kSinglesLimit : std::stoll(number));
-        }
-    }
-    return greatest;
-}
-
-bool HoldsDecimals(const WorkedProblem& worked) {
-    return worked.typed.find('.') != std::string::npos;
-}
 
 enum class Existence { Exists, DividesByZero, Untold };
 
@@ -157,26 +117,19 @@ bool DividesByZero(const WorkedProblem& worked) {
     return true;
 }
 
-/// What the numbers of a line may have lost: those that the line before has too lost nothing,
-/// unless they are so large that seven digits round them to the same.
-struct Loss {
-    std::set<std::string, std::less<>> known;
-    long double half = 0;
+using NumberSet = std::set<std::string, std::less<>>;
 
-    static long double SlackOf(std::string_view digits, const void* context) {
-        const auto& loss = *static_cast<const Loss*>(context);
-        constexpr long double kLarge = 1e4L;
-        constexpr long double kSevenDigits = 1e-6L;
-        const long double number = std::stold(std::string(digits));
-        if (number < kLarge && loss.known.contains(digits)) {
-            return 0;
-        }
-        return loss.half + number * kSevenDigits;
-    }
-};
+/// What a number may have lost: nothing when it is known from the line before, unless it is so
+/// large that seven digits may round others to it.
+long double Slack(std::string_view digits, long double half, const NumberSet& known) {
+    constexpr long double kLarge = 1e4L;
+    constexpr long double kSevenDigits = 1e-6L;
+    const long double number = std::stold(std::string(digits));
+    return number < kLarge && known.contains(digits) ? 0 : half + number * kSevenDigits;
+}
 
 /// The numbers that stand no oftener in the new line than before.
-std::set<std::string, std::less<>> KnownNumbers(std::string_view before, std::string_view line) {
+NumberSet KnownNumbers(std::string_view before, std::string_view line) {
     std::map<std::string, int> counts;
     for (const std::string& number : NumbersOf(before)) {
         ++counts[number];
@@ -184,7 +137,7 @@ std::set<std::string, std::less<>> KnownNumbers(std::string_view before, std::st
     for (const std::string& number : NumbersOf(line)) {
         --counts[number];
     }
-    std::set<std::string, std::less<>> known;
+    NumberSet known;
     for (const auto& [number, count] : counts) {
         if (count >= 0) {
             known.insert(number);
@@ -207,25 +160,22 @@ bool HoldsAlmostZero(std::string_view line, long double half) {
 
 bool RoundsTo(const WorkedProblem& worked, std::size_t line, const Point& point) {
     const std::string& before = worked.lines[line - 1];
-    Loss loss{KnownNumbers(before, worked.lines[line]),
-              0.5L / std::pow(10.0L, worked.settings.RoundDigits)};
-    if (worked.notes[line].find("(0).") != std::string::npos ||
-        HoldsAlmostZero(before, loss.half)) {
+    const long double half = 0.5L / std::pow(10.0L, worked.settings.RoundDigits);
+    if (worked.notes[line].find("(0).") != std::string::npos || HoldsAlmostZero(before, half)) {
         return true;
     }
     try {
         const Rational value = ValueOf(before, point).Plain();
         const long double number = static_cast<long double>(value.Numerator()) /
                                    static_cast<long double>(value.Denominator());
-        const auto holds = [&] {
-            return RangeOf(worked.lines[line], point, &Loss::SlackOf, &loss).Holds(number);
+        const auto holdsBut = [&](const NumberSet& known) {
+            const auto slackOf = [&](std::string_view digits) {
+                return Slack(digits, half, known);
+            };
+            return RangeOf(worked.lines[line], point, slackOf).Holds(number);
         };
-        if (holds()) {
-            return true;
-        }
         // A new number may be written like an old one.
-        loss.known.clear();
-        return holds();
+        return holdsBut(KnownNumbers(before, worked.lines[line])) || holdsBut({});
     } catch (const std::domain_error&) {
         // A divisor was rounded to 0.
         return true;
@@ -235,16 +185,6 @@ bool RoundsTo(const WorkedProblem& worked, std::size_t line, const Point& point)
 }
 
 }  // namespace
-
-bool IsBeyondSingles(const WorkedProblem& worked) {
-    const long long greatest = GreatestIn(worked, Place::Anywhere);
-    const long long denominator = GreatestIn(worked, Place::Denominator);
-    if (greatest >= kSinglesLimit || greatest * denominator >= kSinglesLimit) {
-        return true;
-    }
-    // Decimal numbers become fractions by trying denominators, whose products are singles too.
-    return HoldsDecimals(worked) && greatest * greatest >= kSinglesLimit;
-}
 
 std::string WrongInForm(const WorkedProblem& worked) {
     if (worked.seconds > kLongestSeconds) {

@@ -15,9 +15,6 @@ struct Verdict {
     std::string wrong;
 };
 
-/// Whether a number of the log is past what a single holds exactly.
-bool IsBeyondSingles(const WorkedProblem& worked);
-
 /// What is wrong with any log, whatever its topic: too long, too slow, an empty line, a line that
 /// repeats the one before.
 std::string WrongInForm(const WorkedProblem& worked);

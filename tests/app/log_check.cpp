@@ -184,6 +184,23 @@ bool RoundsTo(const WorkedProblem& worked, std::size_t line, const Point& point)
     }
 }
 
+/// Whether the tables of terms may have been too small for the line that would have followed: more
+/// than fifteen powers, a hundred terms, or the log full.
+bool MayPassABound(const WorkedProblem& worked) {
+    const std::string line = worked.lines.empty() ? "" : worked.lines.back();
+    std::set<std::string, std::less<>> exponents;
+    for (std::size_t at = line.find('^'); at != std::string::npos; at = line.find('^', at + 1)) {
+        exponents.insert(
+            line.substr(at + 1, line.find_first_not_of("0123456789", at + 1) - at - 1));
+    }
+    constexpr std::size_t kFewPowers = 12;
+    constexpr std::ptrdiff_t kFewTerms = 90;
+    const auto terms = std::count_if(line.begin(), line.end(),
+                                     [](char c) { return c == '+' || c == '-' || c == '*'; });
+    return exponents.size() > kFewPowers || terms > kFewTerms ||
+           worked.lines.size() + 1 >= StepLog::kTopIndex;
+}
+
 }  // namespace
 
 std::string WrongInForm(const WorkedProblem& worked) {
@@ -210,6 +227,9 @@ std::string WrongInForm(const WorkedProblem& worked) {
 Verdict JudgeFailure(const WorkedProblem& worked, bool dividesByZero) {
     if (worked.failure == FailureKind::Overflow &&
         GreatestIn(worked, Place::Anywhere) > kShortLimit) {
+        return {true, ""};
+    }
+    if (worked.failure == FailureKind::Format && MayPassABound(worked)) {
         return {true, ""};
     }
     if (dividesByZero) {

@@ -136,6 +136,7 @@ class Engine {
     /// Whether the terms tell the exponent of their first letter. Off, as ever: equations of a
     /// higher degree are worked like linear ones.
     bool ReadsFirstExponents = false;
+    int Side = 0;               ///< whose tables are read: 0 left, 1 right of the "="
     bool TermsChanged = false;  ///< terms were merged since the last record
 
   private:
@@ -202,7 +203,7 @@ class Engine {
     bool FactorByRoots(std::size_t group);
 
     // roots.cpp
-    bool SimplifyRoot(Term term);
+    bool SimplifyRoot(const Term& root);
 
     // fraction_arithmetic.cpp
     /// A sum brought to its least common denominator, as its lines show it.
@@ -229,12 +230,11 @@ class Engine {
 
     Problem& problem;
     Tokens tokens;
-    int Side = 0;  ///< whose tables are read: 0 left, 1 right of the "="
     TermTables tables;
-    bool isRead = false;        ///< the tables are those of the tokens
-    int readSide = 0;           ///< and of this side
-    std::string lineText;       ///< the tokens joined, once they are read
-    std::string shownLine;      ///< the line as the learner sees it
+    bool isRead = false;    ///< the tables are those of the tokens
+    int readSide = 0;       ///< and of this side
+    std::string lineText;   ///< the tokens joined, once they are read
+    std::string shownLine;  ///< the line as the learner sees it
     std::size_t lastTermCount = 0;
     bool orderNoteGiven = false;
 };

@@ -86,7 +86,8 @@ void Engine::SimplifyRoots() {
 }
 
 /// Takes the squares out of one root; false when there are none.
-bool Engine::SimplifyRoot(Term term) {
+bool Engine::SimplifyRoot(const Term& root) {
+    const Term term = root;  // the tables are read anew on the way
     const std::string r = term.NumText.substr(1);
     if (term.numOver == 0) {
         Because(Text("Multiply the 0 by the ~", r, "~ using the order of operations."),

@@ -91,15 +91,6 @@ TEST(ResetProblem, ForgetsTheLastRecordedLineWithTheSteps) {
     EXPECT_FALSE(problem.log.StepUnchanged);
 }
 
-TEST(ResetProblem, ClearsASideLeftAtOne) {
-    Problem problem;
-    problem.engine.Side = 1;
-    problem.engine.Depth = 3;
-    ResetProblem(problem, true);
-    EXPECT_EQ(problem.engine.Side, 0);
-    EXPECT_EQ(problem.engine.Depth, 0);
-}
-
 TEST(ResetProblem, KeepsTheTopicAndTheSettings) {
     Problem problem;
     problem.topic.ProblemType = 53;

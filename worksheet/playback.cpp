@@ -34,11 +34,6 @@ double MarkTop(const Playback& playback, MarkOffset offset) {
     return std::max(playback.LineEndY - offset.up, 0.0);
 }
 
-bool Any(const ColumnRequest& columns) {
-    return columns.ColumnAdd || columns.ColumnSubtract || columns.ColumnMultiply ||
-           columns.ColumnDivide;
-}
-
 }  // namespace
 
 void Worksheet::ShowNextStep() {
@@ -121,7 +116,7 @@ void Worksheet::PlaceBlinker() {
     sheet.arrowLeft = MarkLeft(problem.playback, kArrowOffset);
     sheet.arrowTop = MarkTop(problem.playback, kArrowOffset);
     // A column problem that draws itself at once shows no arrow.
-    if (!Any(problem.columns) || problem.settings.mnuShowStep) {
+    if (!problem.columns.Any() || problem.settings.mnuShowStep) {
         sheet.arrowVisible = true;
         timer2Enabled = true;
     }
@@ -139,19 +134,24 @@ void Worksheet::blinker_Click() {
         return;
     }
     ++problem.playback.ShownStep;
-    if (!Any(problem.columns)) {
+    if (!problem.columns.Any()) {
         ShowNextStep();
         return;
     }
+    Trapped(problem, learner, [this] { DrawColumns(); });
+    Changed();
+}
+
+void Worksheet::DrawColumns() {
     StepColumns();
-    if (Any(problem.columns)) {
+    if (problem.columns.Any()) {
         PlaceBlinker();
     }
 }
 
 void Worksheet::mnuShowStep_Click(bool ticked) {
     problem.settings.mnuShowStep = ticked;
-    problem.playback.ShowAllSteps = !ticked;
+    problem.playback.ShowAllSteps = ticked ? 0 : -1;
     if (!ArrowVisible()) {
         return;
     }

@@ -14,10 +14,7 @@ constexpr double kRulePerCell = 19;
 
 void FillDecimals(std::string& number, int places) {
     const int missing = places - DecimalPlaces(number);
-    if (missing <= 0) {
-        return;
-    }
-    if (number.find('.') == std::string::npos) {
+    if (missing > 0 && number.find('.') == std::string::npos) {
         number += '.';
     }
     number.append(static_cast<std::size_t>(missing), '0');

@@ -26,6 +26,19 @@ constexpr MarkOffset kCheckOffset{5, 15};
 /// A mark further right would reach over the edge of the sheet.
 constexpr double kRightmostMark = 760;
 
+/// A division with the longest quotient needs one row of paper more than a sheet has.
+constexpr double kBelowLowestText = 20;
+
+double LowestText(const Surface& surface) {
+    double lowest = 0;
+    for (const Mark& mark : surface.Marks()) {
+        if (const auto* const text = std::get_if<TextMark>(&mark)) {
+            lowest = std::max(lowest, text->y);
+        }
+    }
+    return lowest;
+}
+
 double MarkLeft(const Playback& playback, MarkOffset offset) {
     return std::min(playback.LineEndX + offset.right, kRightmostMark);
 }
@@ -144,6 +157,7 @@ void Worksheet::blinker_Click() {
 
 void Worksheet::DrawColumns() {
     StepColumns();
+    stack.Lengthen(problem.playback.CurrentPage, LowestText(Current()) + kBelowLowestText);
     if (problem.columns.Any()) {
         PlaceBlinker();
     }

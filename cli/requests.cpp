@@ -15,10 +15,8 @@ struct Handler {
 };
 
 constexpr std::array kHandlers{
-    Handler{"solve", SolveRequest},
-    Handler{"columns", ColumnsRequest},
-    Handler{"typeset", TypesetRequest},
-    Handler{"topics", TopicsRequest},
+    Handler{"solve", SolveRequest},     Handler{"columns", ColumnsRequest},
+    Handler{"typeset", TypesetRequest}, Handler{"topics", TopicsRequest},
     Handler{"type", TypeRequest},
 };
 

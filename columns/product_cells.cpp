@@ -95,11 +95,12 @@ void ProductWriter::InsertZeros(int row) {
 
 void ProductWriter::MultiplyDigit(int row, int t, int b) {
     const int p = t * b + carry;
+    const std::string product = WholeText(t * b);
     std::string reason =
-        Text("Multiply ", WholeText(t), " by ", WholeText(b), " (", WholeText(t * b), ")");
-    reason += carry == 0 ? "."
-                         : Text(" and add the remainder (", WholeText(carry), ") to get ",
-                                WholeText(p), ".");
+        carry == 0
+            ? Text("Multiply ", WholeText(t), " by ", WholeText(b), " (", product, ").")
+            : Text("Multiply ", WholeText(t), " by ", WholeText(b), " (", product,
+                   ") and add the remainder (", WholeText(carry), ") to get ", WholeText(p), ".");
     carry = p / 10;
     if (carry > 0) {
         reason += CarryOn(p);

@@ -178,9 +178,11 @@ void ExpectMultiplication(std::string topText, std::string bottomText) {
     EXPECT_EQ(film.Notes(), notes);
     ExpectFinished(film.Last(), product);
     ExpectOneCellMore(film);
-    for (const Frame& frame : film.frames) {
+    for (const Frame& frame : {film.frames.front(), film.Last()}) {
         EXPECT_EQ(SpeltAt(frame, kTopRow), topText);
         EXPECT_EQ(SpeltAt(frame, kBottomRow), "x" + bottomText);
+    }
+    for (const Frame& frame : film.frames) {
         EXPECT_EQ(frame.endX, kLeft + 20 * (product.topPlaces + 1));
     }
 }

@@ -17,34 +17,39 @@ constexpr double kAnswerBelowRule = 4;
 constexpr double kCarryUp = 55;
 constexpr double kCarryBack = 41;
 
+struct SumRows {
+    ColumnCells TopDigits;
+    ColumnCells BottomDigits;
+    ColumnCells ResultDigits = ColumnCells(" ");
+};
+
 /// One sum on its page: what is written in it, and what is still in hand.
 class AdditionSheet {
   public:
     AdditionSheet(ColumnRun& run, const std::string& Top, const std::string& Bottom)
         : run(run),
           length(static_cast<int>(Bottom.size())),
-          TopDigits(SplitColumns(Top)),
-          BottomDigits(SplitColumns(Bottom)) {}
+          rows{SplitColumns(Top), SplitColumns(Bottom)} {}
 
     void PrintNumbers() {
         ColumnPen& pen = run.pen;
         pen.Y = kTop;
-        run.playback.LineEndX = PrintRow(pen, kLeft, TopDigits, length);
+        run.playback.LineEndX = PrintRow(pen, kLeft, rows.TopDigits, length);
         run.playback.LineEndY = kTop + kLineEndBelowTop;
-        PrintRow(pen, kLeft, BottomDigits, length);
+        PrintRow(pen, kLeft, rows.BottomDigits, length);
         DrawRule(pen, kLeft, length);
         pen.Y += kAnswerBelowRule;
     }
 
     void WorkColumn(int i) {
-        const int a = DigitAt(TopDigits, i);
-        const int b = DigitAt(BottomDigits, i);
+        const int a = DigitAt(rows.TopDigits, i);
+        const int b = DigitAt(rows.BottomDigits, i);
         const int carried = carry;
         const int sum = a + b + carried;
-        ResultDigits[i] = WholeText(sum % 10);
+        rows.ResultDigits[i] = WholeText(sum % 10);
         carry = sum / 10;
         if (i == 1 && carry > 0) {
-            ResultDigits[0] = WholeText(carry);
+            rows.ResultDigits[0] = WholeText(carry);
             carry = 0;
         }
         run.log.StepNote[run.playback.ShownStep] = Note(i, a, b, carried);
@@ -71,7 +76,7 @@ class AdditionSheet {
     void PrintAnswer(int i) {
         ColumnPen& pen = run.pen;
         pen.X = kLeft;
-        PrintCells(pen, ResultDigits, i);
+        PrintCells(pen, rows.ResultDigits, i);
         if (carry > 0) {
             const double row = pen.Y;
             pen.MoveTo(pen.X - kCarryBack, row - kCarryUp);
@@ -84,9 +89,7 @@ class AdditionSheet {
 
     ColumnRun& run;
     int length;
-    ColumnCells TopDigits;
-    ColumnCells BottomDigits;
-    ColumnCells ResultDigits{" "};
+    SumRows rows;
     int carry = 0;
 };
 

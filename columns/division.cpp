@@ -1,5 +1,6 @@
 #include "columns/division.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "columns/column_rows.h"
@@ -37,10 +38,14 @@ int FirstQuotientIndex(const ColumnCells& QuotientCells) {
 }
 
 void PrintLeftward(ColumnPen& pen, const std::string& digits) {
-    for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit) {
-        pen.PrintCellLeftward(std::string(1, *digit));
-    }
+    std::for_each(digits.rbegin(), digits.rend(),
+                  [&pen](char digit) { pen.PrintCellLeftward(std::string(1, digit)); });
 }
+
+struct Partial {
+    std::string PartialDividend;  ///< the number that is divided next
+    bool PartialStarted = false;
+};
 
 /// One division on its page.
 class DivisionSheet {
@@ -48,24 +53,24 @@ class DivisionSheet {
     DivisionSheet(ColumnRun& run, const std::string& Divisor, const std::string& Dividend)
         : run(run),
           pen(run.pen),
-          Divisor(Divisor),
-          Dividend(Dividend),
+          divisorText(Divisor),
+          dividendText(Dividend),
           divisor(ToNumber(Divisor)),
           length(static_cast<int>(Dividend.size())),
-          DividendDigits(SplitColumns(Dividend)) {}
+          dividendDigits(SplitColumns(Dividend)) {}
 
     /// Without cells the frame alone.
     void DrawDivision(const ColumnCells* QuotientCells) {
         Playback& playback = run.playback;
         playback.LineEndX = playback.LineEndY = 0;
         pen.MoveTo(kLeft, kTop);
-        PrintCells(pen, SplitColumns(Divisor), static_cast<int>(Divisor.size()) - 1);
+        PrintCells(pen, SplitColumns(divisorText), static_cast<int>(divisorText.size()) - 1);
         const double BarX = pen.X;
         const double BarY = pen.Y;
         PrintBracket();
         for (int i = 0; i < length + kCellsBehindDigits; ++i) {
             const double X0 = pen.X;
-            pen.Print(DividendDigits[i]);
+            pen.Print(dividendDigits[i]);
             if (QuotientCells != nullptr) {
                 DrawQuotientCell(*QuotientCells, i, X0);
             }
@@ -111,31 +116,31 @@ class DivisionSheet {
         const std::string product = NumberText(divisor * q);
         PrintLeftward(pen, product);
         pen.Print("-");
-        const double digits = static_cast<double>(product.size());
+        const auto digits = static_cast<double>(product.size());
         pen.SetDrawWidth(kBarWidth);
         pen.Y += kRuleBelowProduct;
         pen.LineTo(pen.X + digits * ColumnPen::kCell + kRuleBeyondDigits, pen.Y);
         pen.MoveTo(X0, pen.Y + kDifferenceBelowRule);
 
-        if (!PartialStarted) {
-            PartialDividend = Dividend.substr(0, static_cast<std::size_t>(i) + 1);
-            PartialStarted = true;
+        if (!partial.PartialStarted) {
+            partial.PartialDividend = dividendText.substr(0, static_cast<std::size_t>(i) + 1);
+            partial.PartialStarted = true;
         }
         Subtract(NumberText(q), product, i);
     }
 
     void Subtract(const std::string& q, const std::string& product, int i) {
-        const std::string P = NumberText(ToNumber(PartialDividend));
+        const std::string P = NumberText(ToNumber(partial.PartialDividend));
         const std::string difference = NumberText(ToNumber(P) - ToNumber(product));
-        PartialDividend = difference + DividendDigits[i + 1];
+        partial.PartialDividend = difference + dividendDigits[i + 1];
         const bool noDigitLeft = i >= length - 1;
         run.log.StepNote[run.playback.ShownStep] =
-            Text(q, " is the largest number that when multiplied by the divisor (", Divisor,
+            Text(q, " is the largest number that when multiplied by the divisor (", divisorText,
                  ") produces a product less than or equal to ", P, ".  Subtract ", product,
                  " from ", P, " (", difference, ")",
-                 noDigitLeft ? Ending(difference) : BroughtDown(DividendDigits[i + 1]));
+                 noDigitLeft ? Ending(difference) : BroughtDown(dividendDigits[i + 1]));
         if (!noDigitLeft) {
-            PrintBroughtDown(DividendDigits[i + 1]);
+            PrintBroughtDown(dividendDigits[i + 1]);
         }
         PrintLeftward(pen, difference);
     }
@@ -166,13 +171,12 @@ class DivisionSheet {
 
     ColumnRun& run;
     ColumnPen& pen;
-    const std::string& Divisor;
-    const std::string& Dividend;
+    const std::string& divisorText;
+    const std::string& dividendText;
     double divisor;
     int length;  ///< of the dividend
-    ColumnCells DividendDigits;
-    std::string PartialDividend;  ///< the number that is divided next
-    bool PartialStarted = false;
+    ColumnCells dividendDigits;
+    Partial partial;
 };
 
 /// The quotient with "r" and the remainder, each digit above the one that produces it.

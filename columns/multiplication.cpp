@@ -52,8 +52,8 @@ class MultiplicationSheet {
 
     void PrintNumbers(const ColumnCells& top, const ColumnCells& bottom, int length) {
         pen.Y = kTop;
-        TopEnd = PrintRow(pen, kLeft, top, length);
-        run.playback.LineEndX = TopEnd;
+        topEnd = PrintRow(pen, kLeft, top, length);
+        run.playback.LineEndX = topEnd;
         PrintRow(pen, kLeft, bottom, length);
         DrawRule(pen, kLeft, length);
         pen.Y += kFirstRowBelowRule;
@@ -75,14 +75,14 @@ class MultiplicationSheet {
     }
 
   private:
-    void BeginRow() { pen.X = TopEnd - ColumnPen::kCell; }
+    void BeginRow() { pen.X = topEnd - ColumnPen::kCell; }
 
     void BeginSums() {
         const double x = pen.X;
         const double y = pen.Y + kSumRuleBelowRow;
         pen.Print("+");
         pen.MoveTo(x, y);
-        pen.LineTo(TopEnd - kSumRuleBeforeEnd, y);
+        pen.LineTo(topEnd - kSumRuleBeforeEnd, y);
         pen.Y += kSumsBelowRule;
         BeginRow();
     }
@@ -100,7 +100,7 @@ class MultiplicationSheet {
 
     ColumnRun& run;
     ColumnPen& pen;
-    double TopEnd = 0;
+    double topEnd = 0;
     int rowsPassed = 0;
 };
 

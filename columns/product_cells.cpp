@@ -28,11 +28,17 @@ std::string CarryOn(int value) {
                 text.substr(0, 1), ") to next column.");
 }
 
+struct ProductTables {
+    ProductCells cells;
+    /// The digits of each partial product, from the right.
+    BoundedArray<std::vector<int>, kTopRow> PartialRows;
+};
+
 /// Writes a multiplication down, digit by digit.
 class ProductWriter {
   public:
     ProductWriter(std::string_view Top, std::string_view Bottom, StepLog& log)
-        : Top(Top), Bottom(Bottom), log(log) {}
+        : top(Top), bottom(Bottom), log(log) {}
 
     ProductCells Written();
 
@@ -45,38 +51,36 @@ class ProductWriter {
     void Write(int digit, std::string reason);
     void BringDown();
 
-    std::string_view Top;
-    std::string_view Bottom;
+    std::string_view top;
+    std::string_view bottom;
     StepLog& log;
-    ProductCells cells;
-    /// The digits of each partial product, from the right.
-    BoundedArray<std::vector<int>, kTopRow> PartialRows;
+    ProductTables tables;
     int next = 0;  ///< the cell that is written next
     int carry = 0;
 };
 
 ProductCells ProductWriter::Written() {
-    const int rows = Places(Bottom);
+    const int rows = Places(bottom);
     for (int row = 0; row < rows; ++row) {
         MultiplyBy(row);
         const bool last = row == rows - 1;
-        cells[next].marker = !last       ? ProductCell::Marker::PartialProduct
-                             : rows == 1 ? ProductCell::Marker::OnlyPartialProduct
-                                         : ProductCell::Marker::LastPartialProduct;
+        tables.cells[next].marker = !last       ? ProductCell::Marker::PartialProduct
+                                    : rows == 1 ? ProductCell::Marker::OnlyPartialProduct
+                                                : ProductCell::Marker::LastPartialProduct;
     }
     if (rows > 1) {
         AddColumns();
     }
-    return std::move(cells);
+    return std::move(tables.cells);
 }
 
 void ProductWriter::MultiplyBy(int row) {
     InsertZeros(row);
-    for (int place = 0; place < Places(Top); ++place) {
-        MultiplyDigit(row, DigitAtPlace(Top, place), DigitAtPlace(Bottom, row));
+    for (int place = 0; place < Places(top); ++place) {
+        MultiplyDigit(row, DigitAtPlace(top, place), DigitAtPlace(bottom, row));
     }
     if (carry > 0) {
-        PartialRows[row].push_back(carry);
+        tables.PartialRows[row].push_back(carry);
         BringDown();
     }
 }
@@ -84,7 +88,7 @@ void ProductWriter::MultiplyBy(int row) {
 /// Each zero is a cell of its own with the same reason.
 void ProductWriter::InsertZeros(int row) {
     for (int i = 0; i < row; ++i) {
-        PartialRows[row].push_back(0);
+        tables.PartialRows[row].push_back(0);
         Write(0, row == 1 ? std::string("Insert a 0 to account for the place value of the next "
                                         "number being multiplied by.")
                           : Text("Insert ", WholeText(row),
@@ -94,25 +98,25 @@ void ProductWriter::InsertZeros(int row) {
 }
 
 void ProductWriter::MultiplyDigit(int row, int t, int b) {
-    const int p = t * b + carry;
-    const std::string product = WholeText(t * b);
+    const int product = t * b;
+    const int p = product + carry;
     std::string reason =
         carry == 0
-            ? Text("Multiply ", WholeText(t), " by ", WholeText(b), " (", product, ").")
-            : Text("Multiply ", WholeText(t), " by ", WholeText(b), " (", product,
+            ? Text("Multiply ", WholeText(t), " by ", WholeText(b), " (", WholeText(product), ").")
+            : Text("Multiply ", WholeText(t), " by ", WholeText(b), " (", WholeText(product),
                    ") and add the remainder (", WholeText(carry), ") to get ", WholeText(p), ".");
     carry = p / 10;
     if (carry > 0) {
         reason += CarryOn(p);
-        cells[next].Carry = WholeText(carry);
+        tables.cells[next].Carry = WholeText(carry);
     }
-    PartialRows[row].push_back(p % 10);
+    tables.PartialRows[row].push_back(p % 10);
     Write(p % 10, std::move(reason));
 }
 
 void ProductWriter::AddColumns() {
     // No partial product is longer than the last one.
-    const std::size_t columns = PartialRows[Places(Bottom) - 1].size();
+    const std::size_t columns = tables.PartialRows[Places(bottom) - 1].size();
     for (std::size_t column = 0; column < columns; ++column) {
         const int total = ColumnTotal(column) + carry;
         std::string reason =
@@ -135,14 +139,14 @@ void ProductWriter::AddColumns() {
 int ProductWriter::ColumnTotal(std::size_t column) const {
     int total = 0;
     for (int row = 0; row <= kTopRow; ++row) {
-        const std::vector<int>& digits = PartialRows[row];
+        const std::vector<int>& digits = tables.PartialRows[row];
         total += column < digits.size() ? digits[column] : 0;
     }
     return total;
 }
 
 void ProductWriter::Write(int digit, std::string reason) {
-    cells[next].Digit = WholeText(digit);
+    tables.cells[next].Digit = WholeText(digit);
     log.StepNote[kFirstReason + next] = std::move(reason);
     ++next;
 }

@@ -26,17 +26,27 @@ struct Strike {
 constexpr Strike kStrike{-3, 30, 13, 20};
 constexpr Strike kUpperStrike{-3, 25, 13, 15};
 
+struct DifferenceRows {
+    using Numbers = BoundedArray<int, 25>;
+
+    Numbers TopDigits;  ///< as they stand after the borrows until now
+    Numbers BottomDigits;
+    ColumnCells ResultDigits = ColumnCells(" ");
+    ColumnCells BorrowMarks;       ///< what a top digit became first
+    ColumnCells BorrowMarksUpper;  ///< and then
+};
+
 /// One difference on its page.
 class SubtractionSheet {
   public:
     SubtractionSheet(ColumnRun& run, const std::string& Top, const std::string& Bottom)
         : run(run),
           length(static_cast<int>(Bottom.size())),
-          TopCells(SplitColumns(Top)),
-          BottomCells(SplitColumns(Bottom)) {
+          topCells(SplitColumns(Top)),
+          bottomCells(SplitColumns(Bottom)) {
         for (int i = 0; i < length; ++i) {
-            TopDigits[i] = DigitAt(TopCells, i);
-            BottomDigits[i] = DigitAt(BottomCells, i);
+            rows.TopDigits[i] = DigitAt(topCells, i);
+            rows.BottomDigits[i] = DigitAt(bottomCells, i);
         }
     }
 
@@ -46,9 +56,9 @@ class SubtractionSheet {
         for (int i = 0; i < kMarkRows; ++i) {
             pen.EndLine();
         }
-        PrintRow(pen, kLeft, TopCells, length);
+        PrintRow(pen, kLeft, topCells, length);
         const double bottomRow = pen.Y;
-        run.playback.LineEndX = PrintRow(pen, kLeft, BottomCells, length);
+        run.playback.LineEndX = PrintRow(pen, kLeft, bottomCells, length);
         run.playback.LineEndY = bottomRow + kLineEndBelowBottom;
         DrawRule(pen, kLeft, length);
         pen.Y += kAnswerBelowRule;
@@ -57,35 +67,35 @@ class SubtractionSheet {
     void WorkColumn(int i) {
         std::string note;
         // A cell that a shorter top number leaves blank counts as 0.
-        if (TopDigits[i] < BottomDigits[i]) {
+        if (rows.TopDigits[i] < rows.BottomDigits[i]) {
             note = Borrow(i);
             const double answerRow = run.pen.Y;
             DrawBorrowMarks(i);
             run.pen.Y = answerRow;
         }
-        const std::string difference = WholeText(TopDigits[i] - BottomDigits[i]);
-        ResultDigits[i] = difference;
+        const std::string difference = WholeText(rows.TopDigits[i] - rows.BottomDigits[i]);
+        rows.ResultDigits[i] = difference;
         run.log.StepNote[run.playback.ShownStep] =
-            Text(note, "Subtract ", WholeText(BottomDigits[i]), " from ", WholeText(TopDigits[i]),
-                 " (", difference, ").");
+            Text(note, "Subtract ", WholeText(rows.BottomDigits[i]), " from ",
+                 WholeText(rows.TopDigits[i]), " (", difference, ").");
         run.pen.X = kLeft;
-        PrintCells(run.pen, ResultDigits, i);
+        PrintCells(run.pen, rows.ResultDigits, i);
     }
 
   private:
     /// Makes column i large enough. Returns what is said of it.
     std::string Borrow(int i) {
-        const std::string t = WholeText(TopDigits[i]);
-        std::string note = Text("Since ", t, " is less than ", WholeText(BottomDigits[i]),
+        const std::string t = WholeText(rows.TopDigits[i]);
+        std::string note = Text("Since ", t, " is less than ", WholeText(rows.BottomDigits[i]),
                                 ", borrow 1 from the number to the left (",
-                                WholeText(TopDigits[i - 1]), ") and add 10 to ", t, ".  ");
-        TopDigits[i] += 10;
-        --TopDigits[i - 1];
+                                WholeText(rows.TopDigits[i - 1]), ") and add 10 to ", t, ".  ");
+        rows.TopDigits[i] += 10;
+        --rows.TopDigits[i - 1];
         Mark(i);
         Mark(i - 1);
         const int k = BorrowAcrossZeros(i);
         if (k > 1) {
-            const std::string n = WholeText(TopDigits[i - k] + 1);
+            const std::string n = WholeText(rows.TopDigits[i - k] + 1);
             note += Text(
                 "Since the number to the left is 0, keep moving left until you reach a number "
                 "greater than 0 (",
@@ -100,19 +110,19 @@ class SubtractionSheet {
     /// number was found that could.
     int BorrowAcrossZeros(int i) {
         int k = 1;
-        for (; BorrowMarks[i - k] == "-1"; ++k) {
-            BorrowMarks[i - k] = "10";
-            BorrowMarksUpper[i - k] = "9";
-            TopDigits[i - k] = 9;
-            --TopDigits[i - k - 1];
-            BorrowMarks[i - k - 1] = WholeText(TopDigits[i - k - 1]);
+        for (; rows.BorrowMarks[i - k] == "-1"; ++k) {
+            rows.BorrowMarks[i - k] = "10";
+            rows.BorrowMarksUpper[i - k] = "9";
+            rows.TopDigits[i - k] = 9;
+            --rows.TopDigits[i - k - 1];
+            rows.BorrowMarks[i - k - 1] = WholeText(rows.TopDigits[i - k - 1]);
         }
         return k;
     }
 
     void Mark(int i) {
-        std::string& lower = BorrowMarks[i];
-        (lower.empty() ? lower : BorrowMarksUpper[i]) = WholeText(TopDigits[i]);
+        std::string& lower = rows.BorrowMarks[i];
+        (lower.empty() ? lower : rows.BorrowMarksUpper[i]) = WholeText(rows.TopDigits[i]);
     }
 
     /// Draws the marks of the columns 0 to `Column`, those of an earlier borrow once more.
@@ -122,27 +132,27 @@ class SubtractionSheet {
         pen.MoveTo(kLeft, kTop);
         for (int i = 0; i <= Column; ++i) {
             StrikeUpperMark(i);
-            pen.PrintCell(BorrowMarksUpper[i]);
+            pen.PrintCell(rows.BorrowMarksUpper[i]);
         }
         pen.EndLine();
         pen.X = kLeft;
         for (int i = 0; i <= Column; ++i) {
             StrikeMark(i);
-            pen.PrintCell(BorrowMarks[i]);
+            pen.PrintCell(rows.BorrowMarks[i]);
         }
         pen.SetFontSize(ColumnPen::kDigitSize);
     }
 
     /// Crosses out the digit below the mark that comes next.
     void StrikeMark(int i) {
-        if (!BorrowMarks[i].empty()) {
+        if (!rows.BorrowMarks[i].empty()) {
             DrawStrike(kStrike);
         }
     }
 
     /// Crosses out the mark below the upper one that comes next.
     void StrikeUpperMark(int i) {
-        if (!BorrowMarksUpper[i].empty()) {
+        if (!rows.BorrowMarksUpper[i].empty()) {
             DrawStrike(kUpperStrike);
         }
     }
@@ -157,17 +167,11 @@ class SubtractionSheet {
         pen.MoveTo(x, y);
     }
 
-    using Numbers = BoundedArray<int, 25>;
-
     ColumnRun& run;
     int length;
-    ColumnCells TopCells;  ///< as typed
-    ColumnCells BottomCells;
-    Numbers TopDigits;  ///< as they stand after the borrows until now
-    Numbers BottomDigits;
-    ColumnCells ResultDigits{" "};
-    ColumnCells BorrowMarks;       ///< what a top digit became first
-    ColumnCells BorrowMarksUpper;  ///< and then
+    ColumnCells topCells;  ///< as typed
+    ColumnCells bottomCells;
+    DifferenceRows rows;
 };
 
 }  // namespace

@@ -26,7 +26,7 @@ constexpr MarkOffset kCheckOffset{5, 15};
 /// A mark further right would reach over the edge of the sheet.
 constexpr double kRightmostMark = 760;
 
-/// A division with the longest quotient needs one row of paper more than a sheet has.
+/// Divisions with the longest quotients need one row of paper more than a sheet has.
 constexpr double kBelowLowestText = 20;
 
 double LowestText(const Surface& surface) {

@@ -195,7 +195,7 @@ TEST_F(ColumnWorksheetTest, TheNextProblemBeginsWithItsFirstDrawing) {
     }
 }
 
-TEST_F(ColumnWorksheetTest, TheLongestDivisionGetsARowOfPaperMore) {
+TEST_F(ColumnWorksheetTest, TheLongestDivisionsGetARowOfPaperMore) {
     // The tenth product is printed at 320 + 9 * 38 = 662, its difference at 681.
     Enter(203, "2147483647", "2");
     SolveToTheEnd();
@@ -203,7 +203,11 @@ TEST_F(ColumnWorksheetTest, TheLongestDivisionGetsARowOfPaperMore) {
     EraseProblem(problem, sheet);
     EXPECT_EQ(First().height, 657);
 
-    Enter(203, "123456", "12");
+    // With nine digits the last difference, at 643, would touch the lower edge.
+    Enter(203, "999999999", "2");
+    SolveToTheEnd();
+    EXPECT_EQ(First().height, 657 + 46);
+    Enter(203, "99999999", "1");
     SolveToTheEnd();
     EXPECT_EQ(First().height, 657);
     Enter(202, "9999999999", "999999");

@@ -34,6 +34,8 @@ class Printed : public testing::TestWithParam<PrintCase> {
         Solved().NextStep();
         page.Print("heading");
         page.CurrentY = kHeadingEnd;
+        page.ForeColor = kBlue;
+        page.SetFontSize(10);
     }
 
     Film& Solved() {

@@ -9,7 +9,10 @@ class SilentLearner : public Learner {
   public:
     void MessageBox(std::string_view /*title*/, std::string_view /*text*/) override {}
     bool Confirm(std::string_view /*title*/, std::string_view /*text*/) override { return false; }
-    std::optional<std::string> InputBox(std::string_view /*prompt*/) override { return {}; }
+    std::optional<std::string> InputBox(std::string_view /*title*/,
+                                        std::string_view /*prompt*/) override {
+        return {};
+    }
 };
 
 /// One redraw from nothing that shows a whole problem: the longest that a step has to draw.

@@ -75,7 +75,9 @@ class NotingLearner : public Learner {
         messages.push_back((title.empty() ? "" : std::string(title) + ": ") + std::string(text));
     }
     bool Confirm(std::string_view, std::string_view) override { return true; }
-    std::optional<std::string> InputBox(std::string_view) override { return std::nullopt; }
+    std::optional<std::string> InputBox(std::string_view, std::string_view) override {
+        return std::nullopt;
+    }
 };
 
 /// A column problem, filled in and played on a page with plain metrics.

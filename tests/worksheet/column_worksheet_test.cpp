@@ -13,7 +13,9 @@ class NotedLearner : public Learner {
         messages.emplace_back(text);
     }
     bool Confirm(std::string_view, std::string_view) override { return true; }
-    std::optional<std::string> InputBox(std::string_view) override { return std::nullopt; }
+    std::optional<std::string> InputBox(std::string_view, std::string_view) override {
+        return std::nullopt;
+    }
 };
 
 /// A column problem on the sheets of an entry form.

@@ -85,8 +85,6 @@ runs 2 solve --topic "Meter Conversions" --list 1
 runs 2 solve --topic "Meter Conversions" --list 1=9
 runs 2 solve --topic "Meter Conversions" --set RoundDigits=9
 runs 2 solve --topic "Meter Conversions" --set Colour=1
-runs 2 solve --topic "Arithmetic" --problem 4+2
-tells "not built yet"
 runs 2
 runs 2 dance
 runs 2 solve --nonsense

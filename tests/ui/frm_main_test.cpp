@@ -506,21 +506,6 @@ TEST_F(Window, EraseEmptiesBoxesAndLists) {
     EXPECT_EQ(Find<QComboBox>(frame, QStringLiteral("Combo1")).currentIndex(), -1);
 }
 
-TEST_F(Window, ATopicWithoutASolverSaysSoAndKeepsTheProblem) {
-    Choose(QStringLiteral("Arithmetic"));
-    Type(QStringLiteral("12"));
-    const WhenDialogOpens message(QStringLiteral("MessageBox"), [](QWidget& dialog) {
-        EXPECT_TRUE(
-            dynamic_cast<QMessageBox&>(dialog).text().contains(QStringLiteral("not built yet")));
-        PressButton(dialog, QStringLiteral("OK"));
-    });
-    Enter();
-    EXPECT_EQ(SheetText(), "12");
-    EXPECT_TRUE(Command("mnuSolve").isEnabled());
-    Type(QStringLiteral("3"));
-    EXPECT_EQ(SheetText(), "123");
-}
-
 TEST_F(Window, AShapeIsMeasuredInTheBoxesOnItsPicture) {
     Choose(QStringLiteral("Area of a Triangle"));
     auto& base = Find<QLineEdit>(frame, QStringLiteral("Text2"));

@@ -11,6 +11,10 @@ constexpr int kTopClearedVariable = 20;
 
 }  // namespace
 
+bool ColumnRequest::Any() const {
+    return ColumnAdd || ColumnSubtract || ColumnMultiply || ColumnDivide;
+}
+
 void ColumnRequest::ClearFlags() {
     ColumnAdd = ColumnSubtract = ColumnMultiply = ColumnDivide = false;
 }

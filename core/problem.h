@@ -87,7 +87,8 @@ struct NumberLineRequest {
 /// Where playback stands and where the next line goes.
 struct Playback {
     int ShownStep = 0;
-    bool ShowAllSteps = false;
+    /// 0 step by step, -1 all at once. A column problem counts in it what it has still to reveal.
+    int ShowAllSteps = 0;
     int CurrentPage = 0;  ///< 0 to 9
     bool TypingEnabled = false;
     int SavedPointer = 0;
@@ -106,6 +107,7 @@ struct ColumnRequest {
     std::string ColumnTop;
     std::string ColumnBottom;
 
+    bool Any() const;
     void ClearFlags();
 };
 

@@ -11,6 +11,7 @@
 #include "ui/desk.h"
 #include "ui/pointer.h"
 #include "ui/text.h"
+#include "worksheet/drawn_rows.h"
 
 namespace numerello {
 
@@ -19,7 +20,7 @@ namespace {
 constexpr std::chrono::milliseconds kFlash(400);
 constexpr double kTypedLineLimit = 730;
 
-constexpr QSize kSheetSize(800, 657);
+constexpr int kSheetWidth = 800;
 constexpr int kLightTop = 24;
 constexpr int kLightMargin = 8;
 constexpr int kAroundField = 16;
@@ -118,11 +119,6 @@ void FrmPaper::MakeLight() {
 
 void FrmPaper::compute_Click() {
     if (!problem.controls.SolveEnabled) {
-        return;
-    }
-    if (AllSolvers().Find(problem.topic.ProblemType) == nullptr) {
-        learner.MessageBox("",
-                           "Solving this topic is not built yet.  Your problem stays as it is.");
         return;
     }
     worksheet.CloseExplanation();
@@ -314,6 +310,12 @@ QString FrmPaper::SheetText() const {
     for (const std::string& line : worksheet.DrawnLines()) {
         text += u'\n' + ToQString(line);
     }
+    // A column problem has no lines, but rows of digits.
+    if (text.isEmpty()) {
+        for (const std::string& row : DrawnRows(worksheet.SheetAt(0).surface)) {
+            text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + ToQString(row);
+        }
+    }
     return text;
 }
 
@@ -322,8 +324,8 @@ void FrmPaper::FitDesk() {
     QSize size = viewport()->size();
     for (const int index : worksheet.StackingOrder()) {
         const Sheet& sheet = worksheet.SheetAt(index);
-        size = size.expandedTo(
-            {qRound(sheet.left) + kSheetSize.width(), qRound(sheet.top) + kSheetSize.height()});
+        size =
+            size.expandedTo({qRound(sheet.left) + kSheetWidth, qRound(sheet.top + sheet.height)});
     }
     desk->resize(size);
     PlaceLight();
@@ -332,7 +334,7 @@ void FrmPaper::FitDesk() {
 /// Beside the sheet, else over its right edge where nothing is written, but never out of sight.
 void FrmPaper::PlaceLight() {
     const int sheetLeft = qRound(worksheet.SheetAt(0).left);
-    const int figureLeft = std::min(sheetLeft + kSheetSize.width() + 16, viewport()->width() - 116);
+    const int figureLeft = std::min(sheetLeft + kSheetWidth + 16, viewport()->width() - 116);
     const int lightLeft = figureLeft + (108 - LightButton::kSize.width()) / 2;
     const int seen =
         horizontalScrollBar()->value() + viewport()->width() - LightButton::kSize.width();

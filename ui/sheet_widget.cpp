@@ -22,6 +22,18 @@ constexpr double kTitleY = 8;
 constexpr double kTitleWidth = 678;
 constexpr double kTitleSize = 18;
 
+/// A sheet may be longer than its picture: its lower part is then shown once more, whole rows of
+/// the ruling lower, so that the rules go on and the holes do not.
+void PaintPaper(QPainter& painter, int height, qreal ratio) {
+    constexpr int kBelowHoles = 620;
+    const QPixmap paper = Artwork(QStringLiteral("paper"), kPaperSize, ratio);
+    painter.drawPixmap(0, height - kPaperSize.height(), paper);
+    if (height > kPaperSize.height()) {
+        painter.drawPixmap(QRectF(0, 0, kPaperSize.width(), kBelowHoles), paper,
+                           QRectF(0, 0, paper.width(), kBelowHoles * ratio));
+    }
+}
+
 /// A title that is too long is set smaller, not cut.
 void PaintTitle(QPainter& painter, const std::string& title, const FontMetrics& metrics) {
     Font font{std::string(kSheetFace), kTitleSize};
@@ -76,6 +88,9 @@ SheetWidget::SheetWidget(int index, const FontMetrics& metrics, QWidget* desk)
 void SheetWidget::Show(const Sheet& sheet) {
     shown = &sheet;
     setAccessibleName(ToQString(sheet.title));
+    if (sheet.height > 0) {
+        setFixedHeight(qRound(sheet.height));
+    }
     move(qRound(sheet.left), qRound(sheet.top));
     arrow->move(qRound(sheet.arrowLeft), qRound(sheet.arrowTop));
     arrow->setVisible(sheet.arrowVisible);
@@ -86,7 +101,7 @@ void SheetWidget::Show(const Sheet& sheet) {
 void SheetWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const qreal ratio = devicePixelRatioF();
-    painter.drawPixmap(0, 0, Artwork(QStringLiteral("paper"), kPaperSize, ratio));
+    PaintPaper(painter, height(), ratio);
     if (shown == nullptr) {
         return;
     }

@@ -12,6 +12,7 @@ namespace {
 
 constexpr double kWidth = 800;
 constexpr double kHeight = 657;
+constexpr double kRuling = 46;
 constexpr double kFanStep = 25;
 constexpr double kFontSize = 12;
 
@@ -61,6 +62,13 @@ void SheetStack::Turn(int page) {
     order.push_back(page + 1);
 }
 
+void SheetStack::Lengthen(int index, double bottom) {
+    Sheet& sheet = (*this)[index];
+    while (sheet.height < bottom) {
+        sheet.height += kRuling;
+    }
+}
+
 void SheetStack::Raise(int index) {
     if (std::erase(order, index) > 0) {
         order.push_back(index);
@@ -71,6 +79,7 @@ void SheetStack::Blank(int last) {
     for (int i = 0; i <= last; ++i) {
         Sheet& sheet = (*this)[i];
         sheet.surface = EmptySurface();
+        sheet.height = std::min(sheet.height, kHeight);
         sheet.visible = i == 0;
         sheet.arrowVisible = false;
     }

@@ -78,10 +78,7 @@ void Engine::CombineTerms(std::size_t group, NegativeExponents negatives, Record
             like.Take(all.terms[i], written);
         }
     }
-    Because(HoldsRoot() ? "Simplfy the square roots by removing any perfect squares from under "
-                          "the radical."
-                        : std::string(kReorderReason),
-            problem.log.StepLevel);
+    Because(CombiningReason(), problem.log.StepLevel);
     const bool changed = like.IsChanged();
     TermsChanged = changed;
     if (!like.Reason().empty()) {
@@ -93,6 +90,13 @@ void Engine::CombineTerms(std::size_t group, NegativeExponents negatives, Record
         ReplaceGroup(group, WithoutEmphasis(TextBetween(tokens, all.begin, all.end)));
     }
     RecordSorted(group, changed, record);
+}
+
+/// The reason of a change that has no other.
+std::string Engine::CombiningReason() const {
+    return HoldsRoot() ? "Simplfy the square roots by removing any perfect squares from under the "
+                         "radical."
+                       : std::string(kReorderReason);
 }
 
 /// In a sum of numbers outside brackets the fractions are left to their common denominator.

@@ -170,9 +170,11 @@ class Engine {
     bool WorkBrackets(std::size_t group);
     void CheckProducts(std::size_t group);
     bool IsSumOfFractions(std::size_t group) const;
+    bool IsSettled(std::size_t group, NegativeExponents negatives) const;
 
     // combining.cpp
     void RemoveNegativeExponents(std::size_t group);
+    std::string CombiningReason() const;
     bool KeepsFractions(const Group& group) const;
     void RecordSorted(std::size_t group, bool changed, Record record);
 
@@ -235,6 +237,14 @@ class Engine {
     int readSide = 0;       ///< and of this side
     std::string lineText;   ///< the tokens joined, once they are read
     std::string shownLine;  ///< the line as the learner sees it
+    /// What the last combining left as it was.
+    struct Settled {
+        std::string text;
+        int side = 0;
+        std::size_t group = 0;
+        NegativeExponents negatives = NegativeExponents::Remove;
+    };
+    Settled settled;
     std::size_t lastTermCount = 0;
     bool orderNoteGiven = false;
 };

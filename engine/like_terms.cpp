@@ -229,7 +229,7 @@ void LikeTerms::TakeConstant(const Term& term, const std::string& written) {
     row.sum = RatioOf(term);
     row.isZero = term.Num == 0;
     row.written = written;
-    row.name = Shown(NameOf(term));
+    row.first = &term;
     row.merges = !keepFractions || term.Den == 1;
     const auto other = std::find_if(constants.begin(), constants.end(),
                                     [](const LikeRow& each) { return each.merges; });
@@ -247,7 +247,7 @@ void LikeTerms::TakeLetters(const Term& term, const std::string& written) {
     row.DenText = LettersText(ReadLetters(term.DenText));
     row.isZero = term.Num == 0;
     row.written = written;
-    row.name = Shown(NameOf(term));
+    row.first = &term;
     const auto like = std::find_if(letters.begin(), letters.end(), [&row](const LikeRow& each) {
         return each.merges && each.NumText == row.NumText && each.DenText == row.DenText;
     });
@@ -259,7 +259,7 @@ void LikeTerms::TakeLetters(const Term& term, const std::string& written) {
 }
 
 void LikeTerms::Merge(LikeRow& row, const Term& term) {
-    const std::string before = row.name;
+    const std::string before = row.alone ? Shown(NameOf(*row.first)) : row.name;
     const std::string added = Shown(MagnitudeText(term));
     row.sum = Sum(row.sum, RatioOf(term));
     row.alone = false;

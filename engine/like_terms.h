@@ -21,7 +21,8 @@ struct LikeRow {
     bool merges = true;   ///< a term that has just been rewritten takes no other one
     bool alone = true;    ///< no other term was added
     bool isZero = false;  ///< its first term is 0
-    std::string name;     ///< what a reason calls it
+    const Term* first = nullptr;  ///< its first term
+    std::string name;             ///< what a reason calls it, once another term is added
 };
 
 /// Takes the terms of a group one after the other and keeps the text that is to stand in their
@@ -31,7 +32,8 @@ class LikeTerms {
     /// With `keepFractions` the fractions of a sum of numbers wait for their common denominator.
     LikeTerms(const Problem& problem, bool keepFractions);
 
-    /// A term with its text, sign first. Throws Failure(Format) for a sixteenth unlike term.
+    /// A term with its text, sign first; it must outlive this. Throws Failure(Format) for a
+    /// sixteenth unlike term.
     void Take(const Term& term, const std::string& written);
 
     /// A factor of a product that is left alone.

@@ -207,6 +207,11 @@ void Engine::SimplifyLight() {
 void Engine::CombineUntilStable(std::size_t group, NegativeExponents negatives) {
     StepLog& log = problem.log;
     const bool roots = problem.topic.ProblemType == kCalculatingRoots;
+    if (IsSettled(group, negatives)) {
+        Because(CombiningReason(), kLightStep);
+        log.StepUnchanged = true;
+        return;
+    }
     log.StepUnchanged = false;
     log.StepLevel = kOrdinaryStep;
     for (int pass = 0; pass < kMostCombinings && !log.StepUnchanged; ++pass) {
@@ -225,6 +230,7 @@ void Engine::CombineUntilStable(std::size_t group, NegativeExponents negatives) 
             break;
         }
         if (ExprToText() == text) {
+            settled = {text, Side, group, negatives};
             break;
         }
     }
@@ -232,6 +238,12 @@ void Engine::CombineUntilStable(std::size_t group, NegativeExponents negatives) 
     if (!roots) {
         RecordStep();
     }
+}
+
+/// Whether the group was left as it is by the last combining, and nothing has happened since.
+bool Engine::IsSettled(std::size_t group, NegativeExponents negatives) const {
+    return isRead && settled.group == group && settled.side == Side &&
+           settled.negatives == negatives && settled.text == lineText;
 }
 
 /// A sum of numbers, nearly all of them fractions, outside brackets or in bars.

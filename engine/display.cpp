@@ -83,4 +83,8 @@ std::string DisplayText(const Tokens& tokens, int ProblemType) {
     return text;
 }
 
+std::string ShownText(std::string_view text, int ProblemType) {
+    return DisplayText(MergeNumberTokens(TextToTokens(text), ProblemType), ProblemType);
+}
+
 }  // namespace numerello

@@ -17,10 +17,6 @@ namespace numerello {
 
 namespace {
 
-bool IsWhole(double value) {
-    return value == std::trunc(value);
-}
-
 Ratio RatioOf(const Term& term) {
     return {static_cast<double>(term.Num), static_cast<double>(term.Den)};
 }
@@ -98,7 +94,7 @@ void LikeTerms::Keep(const std::string& written) {
 }
 
 std::string LikeTerms::Shown(std::string_view text) const {
-    return DisplayText(MergeNumberTokens(TextToTokens(text), code), code);
+    return ShownText(text, code);
 }
 
 /// Rows of the same letters count once.

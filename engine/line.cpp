@@ -33,8 +33,7 @@ std::string Engine::Written(const Term& term) const {
 
 /// A piece of a line as the learner sees it.
 std::string Engine::Shown(std::string_view text) const {
-    const int code = problem.topic.ProblemType;
-    return DisplayText(MergeNumberTokens(TextToTokens(text), code), code);
+    return ShownText(text, problem.topic.ProblemType);
 }
 
 void Engine::ReplaceBetween(std::size_t begin, std::size_t end, std::string_view text) {

@@ -19,11 +19,11 @@ bool IsShownAsFraction(const AnswerSettings& settings, const std::string& text) 
            text.find("E+") == std::string::npos;
 }
 
+}  // namespace
+
 bool IsWhole(double value) {
     return value == std::trunc(value);
 }
-
-}  // namespace
 
 std::string SingleValueText(float value) {
     const bool whole = value == std::trunc(value);

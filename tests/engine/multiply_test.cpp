@@ -1,9 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "core/failure.h"
-#include "core/text.h"
-#include "engine/engine.h"
 #include "engine/letters.h"
+#include "engine_log.h"
 
 namespace numerello {
 namespace {
@@ -12,22 +11,13 @@ using Lines = std::vector<std::string>;
 
 /// The lines of working all products of a sum, each with its reason behind " | ".
 Lines Worked(std::string_view text, int ProblemType = 102) {
-    Problem problem;
-    problem.topic.ProblemType = ProblemType;
-    for (const std::string& character : Characters(text)) {
-        problem.typed.ExprChars[problem.typed.ExprCharCount++] = character;
-    }
-    CollectVariables(problem.typed);
+    Problem problem = ProblemWith(text, ProblemType);
     Engine engine(problem);
     engine.SetText(text);
     engine.RecordStep();
     while (engine.MultiplyPair(0)) {
     }
-    Lines lines;
-    for (int i = 1; i < problem.log.StepCount; ++i) {
-        lines.push_back(problem.log.StepText[i] + " | " + problem.log.StepNote[i]);
-    }
-    return lines;
+    return LinesOf(problem);
 }
 
 TEST(MultiplyPair, WorksOneProductALineFromTheLeft) {

@@ -1,6 +1,7 @@
 #include "columns/division.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <utility>
 
 #include "columns/column_rows.h"

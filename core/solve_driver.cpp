@@ -157,7 +157,10 @@ void EraseProblem(Problem& problem, Stage& stage) {
     problem.playback.CurrentPage = 0;
 
     problem.playback.TypingEnabled = true;
-    problem.log.StepNote[problem.playback.ShownStep] = problem.topic.InstructionText;
+    // A long product is played on behind the last step that has a note.
+    if (problem.playback.ShownStep <= StepLog::kTopIndex) {
+        problem.log.StepNote[problem.playback.ShownStep] = problem.topic.InstructionText;
+    }
     problem.log.StepNote[0] = problem.topic.InstructionText;
 }
 

@@ -288,6 +288,16 @@ TEST(Multiplication, OfTenByTenDigitsFindsRoomForAllReasons) {
     EXPECT_EQ(film.problem.log.StepNote[3 + 11 * 10 + 45 + 19].substr(0, 3), "Add");
 }
 
+TEST(Multiplication, CanBeErasedHoweverFarItWasPlayed) {
+    Film film(kMultiplication, "12345678", "12345678");
+    film.Solve();
+    film.problem.playback.ShownStep = StepLog::kTopIndex + 1;
+    Stage stage;
+    EraseProblem(film.problem, stage);
+    EXPECT_EQ(film.problem.log.StepNote[0], film.problem.topic.InstructionText);
+    EXPECT_TRUE(film.problem.playback.TypingEnabled);
+}
+
 TEST(Multiplication, OfExactlyAHundredCellsFinishes) {
     // 9 by 7 digits: 7 rows of 9 with 0 + 1 + ... + 6 zeros are 84 cells, the last row has 15
     // columns of sums; one carry to bring down makes 100.

@@ -7,6 +7,7 @@
 #include "typeset/lines.h"
 #include "typeset/notation_walk.h"
 #include "worksheet/explanation_rows.h"
+#include "worksheet/shown_note.h"
 
 namespace numerello {
 
@@ -41,13 +42,6 @@ class FirstMessage : public Learner {
     Learner& learner;
     bool told = false;
 };
-
-/// Long products run on behind the last step that has a note.
-std::string_view ShownNote(const Problem& problem) {
-    const int shown = problem.playback.ShownStep;
-    return shown <= StepLog::kTopIndex ? std::string_view(problem.log.StepNote[shown])
-                                       : std::string_view();
-}
 
 }  // namespace
 

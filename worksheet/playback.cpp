@@ -96,7 +96,7 @@ void Worksheet::PrintStep(int index, bool showBlinker) {
     const std::string& line = std::as_const(problem.log).StepText[index];
     FPrintLine(line, showBlinker, *this, problem.playback, learner);
     if (!outOfSheets) {
-        drawnLines.push_back(line);
+        CurrentSheet().lines.push_back(line);
     }
 }
 
@@ -109,6 +109,7 @@ void Worksheet::FinishWork() {
 
 void Worksheet::DrawCheckMark() {
     HideArrow();
+    assistant.EndWork();
     const Playback& playback = problem.playback;
     Current().PaintPicture("check", MarkLeft(playback, kCheckOffset),
                            MarkTop(playback, kCheckOffset));
@@ -124,6 +125,7 @@ void Worksheet::PlaceBlinker() {
     if (!Any(problem.columns) || problem.settings.mnuShowStep) {
         sheet.arrowVisible = true;
         timer2Enabled = true;
+        assistant.Notify();
     }
     Changed();
 }
@@ -133,6 +135,7 @@ void Worksheet::blinker_Click() {
         return;
     }
     HideArrow();
+    assistant.StopNotice();
     Changed();
     // The rest stays unseen until the problem is solved again: kept as it is.
     if (!problem.settings.mnuShowStep) {

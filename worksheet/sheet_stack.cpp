@@ -10,14 +10,12 @@ namespace numerello {
 
 namespace {
 
-constexpr double kWidth = 800;
-constexpr double kHeight = 657;
 constexpr double kFanStep = 25;
 constexpr double kFontSize = 12;
 
 void Unfold(Sheet& sheet) {
-    sheet.width = kWidth;
-    sheet.height = kHeight;
+    sheet.width = SheetStack::kWidth;
+    sheet.height = SheetStack::kHeight;
     sheet.visible = true;
 }
 
@@ -26,7 +24,7 @@ void Unfold(Sheet& sheet) {
 SheetStack::SheetStack(const TextMetrics& metrics) : metrics(metrics) {
     sheets.reserve(kCount);
     for (int i = 0; i < kCount; ++i) {
-        sheets.push_back(Sheet{.surface = EmptySurface(), .title = {}});
+        sheets.push_back(Sheet{.surface = EmptySurface(), .title = {}, .lines = {}});
     }
     Unfold(sheets.front());
 }
@@ -54,6 +52,7 @@ void SheetStack::Turn(int page) {
     last.arrowVisible = false;
 
     next.surface = EmptySurface();
+    next.lines.clear();
     next.left = last.left + kFanStep;
     next.top = last.top + kFanStep;
     Unfold(next);
@@ -67,10 +66,17 @@ void SheetStack::Raise(int index) {
     }
 }
 
+void SheetStack::SendToBack(int index) {
+    if (std::erase(order, index) > 0) {
+        order.insert(order.begin(), index);
+    }
+}
+
 void SheetStack::Blank(int last) {
     for (int i = 0; i <= last; ++i) {
         Sheet& sheet = (*this)[i];
         sheet.surface = EmptySurface();
+        sheet.lines.clear();
         sheet.visible = i == 0;
         sheet.arrowVisible = false;
     }

@@ -17,6 +17,7 @@ struct Sheet {
     double width = 0;  ///< 0 until the sheet is first turned to
     double height = 0;
     bool visible = false;
+    std::vector<std::string> lines;  ///< the solution's lines on it, in order
     bool arrowVisible = false;
     double arrowLeft = 0;  ///< on the sheet
     double arrowTop = 0;
@@ -27,6 +28,8 @@ struct Sheet {
 class SheetStack {
   public:
     static constexpr int kCount = 10;
+    static constexpr int kWidth = 800;
+    static constexpr int kHeight = 657;
 
     /// The metrics must outlive the stack.
     explicit SheetStack(const TextMetrics& metrics);
@@ -47,6 +50,9 @@ class SheetStack {
 
     /// Lays a sheet over all others. Nothing for a hidden one.
     void Raise(int index);
+
+    /// Lays a sheet below all others. Nothing for a hidden one.
+    void SendToBack(int index);
 
     /// Blanks the sheets 0 to `last` and hides them, their arrows too; the first sheet stays.
     void Blank(int last);

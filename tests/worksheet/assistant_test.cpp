@@ -255,7 +255,7 @@ class NoticeInPlay : public Desk {
 
 TEST_F(NoticeInPlay, WaitsWithTheArrow) {
     Wiz().StopNotice();
-    SolveInLines<4>();
+    SolveInLines<3>();
     EXPECT_TRUE(Flashes());
     Wiz().clickMe_Timer();
     EXPECT_TRUE(Wiz().ClickVisible());

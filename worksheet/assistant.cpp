@@ -9,12 +9,12 @@ namespace numerello {
 
 namespace {
 
-constexpr double kRightOfSheet = 816;  ///< from the left edge of the sheet
+constexpr int kRightOfSheet = 816;  ///< from the left edge of the sheet
 constexpr double kFirstTop = 160;
 
 // Once those of the window's frame and caption; now the figure's distance from the edges.
-constexpr double kRightEdge = 8;
-constexpr double kLowerEdge = 27;
+constexpr int kRightEdge = 8;
+constexpr int kLowerEdge = 27;
 
 constexpr double kSmallest = 10;
 constexpr double kScaleStep = 0.5;
@@ -56,9 +56,13 @@ void Assistant::PlaceBeside(int sheetLeft, int width, int height) {
     formWidth = width;
     formHeight = height;
     if (!dragged && !pressed) {
-        left = std::min(sheetLeft + kRightOfSheet, formWidth - kWidth - kRightEdge);
+        left = FirstLeft(sheetLeft, formWidth);
         top = kFirstTop;
     }
+}
+
+int Assistant::FirstLeft(int sheetLeft, int formWidth) {
+    return std::min(sheetLeft + kRightOfSheet, formWidth - kWidth - kRightEdge);
 }
 
 void Assistant::ChooseFigure() {

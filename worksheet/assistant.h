@@ -25,6 +25,9 @@ class Assistant {
     /// shows comes in as far as it must, and goes back when there is room again.
     void PlaceBeside(int sheetLeft, int formWidth, int formHeight);
 
+    /// The left edge of its first place.
+    static int FirstLeft(int sheetLeft, int formWidth);
+
     /// Another figure was chosen in the settings; it appears at the size of the moment.
     void ChooseFigure();
 

@@ -17,7 +17,7 @@ struct Sheet {
     double width = 0;  ///< 0 until the sheet is first turned to
     double height = 0;
     bool visible = false;
-    std::vector<std::string> lines;  ///< the solution's lines on it, in order
+    std::vector<std::string> lines;  ///< what stands on it in math text, in order
     bool arrowVisible = false;
     double arrowLeft = 0;  ///< on the sheet
     double arrowTop = 0;

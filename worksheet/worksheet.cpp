@@ -53,6 +53,10 @@ void Worksheet::DrawTypedLine() {
     Surface& surface = stack[0].surface;
     surface.Cls();
     surface.CurrentY = EntryRow(code).value_or(0);
+    stack[0].lines.clear();
+    if (!problem.typed.DisplayLine.empty()) {
+        stack[0].lines.push_back(problem.typed.DisplayLine);
+    }
     FPrintLine(problem.typed.DisplayLine, false, *this, problem.playback, learner);
     Changed();
 }

@@ -30,7 +30,8 @@ class DraggedSheets : public Desk {
 
 TEST_F(DraggedSheets, EachSheetKnowsItsLines) {
     ASSERT_EQ(problem.playback.CurrentPage, 2);
-    EXPECT_EQ(sheet.SheetAt(0).lines.size(), 11U);
+    EXPECT_EQ(sheet.SheetAt(0).lines.size(), 12U);
+    EXPECT_EQ(sheet.SheetAt(0).lines.front(), "7");
     EXPECT_EQ(sheet.SheetAt(0).lines.back(), "line 12");
     EXPECT_EQ(sheet.SheetAt(1).lines.size(), 12U);
     EXPECT_EQ(sheet.SheetAt(2).lines, (std::vector<std::string>{"line 25", "line 26"}));

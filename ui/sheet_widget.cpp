@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "ui/artwork.h"
+#include "ui/desk.h"
 #include "ui/surface_painter.h"
 #include "ui/text.h"
 #include "worksheet/spoken_line.h"
@@ -92,13 +93,13 @@ void SheetWidget::Place() {
 }
 
 QString SheetWidget::Spoken() const {
-    QStringList lines;
+    QStringList words;
     if (shown != nullptr) {
         for (const std::string& line : shown->lines) {
-            lines << ToQString(SpokenLine(line));
+            words << ToQString(SpokenLine(line));
         }
     }
-    return lines.join(u'\n');
+    return words.join(u'\n');
 }
 
 /// Says what was written, to those who hear the sheet.
@@ -141,6 +142,18 @@ void SheetWidget::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setClipRegion(event->region());
     painter.drawPixmap(0, 0, retained);
+    PaintShadowsFromAbove(painter);
+}
+
+/// The sheets in front are the siblings that come later.
+void SheetWidget::PaintShadowsFromAbove(QPainter& painter) const {
+    const QObjectList& siblings = parent()->children();
+    for (auto at = siblings.indexOf(this) + 1; at < siblings.size(); ++at) {
+        const auto* above = qobject_cast<const SheetWidget*>(siblings.at(at));
+        if (above != nullptr && above->isVisible()) {
+            PaintShadow(painter, above->geometry().translated(-pos()));
+        }
+    }
 }
 
 /// The place on the sheet as it lies now: an event may tell one from before its last move.

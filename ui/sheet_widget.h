@@ -61,6 +61,7 @@ class SheetWidget : public QWidget {
   private:
     QPoint PlaceOf(const QMouseEvent& event) const;
     QPixmap Painted() const;
+    void PaintShadowsFromAbove(QPainter& painter) const;
     void TellChange();
 
     const FontMetrics& metrics;

@@ -174,10 +174,19 @@ class Speaker {
 
     /// A letter of mathematics; in a sentence one behind a number, but not the "nd" of 2nd.
     bool StandsAlone() const {
-        if (!IsLetter(At(at))) {
+        if (!IsLetter(At(at)) || InUnit()) {
             return false;
         }
         return !sentence || (at > 0 && IsDigit(At(at - 1)) && !IsLetter(At(at + 1)));
+    }
+
+    /// Letters behind a blank are a unit, as in 5 km; the factors of a product stand close.
+    bool InUnit() const {
+        std::size_t first = at;
+        while (first > 0 && IsLetter(At(first - 1))) {
+            --first;
+        }
+        return first > 0 && At(first - 1) == " ";
     }
 
     void SpeakConstruct(const std::string& mark) {

@@ -16,8 +16,7 @@ def told():
 
 
 def sheet():
-    found = screen.find(TOPIC)
-    return found.get_description() if found else None
+    return screen.sheet_text(TOPIC)
 
 
 def expect_told(text):

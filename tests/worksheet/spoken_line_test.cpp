@@ -33,6 +33,8 @@ TEST(SpokenLine, ReadsMathematicsAsWords) {
         {"x\\5$3", "x plus or minus 5 is not equal to 3"},
         {"2<3>1", "2 is less than 3 is greater than 1"},
         {"`r^2^", "pi r squared"},
+        {"2.5 km = 2500 m", "2.5 km equals 2500 m"},
+        {"xy + 2ab", "x y plus 2 a b"},
     };
     for (const auto& [line, words] : lines) {
         EXPECT_EQ(SpokenLine(line), words) << line;

@@ -9,6 +9,7 @@
 #include "ui/desk.h"
 #include "ui/surface_painter.h"
 #include "ui/text.h"
+#include "worksheet/sheet_rows.h"
 #include "worksheet/spoken_line.h"
 
 namespace numerello {
@@ -95,8 +96,8 @@ void SheetWidget::Place() {
 QString SheetWidget::Spoken() const {
     QStringList words;
     if (shown != nullptr) {
-        for (const std::string& line : shown->lines) {
-            words << ToQString(SpokenLine(line));
+        for (const std::string& row : SheetRows(*shown)) {
+            words << ToQString(SpokenLine(row));
         }
     }
     return words.join(u'\n');

@@ -18,11 +18,10 @@ class DesktopMotion : public QObject {
     /// Whether one of the settings asks for less motion.
     bool AsksForStillness() const;
 
-  private slots:
-    /// The service tells that a setting has changed.
-    void SettingChanged(const QDBusMessage& news);
-
   private:
+    /// The service tells that a setting has changed.
+    Q_SLOT void SettingChanged(const QDBusMessage& news);
+
     static constexpr int kSettings = 2;
 
     void Ask(int setting);

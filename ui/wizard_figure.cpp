@@ -116,7 +116,7 @@ WizardFigure::WizardFigure(Assistant& model, QWidget* form)
       wizard(new WizardButton(model, form)),
       click(new ClickNotice(form)) {
     MakeTimer(wizIn, "wizIn", kTick, &Assistant::wizIn_Timer);
-    MakeTimer(WizOut, "WizOut", kTick, &Assistant::WizOut_Timer);
+    MakeTimer(wizOut, "WizOut", kTick, &Assistant::WizOut_Timer);
     MakeTimer(clickMe, "clickMe", kFlash, &Assistant::clickMe_Timer);
     for (MenuButton* button : {static_cast<MenuButton*>(wizard), static_cast<MenuButton*>(click)}) {
         connect(button, &QAbstractButton::clicked, this, &WizardFigure::ExplanationAsked);
@@ -148,9 +148,9 @@ void WizardFigure::Show(bool onScreen) {
     flashing = onScreen;
     wizard->Show();
     ShowNotice();
-    Keep(wizIn, model.wizInEnabled());
-    Keep(WizOut, model.WizOutEnabled());
-    Keep(clickMe, model.clickMeEnabled() && flashing && MotionWanted());
+    Keep(wizIn, model.WizInEnabled());
+    Keep(wizOut, model.WizOutEnabled());
+    Keep(clickMe, model.ClickMeEnabled() && flashing && MotionWanted());
 }
 
 /// Below the figure, as far as the form reaches. Without motion it stands there and does not flash.
@@ -158,7 +158,7 @@ void WizardFigure::ShowNotice() {
     const int left = qRound(model.Left()) + (Assistant::kWidth - click->width()) / 2;
     const int top = qRound(model.Top()) + Assistant::kHeight + kGap;
     click->move(left, std::min(top, click->parentWidget()->height() - click->height()));
-    click->setVisible(model.ClickVisible() || (model.clickMeEnabled() && !MotionWanted()));
+    click->setVisible(model.ClickVisible() || (model.ClickMeEnabled() && !MotionWanted()));
 }
 
 }  // namespace numerello

@@ -72,7 +72,7 @@ class WizardFigure : public QObject {
     WizardButton* wizard;
     ClickNotice* click;
     QTimer wizIn{this};
-    QTimer WizOut{this};
+    QTimer wizOut{this};
     QTimer clickMe{this};
     bool flashing = true;
 };

@@ -37,10 +37,10 @@ class Assistant {
     /// "Show Wiz Assistant" was ticked or unticked: the figure grows in or shrinks out.
     void mnuHideWiz_Click(bool ticked);
 
-    /// The tick of every 10 ms while wizInEnabled() or WizOutEnabled().
+    /// The tick of every 10 ms while WizInEnabled() or WizOutEnabled().
     void wizIn_Timer();
     void WizOut_Timer();
-    bool wizInEnabled() const { return growing; }
+    bool WizInEnabled() const { return growing; }
     bool WizOutEnabled() const { return shrinking; }
 
     /// For those who want no motion: ends the one under way at once.
@@ -82,9 +82,9 @@ class Assistant {
     void EndWork();
     void RestartWork();
 
-    /// The tick of every 800 ms while clickMeEnabled().
+    /// The tick of every 800 ms while ClickMeEnabled().
     void clickMe_Timer();
-    bool clickMeEnabled() const { return clickMe; }
+    bool ClickMeEnabled() const { return clickMe; }
     bool ClickVisible() const { return clickVisible; }
 
   private:

@@ -39,8 +39,8 @@ void Worksheet::Picture3_MouseDown(int X, int Y) {
 }
 
 void Worksheet::HoldSheet(int X, int Y) {
-    DragStartX = X;
-    DragStartY = Y;
+    dragStartX = X;
+    dragStartY = Y;
     movedSincePress = false;
     Changed();
 }
@@ -48,15 +48,15 @@ void Worksheet::HoldSheet(int X, int Y) {
 void Worksheet::Paper_MouseMove(int Index, bool leftButton, int X, int Y) {
     // A chooser that a click closed over the sheet must not make it jump.
     if (problem.topic.ClickedOnly) {
-        DragStartX = X;
-        DragStartY = Y;
+        dragStartX = X;
+        dragStartY = Y;
         problem.topic.ClickedOnly = false;
     }
-    if (!leftButton || (X == DragStartX && Y == DragStartY)) {
+    if (!leftButton || (X == dragStartX && Y == dragStartY)) {
         return;
     }
-    stack[Index].left += X - DragStartX;
-    stack[Index].top += Y - DragStartY;
+    stack[Index].left += X - dragStartX;
+    stack[Index].top += Y - dragStartY;
     movedSincePress = true;
     sheetsDragged = true;
     Changed();

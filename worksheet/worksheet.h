@@ -150,8 +150,8 @@ class Worksheet : public Stage, public PaperSheets {
     Pencil pencil;
     Assistant assistant;
     int lastViewWidth = 0;
-    int DragStartX = 0;  ///< the place of the mouse on its sheet at the last press
-    int DragStartY = 0;
+    int dragStartX = 0;  ///< the place of the mouse on its sheet at the last press
+    int dragStartY = 0;
     bool movedSincePress = false;
     bool sheetsDragged = false;  ///< since the sheets were last laid out
     bool timer2Enabled = false;

@@ -15,7 +15,7 @@ class AssistantTest : public testing::Test {
 
     void Grow() {
         wiz.mnuHideWiz_Click(true);
-        while (wiz.wizInEnabled()) {
+        while (wiz.WizInEnabled()) {
             wiz.wizIn_Timer();
         }
     }
@@ -43,13 +43,13 @@ TEST_F(AssistantTest, GrowsInNineteenTicks) {
     EXPECT_FALSE(wiz.Visible());
     for (int tick = 1; tick <= 19; ++tick) {
         const double scale = 10.5 - 0.5 * tick;
-        EXPECT_TRUE(wiz.wizInEnabled()) << tick;
+        EXPECT_TRUE(wiz.WizInEnabled()) << tick;
         wiz.wizIn_Timer();
         EXPECT_TRUE(wiz.Visible() && wiz.Painted()) << tick;
         EXPECT_DOUBLE_EQ(wiz.Width(), 108 / scale);
         EXPECT_DOUBLE_EQ(wiz.Height(), 128 / scale);
     }
-    EXPECT_FALSE(wiz.wizInEnabled());
+    EXPECT_FALSE(wiz.WizInEnabled());
     EXPECT_EQ(wiz.Width(), 108);
     wiz.wizIn_Timer();
     EXPECT_EQ(wiz.Width(), 108) << "a tick that was still on its way";
@@ -83,7 +83,7 @@ TEST_F(AssistantTest, AToggleInMidMotionRestartsAtTheScaleThatItSets) {
     EXPECT_DOUBLE_EQ(wiz.Width(), 10.8);
     wiz.mnuHideWiz_Click(false);
     EXPECT_EQ(wiz.WizScale(), 1);
-    EXPECT_FALSE(wiz.wizInEnabled());
+    EXPECT_FALSE(wiz.WizInEnabled());
     wiz.WizOut_Timer();
     EXPECT_EQ(wiz.Width(), 108);
 }
@@ -184,9 +184,9 @@ TEST_F(AssistantTest, ADraggedFigureStaysWhereItIsButInSight) {
 }
 
 TEST_F(AssistantTest, TheNoticeFlashesFromWhenTheFigureStands) {
-    EXPECT_FALSE(wiz.clickMeEnabled());
+    EXPECT_FALSE(wiz.ClickMeEnabled());
     Grow();
-    EXPECT_TRUE(wiz.clickMeEnabled());
+    EXPECT_TRUE(wiz.ClickMeEnabled());
     EXPECT_FALSE(wiz.ClickVisible());
     wiz.clickMe_Timer();
     EXPECT_TRUE(wiz.ClickVisible());
@@ -200,43 +200,43 @@ TEST_F(AssistantTest, ShrinkingTakesTheNoticeAway) {
     wiz.mnuHideWiz_Click(false);
     wiz.WizOut_Timer();
     EXPECT_FALSE(wiz.ClickVisible());
-    EXPECT_FALSE(wiz.clickMeEnabled());
+    EXPECT_FALSE(wiz.ClickMeEnabled());
     wiz.EndMotion();
     wiz.Notify();
-    EXPECT_FALSE(wiz.clickMeEnabled()) << "no notice without a figure";
+    EXPECT_FALSE(wiz.ClickMeEnabled()) << "no notice without a figure";
 }
 
 TEST_F(AssistantTest, TheNoticeNeedsItsSettingAndSomethingToExplain) {
     problem.settings.ClickNotify = false;
     Grow();
-    EXPECT_FALSE(wiz.clickMeEnabled());
+    EXPECT_FALSE(wiz.ClickMeEnabled());
     problem.settings.ClickNotify = true;
     wiz.ClickNotifyChanged();
-    EXPECT_TRUE(wiz.ClickVisible() && wiz.clickMeEnabled());
+    EXPECT_TRUE(wiz.ClickVisible() && wiz.ClickMeEnabled());
     problem.settings.ClickNotify = false;
     wiz.ClickNotifyChanged();
-    EXPECT_FALSE(wiz.ClickVisible() || wiz.clickMeEnabled());
+    EXPECT_FALSE(wiz.ClickVisible() || wiz.ClickMeEnabled());
 
     problem.settings.ClickNotify = true;
     wiz.Notify();
     wiz.clickMe_Timer();
     problem.log.StepNote[0].clear();
     wiz.clickMe_Timer();
-    EXPECT_FALSE(wiz.ClickVisible() || wiz.clickMeEnabled());
+    EXPECT_FALSE(wiz.ClickVisible() || wiz.ClickMeEnabled());
     wiz.Notify();
-    EXPECT_FALSE(wiz.clickMeEnabled());
+    EXPECT_FALSE(wiz.ClickMeEnabled());
 }
 
 TEST_F(AssistantTest, NothingFlashesBehindTheCheckMark) {
     Grow();
     wiz.clickMe_Timer();
     wiz.EndWork();
-    EXPECT_FALSE(wiz.ClickVisible() || wiz.clickMeEnabled());
+    EXPECT_FALSE(wiz.ClickVisible() || wiz.ClickMeEnabled());
     Grow();
-    EXPECT_FALSE(wiz.clickMeEnabled());
+    EXPECT_FALSE(wiz.ClickMeEnabled());
     wiz.RestartWork();
     wiz.Notify();
-    EXPECT_TRUE(wiz.clickMeEnabled());
+    EXPECT_TRUE(wiz.ClickMeEnabled());
 }
 
 /// The notice beside a solution that is played step by step.
@@ -250,7 +250,7 @@ class NoticeInPlay : public Desk {
     }
 
     Assistant& Wiz() { return sheet.TheAssistant(); }
-    bool Flashes() { return Wiz().clickMeEnabled(); }
+    bool Flashes() { return Wiz().ClickMeEnabled(); }
 };
 
 TEST_F(NoticeInPlay, WaitsWithTheArrow) {

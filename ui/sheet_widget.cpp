@@ -82,9 +82,16 @@ void SheetWidget::Show(const Sheet& sheet) {
     arrow->move(qRound(sheet.arrowLeft), qRound(sheet.arrowTop));
     arrow->setVisible(sheet.arrowVisible);
     setVisible(sheet.visible);
-    retained = QPixmap();
-    update();
-    TellChange();
+    if (const DrawingState now = StateOf(sheet); now != state) {
+        state = now;
+        retained = QPixmap();
+        update();
+        TellChange();
+    }
+}
+
+SheetWidget::DrawingState SheetWidget::StateOf(const Sheet& sheet) {
+    return {sheet.newSheets, sheet.surface.Clearings(), sheet.surface.Marks().size(), sheet.title};
 }
 
 void SheetWidget::Place() {

@@ -60,6 +60,17 @@ class SheetWidget : public QWidget {
 
   private:
     QPoint PlaceOf(const QMouseEvent& event) const;
+    /// Two equal states are equal drawings.
+    struct DrawingState {
+        int newSheets = -1;
+        int clearings = 0;
+        std::size_t marks = 0;
+        std::string title;
+
+        bool operator==(const DrawingState&) const = default;
+    };
+    static DrawingState StateOf(const Sheet& sheet);
+
     QPixmap Painted() const;
     void PaintShadowsFromAbove(QPainter& painter) const;
     void TellChange();
@@ -67,8 +78,9 @@ class SheetWidget : public QWidget {
     const FontMetrics& metrics;
     const Sheet* shown = nullptr;
     ArrowButton* arrow;
-    QPixmap retained;  ///< paper and drawing; null after a change
-    QString told;      ///< what was last told to those who hear the sheet
+    DrawingState state;  ///< of what is retained
+    QPixmap retained;    ///< paper and drawing; null after a change
+    QString told;        ///< what was last told to those who hear the sheet
 };
 
 }  // namespace numerello

@@ -24,7 +24,8 @@ void Unfold(Sheet& sheet) {
 SheetStack::SheetStack(const TextMetrics& metrics) : metrics(metrics) {
     sheets.reserve(kCount);
     for (int i = 0; i < kCount; ++i) {
-        sheets.push_back(Sheet{.surface = EmptySurface(), .title = {}, .lines = {}});
+        sheets.push_back(
+            Sheet{.surface = EmptySurface(), .newSheets = 0, .title = {}, .lines = {}});
     }
     Unfold(sheets.front());
 }
@@ -51,8 +52,7 @@ void SheetStack::Turn(int page) {
     Sheet& next = (*this)[page + 1];
     last.arrowVisible = false;
 
-    next.surface = EmptySurface();
-    next.lines.clear();
+    Replace(next);
     next.left = last.left + kFanStep;
     next.top = last.top + kFanStep;
     Unfold(next);
@@ -75,8 +75,7 @@ void SheetStack::SendToBack(int index) {
 void SheetStack::Blank(int last) {
     for (int i = 0; i <= last; ++i) {
         Sheet& sheet = (*this)[i];
-        sheet.surface = EmptySurface();
-        sheet.lines.clear();
+        Replace(sheet);
         sheet.visible = i == 0;
         sheet.arrowVisible = false;
     }
@@ -88,6 +87,12 @@ void SheetStack::MoveTo(double left) {
     for (const int index : order) {
         (*this)[index].left += distance;
     }
+}
+
+void SheetStack::Replace(Sheet& sheet) const {
+    sheet.surface = EmptySurface();
+    sheet.lines.clear();
+    ++sheet.newSheets;
 }
 
 Surface SheetStack::EmptySurface() const {

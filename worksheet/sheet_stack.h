@@ -10,7 +10,8 @@ namespace numerello {
 
 /// One sheet of paper. Lengths are sheet pixels.
 struct Sheet {
-    Surface surface;  ///< what is drawn on it
+    Surface surface;    ///< what is drawn on it
+    int newSheets = 0;  ///< how often an empty sheet took its place
     std::string title;
     double left = 0;  ///< on the desk, whose origin is the top left corner of the view
     double top = 0;
@@ -62,6 +63,7 @@ class SheetStack {
 
   private:
     Surface EmptySurface() const;
+    void Replace(Sheet& sheet) const;
 
     const TextMetrics& metrics;
     std::vector<Sheet> sheets;

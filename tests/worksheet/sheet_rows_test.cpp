@@ -14,7 +14,8 @@ class SheetRowsTest : public testing::Test {
     }
 
     PlainMetrics metrics;
-    Sheet sheet{.surface = Surface(metrics, {"VantrelFont", 12}), .title = {}, .lines = {}};
+    Sheet sheet{
+        .surface = Surface(metrics, {"VantrelFont", 12}), .newSheets = 0, .title = {}, .lines = {}};
 };
 
 TEST_F(SheetRowsTest, AreTheLinesWhereThereAreSome) {

@@ -8,6 +8,7 @@
 #include "typeset/notation_walk.h"
 #include "worksheet/explanation_rows.h"
 #include "worksheet/shown_note.h"
+#include "worksheet/spoken_line.h"
 
 namespace numerello {
 
@@ -71,7 +72,7 @@ std::string Explanation::TakeText() {
 void Explanation::ShowExplanation() {
     rows.Cls();
     text = TakeText();
-    const bool isRefusal = std::exchange(explainError, false);
+    isRefusal = std::exchange(explainError, false);
     FirstMessage teller(learner);
     for (TextRow& row :
          ExplanationRows(isRefusal ? CharactersWithQuotedMarks(text) : Characters(text), kTextWidth,
@@ -80,6 +81,10 @@ void Explanation::ShowExplanation() {
         rows.CurrentY = RowsHeight();
         ExplainLine(std::move(row), rows, teller);
     }
+}
+
+std::string Explanation::SpokenText() const {
+    return isRefusal ? text : SpokenLine(text);
 }
 
 double Explanation::RowsWidth() const {

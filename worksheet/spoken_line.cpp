@@ -150,7 +150,7 @@ class Speaker {
 
     void SpeakHere() {
         const std::string& here = At(at);
-        if (here == "#" || here == "^" || here == "~") {
+        if (!IsQuoted() && (here == "#" || here == "^" || here == "~")) {
             SpeakConstruct(here);
             return;
         }
@@ -163,13 +163,25 @@ class Speaker {
     }
 
     const SpokenSign* SignHere() const {
-        const bool betweenWords =
-            sentence && at > 0 && IsLetter(At(at - 1)) && IsLetter(At(at + 1));
+        if (IsQuoted() || IsHyphen()) {
+            return nullptr;
+        }
         const auto* const row =
             std::find_if(kSigns.begin(), kSigns.end(),
                          [this](const SpokenSign& each) { return each.sign == At(at); });
-        const bool isPunctuation = row == kSigns.end() || betweenWords;
-        return isPunctuation || (sentence && !row->inSentences) ? nullptr : row;
+        return row == kSigns.end() || (sentence && !row->inSentences) ? nullptr : row;
+    }
+
+    /// A sentence that speaks of a sign has it in quotes or parentheses.
+    bool IsQuoted() const {
+        const std::string& before = at > 0 ? At(at - 1) : At(characters.size());
+        const std::string& behind = At(at + 1);
+        return sentence && ((before == "(" && behind == ")") || (before == "'" && behind == "'"));
+    }
+
+    /// Between two words, as in forty-two.
+    bool IsHyphen() const {
+        return sentence && at > 0 && IsLetter(At(at - 1)) && IsLetter(At(at + 1));
     }
 
     /// A letter of mathematics; in a sentence one behind a number, but not the "nd" of 2nd.

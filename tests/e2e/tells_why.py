@@ -60,7 +60,7 @@ def main():
         desk.key("Return", "alt+t")
         desk.settle()
         desk.key("e")
-        expect_told("3 feet = 1 yard")
+        expect_told("3 feet equals 1 yard")
         desk.picture("told-reason")
         desk.key("Return")
         expect_told(None)

@@ -10,6 +10,7 @@
 #include "tests/ui/still_desktop.h"
 #include "ui/frm_explain.h"
 #include "ui/wizard_figure.h"
+#include "worksheet/spoken_line.h"
 
 namespace numerello {
 namespace {
@@ -117,7 +118,8 @@ TEST_F(WizOnTheDesk, AClickExplains) {
     ChooseFeet();
     Click(Wiz());
     EXPECT_TRUE(Explanation().isVisible());
-    EXPECT_EQ(Explanation().accessibleDescription().toStdString(), Now().topic.InstructionText);
+    EXPECT_EQ(Explanation().accessibleDescription().toStdString(),
+              SpokenLine(Now().topic.InstructionText));
     Type(QStringLiteral("7"));
     EXPECT_FALSE(Explanation().isVisible());
     Enter();

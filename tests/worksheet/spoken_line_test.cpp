@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+#include <string>
+#include <string_view>
+
 namespace numerello {
 namespace {
 
@@ -54,6 +58,9 @@ TEST(SpokenLine, KeepsTheWordsOfASentence) {
         {"forty-two and/or less", "forty-two and/or less"},
         {"Add 7 and 8 (15) .", "Add 7 and 8 (15)."},
         {"The 2nd of 4x, halved: #1/2#.", "The 2nd of 4 x, halved: one half."},
+        {"Multiplication symbols (*).  Example: 35*9*4^3^",
+         "Multiplication symbols (*). Example: 35 times 9 times 4 cubed"},
+        {"Type '+', '^' or '~'.", "Type '+', '^' or '~'."},
         {"Subtract -3 from #1/2#x.", "Subtract minus 3 from one half x."},
     };
     for (const auto& [line, words] : lines) {
@@ -64,6 +71,21 @@ TEST(SpokenLine, KeepsTheWordsOfASentence) {
 TEST(SpokenLine, ReadsOnBehindAMarkWithoutPartner) {
     EXPECT_EQ(SpokenLine("3+#1/2"), "3 plus #1 over 2");
     EXPECT_EQ(SpokenLine("4^"), "4^");
+}
+
+TEST(SpokenLine, IsTidyWhateverTheLine) {
+    constexpr std::string_view kAlphabet = "#^~[]()/+-* '.,|1a2bc";
+    std::mt19937 random(11);
+    std::uniform_int_distribution<std::size_t> place(0, kAlphabet.size() - 1);
+    for (int i = 0; i < 3000; ++i) {
+        std::string line;
+        for (int length = i % 40; length > 0; --length) {
+            line += kAlphabet[place(random)];
+        }
+        const std::string words = SpokenLine(line);
+        EXPECT_EQ(words.find("  "), std::string::npos) << line;
+        EXPECT_TRUE(words.empty() || (words.front() != ' ' && words.back() != ' ')) << line;
+    }
 }
 
 }  // namespace

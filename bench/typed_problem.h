@@ -12,7 +12,9 @@ class SilentLearner : public Learner {
   public:
     void MessageBox(std::string_view, std::string_view) override {}
     bool Confirm(std::string_view, std::string_view) override { return true; }
-    std::optional<std::string> InputBox(std::string_view) override { return std::nullopt; }
+    std::optional<std::string> InputBox(std::string_view, std::string_view) override {
+        return std::nullopt;
+    }
 };
 
 /// The topic's entry form with these keys typed.

@@ -17,7 +17,7 @@ class SilentLearner : public Learner {
   public:
     void MessageBox(std::string_view /*title*/, std::string_view /*text*/) override {}
     bool Confirm(std::string_view /*title*/, std::string_view /*text*/) override { return false; }
-    std::optional<std::string> InputBox(std::string_view /*prompt*/) override { return {}; }
+    std::optional<std::string> InputBox(std::string_view, std::string_view) override { return {}; }
 };
 
 class OneSheet : public PaperSheets {

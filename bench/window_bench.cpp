@@ -38,6 +38,13 @@ class OpenSheet {
         }
     }
 
+    void RestartProduct() {
+        EraseProblem(problem, noStage);
+        problem.boxes.Text[0] = problem.boxes.Text[1] = "9999999999";
+        problem.controls.SolveEnabled = true;
+        paper->compute_Click();
+    }
+
     FrmPaper& Paper() { return *paper; }
     const Problem& Now() const { return problem; }
 
@@ -63,6 +70,23 @@ void NextStepPainted(benchmark::State& state) {
     }
 }
 BENCHMARK(NextStepPainted)->Unit(benchmark::kMillisecond);
+
+/// The same in a product of ten digits by ten, from its numbers to the last digit that is drawn.
+void ColumnStepPainted(benchmark::State& state) {
+    constexpr int kLastStep = 102;
+    OpenSheet sheet("Multiplication", "");
+    sheet.RestartProduct();
+    for (auto _ : state) {
+        if (sheet.Now().playback.ShownStep >= kLastStep) {
+            state.PauseTiming();
+            sheet.RestartProduct();
+            state.ResumeTiming();
+        }
+        sheet.Paper().NextStep();
+        benchmark::DoNotOptimize(sheet.Paper().grab());
+    }
+}
+BENCHMARK(ColumnStepPainted)->Unit(benchmark::kMillisecond);
 
 /// A key until the sheet is painted anew.
 void KeyPainted(benchmark::State& state) {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "catalogue/topic_codes.h"
+#include "core/topic_codes.h"
 #include "notation/typing_point.h"
 
 namespace numerello {

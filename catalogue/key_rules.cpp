@@ -2,9 +2,9 @@
 
 #include <string_view>
 
-#include "catalogue/topic_codes.h"
 #include "core/number.h"
 #include "core/text.h"
+#include "core/topic_codes.h"
 
 namespace numerello {
 

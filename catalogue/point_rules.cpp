@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <string_view>
 
-#include "catalogue/topic_codes.h"
 #include "core/text.h"
+#include "core/topic_codes.h"
 
 namespace numerello {
 

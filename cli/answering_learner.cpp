@@ -15,7 +15,8 @@ bool AnsweringLearner::Confirm(std::string_view /*title*/, std::string_view /*te
     return true;
 }
 
-std::optional<std::string> AnsweringLearner::InputBox(std::string_view prompt) {
+std::optional<std::string> AnsweringLearner::InputBox(std::string_view /*title*/,
+                                                      std::string_view prompt) {
     prompts.push_back(prompt);
     if (nextAnswer >= answers.size()) {
         return std::nullopt;

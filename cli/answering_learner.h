@@ -15,7 +15,7 @@ class AnsweringLearner : public Learner {
 
     void MessageBox(std::string_view title, std::string_view text) override;
     bool Confirm(std::string_view title, std::string_view text) override;
-    std::optional<std::string> InputBox(std::string_view prompt) override;
+    std::optional<std::string> InputBox(std::string_view title, std::string_view prompt) override;
 
     /// [{"title","text"}], in order.
     const Json& Messages() const { return messages; }

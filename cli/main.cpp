@@ -82,6 +82,16 @@ Json Settings(const std::vector<std::string>& arguments) {
     return settings;
 }
 
+/// A column problem has no lines: what its steps are, its drawings tell.
+int SolveInColumns(const Json& request) {
+    const Json columns{{"do", "columns"},
+                       {"topic", request.at("topic")},
+                       {"boxes", request.at("boxes")},
+                       {"settings", request.at("settings")}};
+    const Json answer = numerello::Answer(columns, nullptr);
+    return numerello::PrintWorkedColumns(answer, std::cout, std::cerr);
+}
+
 int Solve(const SolveArguments& arguments) {
     if (!arguments.file.empty()) {
         std::cerr << "numerello-cli: problem files are not built yet\n";
@@ -95,6 +105,10 @@ int Solve(const SolveArguments& arguments) {
                        {"answers", arguments.answers},
                        {"settings", Settings(arguments.settings)}};
     const Json answer = numerello::Answer(request, nullptr);
+    constexpr int kFirstColumnTopic = 200;
+    if (!arguments.json && answer.value("code", 0) >= kFirstColumnTopic) {
+        return SolveInColumns(request);
+    }
     return numerello::PrintSolved(answer, arguments.json, std::cout, std::cerr);
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "catalogue/topics.h"
+#include "cli/column_picture.h"
 
 namespace numerello {
 
@@ -92,6 +93,25 @@ int PrintSolved(const Json& answer, bool asJson, std::ostream& out, std::ostream
     if (!asJson) {
         PrintProblem(answer, out);
         PrintSteps(answer.at("lines"), out);
+    }
+    out << std::flush;
+    TellTroubles(answer, err);
+    return ExitStatus(answer);
+}
+
+int PrintWorkedColumns(const Json& answer, std::ostream& out, std::ostream& err) {
+    if (!Usable(answer)) {
+        return TellUnusable(answer, err);
+    }
+    const Json& frames = answer.at("frames");
+    for (std::size_t i = 0; i < frames.size(); ++i) {
+        out << std::setw(2) << i + 1 << ". " << String(frames[i], "note") << '\n';
+    }
+    if (!frames.empty()) {
+        out << '\n';
+        for (const std::string& row : ColumnPicture(frames.back().at("marks"))) {
+            out << "    " << row << '\n';
+        }
     }
     out << std::flush;
     TellTroubles(answer, err);

@@ -10,6 +10,8 @@ namespace numerello {
 
 /// The working on `out`, as text or as JSON; what was refused or went wrong on `err`.
 int PrintSolved(const Json& answer, bool asJson, std::ostream& out, std::ostream& err);
+/// The reason of every step of a column problem, and the finished working drawn in characters.
+int PrintWorkedColumns(const Json& answer, std::ostream& out, std::ostream& err);
 int PrintTyped(const Json& answer, std::ostream& out, std::ostream& err);
 int PrintTopics(const Json& answer, std::ostream& out, std::ostream& err);
 

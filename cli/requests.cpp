@@ -15,13 +15,12 @@ struct Handler {
 };
 
 constexpr std::array kHandlers{
-    Handler{"solve", SolveRequest},
-    Handler{"typeset", TypesetRequest},
-    Handler{"topics", TopicsRequest},
+    Handler{"solve", SolveRequest},     Handler{"columns", ColumnsRequest},
+    Handler{"typeset", TypesetRequest}, Handler{"topics", TopicsRequest},
     Handler{"type", TypeRequest},
 };
 
-constexpr std::array<std::string_view, 4> kNotBuilt{"columns", "example", "practice-test", "graph"};
+constexpr std::array<std::string_view, 3> kNotBuilt{"example", "practice-test", "graph"};
 
 void Handle(const Json& request, Json& answer) {
     Fields fields(request);

@@ -11,6 +11,7 @@
 namespace numerello {
 
 void SolveRequest(Fields& fields, Json& answer);
+void ColumnsRequest(Fields& fields, Json& answer);
 void TypeRequest(Fields& fields, Json& answer);
 void TypesetRequest(Fields& fields, Json& answer);
 void TopicsRequest(Fields& fields, Json& answer);

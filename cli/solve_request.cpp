@@ -1,7 +1,7 @@
 #include "app/solvers.h"
-#include "catalogue/box_keys.h"
-#include "catalogue/guided_input.h"
 #include "cli/answering_learner.h"
+#include "cli/column_stage.h"
+#include "cli/entry_fields.h"
 #include "cli/mark_fields.h"
 #include "cli/requests.h"
 #include "cli/setting_fields.h"
@@ -12,72 +12,6 @@
 namespace numerello {
 
 namespace {
-
-constexpr std::size_t kBoxCount = 6;
-constexpr std::size_t kListCount = 3;
-constexpr long kTopListRow = 6;
-
-/// What a request has the learner enter.
-struct Entry {
-    std::string problem;
-    std::vector<std::string> boxes;
-    bool filled = false;
-    std::vector<long> lists;
-};
-
-Entry ReadEntry(Fields& fields) {
-    Entry entry;
-    entry.problem = fields.String("problem", "");
-    entry.boxes = fields.Strings("boxes", kBoxCount);
-    entry.filled = fields.Bool("filled", false);
-    entry.lists = fields.Integers("lists", kListCount, EntryBoxes::kNoChoice, kTopListRow);
-    if (entry.problem.find(kBackspace) != std::string::npos) {
-        throw BadRequest("\"problem\" holds a Backspace");
-    }
-    return entry;
-}
-
-/// Types the line; the keys that were refused go to `refused`.
-void TypeLine(Problem& problem, std::string_view text, Json& refused) {
-    int at = 0;
-    for (const std::string& key : Characters(text)) {
-        const bool judged = IsJudged(problem, key);
-        Form_KeyPress(problem, key);
-        if (!problem.input.KeyAccepted) {
-            refused.push_back(
-                {{"at", at}, {"key", key}, {"why", judged ? problem.input.InputError : ""}});
-        }
-        ++at;
-    }
-}
-
-void TypeBox(Problem& problem, int box, std::string_view text, Json& refused) {
-    int at = 0;
-    for (const std::string& key : Characters(text)) {
-        if (!BoxKey(problem, box, key)) {
-            refused.push_back({{"at", at}, {"key", key}, {"why", ""}, {"box", box}});
-        }
-        ++at;
-    }
-}
-
-/// Enters everything; returns the refused keys.
-Json Enter(Problem& problem, const Entry& entry) {
-    Json refused = Json::array();
-    TypeLine(problem, entry.problem, refused);
-    for (std::size_t i = 0; i < entry.boxes.size(); ++i) {
-        if (entry.filled) {
-            problem.boxes.Text[i] = entry.boxes[i];
-        } else {
-            TypeBox(problem, static_cast<int>(i) + 1, entry.boxes[i], refused);
-        }
-    }
-    for (std::size_t i = 0; i < entry.lists.size(); ++i) {
-        problem.boxes.ListIndex[i] = static_cast<int>(entry.lists[i]);
-    }
-    CheckBoxesReady(problem);
-    return refused;
-}
 
 Json Lines(const StepLog& log) {
     Json lines = Json::array();
@@ -101,6 +35,15 @@ Json Drawing(const Problem& problem) {
     return marks;
 }
 
+/// The equation that is to be drawn, as its cells hold it.
+std::string EquationText(const TypedProblem& typed) {
+    std::string text;
+    for (int i = 0; i <= TypedProblem::kTopCell && !typed.ExprVariants[i].empty(); ++i) {
+        text += typed.ExprVariants[i];
+    }
+    return text;
+}
+
 /// The graph request as a playback to the end leaves it.
 Json Graph(const Problem& problem) {
     const GraphRequest& graph = problem.graph;
@@ -109,13 +52,7 @@ Json Graph(const Problem& problem) {
     }
     return {{"mode", graph.GraphMode},         {"x1", JsonNumber(graph.GraphX1)},
             {"y1", JsonNumber(graph.GraphY1)}, {"x2", JsonNumber(graph.GraphX2)},
-            {"y2", JsonNumber(graph.GraphY2)}, {"equation", ""}};
-}
-
-void RequireSolver(const Problem& problem) {
-    if (AllSolvers().Find(problem.topic.ProblemType) == nullptr) {
-        throw BadRequest(Text("solving \"", problem.topic.TopicTitle, "\" is not built yet"));
-    }
+            {"y2", JsonNumber(graph.GraphY2)}, {"equation", EquationText(problem.typed)}};
 }
 
 }  // namespace
@@ -127,14 +64,13 @@ void SolveRequest(Fields& fields, Json& answer) {
     const Entry entry = ReadEntry(fields);
     AnsweringLearner learner(fields.Strings("answers", std::nullopt));
     fields.RejectOthers();
-    RequireSolver(problem);
 
     Json refused = Enter(problem, entry);
     const bool solvable = problem.controls.SolveEnabled;
     std::optional<FailureKind> failure;
     if (solvable) {
-        Stage noStage;
-        failure = compute_Click(problem, AllSolvers(), learner, noStage);
+        ColumnStage stage(problem, learner);
+        failure = compute_Click(problem, AllSolvers(), learner, stage);
     }
     answer["ok"] = true;
     answer["code"] = problem.topic.ProblemType;

@@ -17,8 +17,9 @@ class Learner {
     /// A question with OK and Cancel; true for OK.
     virtual bool Confirm(std::string_view title, std::string_view text) = 0;
 
-    /// A typed answer; nothing when the learner cancels.
-    virtual std::optional<std::string> InputBox(std::string_view prompt) = 0;
+    /// A typed answer; nothing when the learner cancels. An empty title means that none is given.
+    virtual std::optional<std::string> InputBox(std::string_view title,
+                                                std::string_view prompt) = 0;
 };
 
 }  // namespace numerello

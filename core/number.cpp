@@ -24,7 +24,8 @@ bool OnlyDigits(std::string_view text) {
     return std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
-Written Read(std::string_view text) {
+/// Nothing for a text that is no number. Not empty.
+std::optional<Written> Read(std::string_view text) {
     Written written;
     if (text.front() == '-' || text.front() == '+') {
         written.negative = text.front() == '-';
@@ -37,7 +38,7 @@ Written Read(std::string_view text) {
     written.decimals = point == std::string_view::npos ? "" : digits.substr(point + 1);
     if (!OnlyDigits(written.whole) || !OnlyDigits(written.decimals) ||
         (written.whole.empty() && written.decimals.empty())) {
-        throw Failure(FailureKind::Format);
+        return std::nullopt;
     }
     if (mark != std::string_view::npos) {
         written.powerOfTen = text.substr(mark + 1);
@@ -47,7 +48,7 @@ Written Read(std::string_view text) {
             unsignedPower.remove_prefix(1);
         }
         if (unsignedPower.empty() || !OnlyDigits(unsignedPower)) {
-            throw Failure(FailureKind::Format);
+            return std::nullopt;
         }
     }
     return written;
@@ -68,6 +69,28 @@ bool IsTooLarge(const Written& written) {
     std::from_chars(written.powerOfTen.data() + plus,
                     written.powerOfTen.data() + written.powerOfTen.size(), power);
     return digitsBeforePoint + power > 0;
+}
+
+std::string_view WithoutBlanks(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+/// Nothing beyond the range of a Double.
+std::optional<double> ValueOf(const Written& written, std::string_view text) {
+    text.remove_prefix(text.front() == '-' || text.front() == '+' ? 1 : 0);
+    double magnitude = 0;
+    if (std::from_chars(text.data(), text.data() + text.size(), magnitude).ec ==
+        std::errc::result_out_of_range) {
+        if (IsTooLarge(written)) {
+            return std::nullopt;
+        }
+        magnitude = 0;
+    }
+    return written.negative ? -magnitude : magnitude;
 }
 
 /// Digits and power of ten as the number text needs them: value = 0.d1d2d3... * 10^pointAt.
@@ -156,22 +179,28 @@ Integer ToInteger(double value) {
 }  // namespace
 
 double ToNumber(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) {
+    const std::string_view number = WithoutBlanks(text);
+    if (number.empty()) {
         return 0;
     }
-    text = text.substr(first, text.find_last_not_of(' ') - first + 1);
-    const Written written = Read(text);
-    text.remove_prefix(text.front() == '-' || text.front() == '+' ? 1 : 0);
-    double magnitude = 0;
-    if (std::from_chars(text.data(), text.data() + text.size(), magnitude).ec ==
-        std::errc::result_out_of_range) {
-        if (IsTooLarge(written)) {
-            throw Failure(FailureKind::Overflow);
-        }
-        magnitude = 0;
+    const std::optional<Written> written = Read(number);
+    if (!written) {
+        throw Failure(FailureKind::Format);
     }
-    return written.negative ? -magnitude : magnitude;
+    const std::optional<double> value = ValueOf(*written, number);
+    if (!value) {
+        throw Failure(FailureKind::Overflow);
+    }
+    return *value;
+}
+
+std::optional<double> ReadNumber(std::string_view text) {
+    const std::string_view number = WithoutBlanks(text);
+    if (number.empty()) {
+        return std::nullopt;
+    }
+    const std::optional<Written> written = Read(number);
+    return written ? ValueOf(*written, number) : std::nullopt;
 }
 
 std::string NumberText(double value) {

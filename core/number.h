@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -12,6 +13,10 @@ namespace numerello {
 /// power of ten ("1.5E+15"); blanks around it are ignored and an empty text is 0.
 /// Throws Failure(Format) for any other text, Failure(Overflow) beyond the range of a Double.
 double ToNumber(std::string_view text);
+
+/// The number that a text stands for, nothing for a text that is none or lies beyond
+/// the range of a Double. An empty text is none.
+std::optional<double> ReadNumber(std::string_view text);
 
 /// At most 15 significant digits, no trailing zeros, a 0 before the point. From 1E+15 up, and when
 /// the first significant digit stands beyond the fifteenth place after the point, exponent form

@@ -11,6 +11,10 @@ constexpr int kTopClearedVariable = 20;
 
 }  // namespace
 
+bool ColumnRequest::Any() const {
+    return ColumnAdd || ColumnSubtract || ColumnMultiply || ColumnDivide;
+}
+
 void ColumnRequest::ClearFlags() {
     ColumnAdd = ColumnSubtract = ColumnMultiply = ColumnDivide = false;
 }
@@ -23,15 +27,13 @@ void ResetProblem(Problem& problem, bool ClearSteps) {
     TypedProblem& typed = problem.typed;
     typed.ExprChars.Clear();
     typed.ExprCells.Clear();
-    typed.ExprTokens.Clear();
     typed.ExprVariants.Clear();
 
     problem.log.FreshProblem = true;
-    typed.ExprCharCount = typed.TokenCount = typed.ExprCellCount = typed.VarCount = 0;
+    typed.ExprCharCount = typed.ExprCellCount = typed.VarCount = 0;
     typed.ProblemText.clear();
     typed.DisplayLine.clear();
     problem.input = InputState();
-    problem.engine = EnginePlace();
 
     typed.VarNames.Clear(0, kTopClearedVariable);
 

@@ -33,8 +33,6 @@ struct TypedProblem {
     int ExprCharCount = 0;                          ///< the next key lands at this index
     BoundedArray<std::string, kTopCell> ExprCells;  ///< once set out: tokens at 4, 8, 12 ...
     int ExprCellCount = 0;                          ///< top used index of ExprCells
-    BoundedArray<std::string, kTopCell> ExprTokens;
-    int TokenCount = 0;
     BoundedArray<std::string, kTopCell> ExprVariants;
     BoundedArray<std::string, kTopVariable> VarNames;  ///< from index 1; index 0 stays empty
     int VarCount = 0;         ///< next free index of VarNames once the letters are collected
@@ -89,7 +87,8 @@ struct NumberLineRequest {
 /// Where playback stands and where the next line goes.
 struct Playback {
     int ShownStep = 0;
-    bool ShowAllSteps = false;
+    /// 0 step by step, -1 all at once. A column problem counts in it what it has still to reveal.
+    int ShowAllSteps = 0;
     int CurrentPage = 0;  ///< 0 to 9
     bool TypingEnabled = false;
     int SavedPointer = 0;
@@ -108,6 +107,7 @@ struct ColumnRequest {
     std::string ColumnTop;
     std::string ColumnBottom;
 
+    bool Any() const;
     void ClearFlags();
 };
 
@@ -133,13 +133,6 @@ struct EntryControls {
     PencilPicture Pencil = PencilPicture::Pencil;
 };
 
-/// The place of the expression engine's work: the deepest bracket level of the expression, and the
-/// side of the equal sign, 0 left and 1 right.
-struct EnginePlace {
-    int Depth = 0;
-    int Side = 0;
-};
-
 /// The record of the current problem. Whoever owns a run owns one and passes it by reference.
 struct Problem {
     TopicChoice topic;
@@ -152,7 +145,6 @@ struct Problem {
     ColumnRequest columns;
     GraphRequest graph;
     EntryControls controls;
-    EnginePlace engine;
 };
 
 /// Whether the topic is typed on the paper line (codes 28 to 199) rather than into boxes.

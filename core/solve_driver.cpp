@@ -66,7 +66,7 @@ void ClearStepLines(Problem& problem) {
     // log of one line does not overwrite it.
     problem.log.StepNote[2].clear();
     problem.playback.ShownStep = problem.settings.mnuShowStep ? 2 : 0;
-    problem.playback.ShowAllSteps = !problem.settings.mnuShowStep;
+    problem.playback.ShowAllSteps = problem.settings.mnuShowStep ? 0 : -1;
 }
 
 void Dispatch(Problem& problem, const Solvers& solvers, Learner& learner) {
@@ -88,16 +88,16 @@ void Work(Problem& problem, const Solvers& solvers, Learner& learner, Stage& sta
     Dispatch(problem, solvers, learner);
     // Thinned before the first line is shown, so that what is played is what stays.
     ThinSteps(problem.log, problem.settings.DetailLevel);
-    if (problem.log.StepCount > 1) {
+    if (problem.columns.Any()) {
+        stage.DrawColumns();
+    } else if (problem.log.StepCount > 1) {
         stage.ShowNextStep();
     }
 }
 
-/// The trap around all of a solve.
-std::optional<FailureKind> TrappedWork(Problem& problem, const Solvers& solvers, Learner& learner,
-                                       Stage& stage) {
+std::optional<FailureKind> FailureOf(const std::function<void()>& part) {
     try {
-        Work(problem, solvers, learner, stage);
+        part();
         return std::nullopt;
     } catch (const Failure& failure) {
         return failure.Kind();
@@ -117,11 +117,18 @@ Solver Solvers::Find(int ProblemType) const {
 
 std::optional<FailureKind> compute_Click(Problem& problem, const Solvers& solvers, Learner& learner,
                                          Stage& stage) {
-    const std::optional<FailureKind> failure = TrappedWork(problem, solvers, learner, stage);
+    const std::optional<FailureKind> failure =
+        Trapped(problem, learner, [&] { Work(problem, solvers, learner, stage); });
+    problem.controls.SolveEnabled = false;
+    return failure;
+}
+
+std::optional<FailureKind> Trapped(Problem& problem, Learner& learner,
+                                   const std::function<void()>& part) {
+    const std::optional<FailureKind> failure = FailureOf(part);
     if (failure) {
         FailSolve(problem, *failure, learner);
     }
-    problem.controls.SolveEnabled = false;
     return failure;
 }
 
@@ -130,6 +137,8 @@ void FailSolve(Problem& problem, FailureKind kind, Learner& learner) {
     DropRequests(problem);
     problem.controls.GraphEnabled = false;
     problem.playback.ShownStep = 0;
+    // A column problem that draws itself at once has written its reason there.
+    problem.log.StepNote[0] = problem.topic.InstructionText;
 }
 
 void EraseProblem(Problem& problem, Stage& stage) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <span>
 
@@ -19,6 +20,9 @@ class Stage {
 
     /// Shows the line that ShownStep points at, or all lines.
     virtual void ShowNextStep() {}
+
+    /// Draws the next step of the column request.
+    virtual void DrawColumns() {}
 
     /// Blanks the sheets 0 to CurrentPage, leaves the first alone and puts the pencil beside it.
     virtual void BlankSheets() {}
@@ -53,6 +57,11 @@ struct Solvers {
 /// log keeps what was recorded up to it.
 std::optional<FailureKind> compute_Click(Problem& problem, const Solvers& solvers, Learner& learner,
                                          Stage& stage);
+
+/// Runs a part of a solve under the driver's trap: any failure ends in FailSolve, and its kind is
+/// returned.
+std::optional<FailureKind> Trapped(Problem& problem, Learner& learner,
+                                   const std::function<void()>& part);
 
 /// Ends a solve that failed, also one that fails while it is played: the learner gets the message
 /// of the failure, nothing more is shown, and all stays locked until the problem is erased.

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
+#include "core/learner.h"
 #include "core/problem.h"
+#include "engine/number_forms.h"
 #include "engine/term_tables.h"
 #include "engine/tokens.h"
 
@@ -12,18 +15,23 @@ namespace numerello {
 /// Works an expression line by line: a pass composes a new text from the tables of the last one,
 /// and RecordStep makes a line of the step log of it. Between two passes an expression exists only
 /// as its tokens.
+///
+/// Groups are counted from 0 and lie at the deepest bracket level of the current Side. A pass on a
+/// group that no longer exists does nothing. All passes throw the Failures of the arithmetic in
+/// them, and Failure(Format) past a bound of the tables or of the log.
 class Engine {
   public:
     /// The problem must outlive the engine.
     explicit Engine(Problem& problem) : problem(problem) {}
 
-    /// Takes the typed problem over. Throws Failure(DivisionByZero) for a literal division by 0.
+    /// Takes the typed problem over and records it as the first line. Throws
+    /// Failure(DivisionByZero) for a literal division by 0.
     void Open();
 
-    std::string ExprToText() const { return TokensToText(tokens); }
+    std::string ExprToText() const { return isRead ? lineText : TokensToText(tokens); }
 
     /// Replaces the expression, one character a token.
-    void SetText(std::string_view text) { tokens = TextToTokens(text); }
+    void SetText(std::string_view text);
 
     enum class Record {
         Line,           ///< stores the new line, if it is one
@@ -35,25 +43,210 @@ class Engine {
     /// one. StepUnchanged then tells whether it did not.
     void RecordStep(Record record = Record::Line);
 
+    // The order of rewriting.
+
+    /// Whether combining moves factors with negative exponents to the other side of the line.
+    enum class NegativeExponents { Remove, Keep };
+
+    void SimplifyExpression();
+    /// For sums with brackets and without products.
+    void SimplifyLight();
+    /// Repeats CombineTerms until nothing changes; sums of fractions go over a common denominator.
+    void CombineUntilStable(std::size_t group,
+                            NegativeExponents negatives = NegativeExponents::Remove);
+
+    // Like terms.
+
+    void CombineTerms(std::size_t group, NegativeExponents negatives, Record record);
+    /// The group's text with its terms in decreasing order of their first letter's exponent.
+    std::string SortTerms(std::size_t group) const;
+
+    // Products.
+
+    /// Works all written products of a group, then what they leave. False without any.
+    bool MultiplyPass(std::size_t group);
     /// Works the first written product of a group into one term and records the line. False when
     /// the group holds none.
     bool MultiplyPair(std::size_t group);
+    /// Puts the factor behind a bracket into a bracket of its own: "(2+3)*4" becomes "(2+3)(4)".
+    bool ReorderFactor(std::size_t group);
+    bool DistributeFront(std::size_t group);
+    /// Multiplies two touching brackets term by term.
+    bool MultiplyGroups(std::size_t first);
+
+    // Brackets and bars.
+
+    /// Takes one pair away where that is safe. The caller records the line; bars that go record
+    /// theirs.
+    bool RemoveParens();
+    bool RemoveAbsolute(std::size_t group);
+
+    // Powers and roots.
+
+    bool ExpandPowers(std::size_t group);
+    bool ExpandConstantTerms(std::size_t group);
+    bool ExpandFrontPower(std::size_t group);
+    /// Writes a bracket with a power as that many brackets. The caller records the line.
+    bool ExpandPower(std::size_t group);
+    void RootSequence();
+    void SimplifyRoots();
+
+    // Sums and products of fractions.
+
+    void FractionArithmetic(std::size_t group);
+
+    // Equations.
+
+    /// Simplifies the left side, then the right one.
+    void SimplifyBothSides();
+    /// Works a simplified equation for a letter. True when a solution stands in the last line.
+    bool SolveFor(const std::string& variable);
+    /// Takes what has not the letter away from both sides.
+    bool MoveTermsLeft(const std::string& variable);
+    /// Takes what has the letter on the right away from both sides, or swaps the sides.
+    bool MoveTermsRight(const std::string& variable);
+    void DivideBothSides(const std::string& variable, const Ratio& divisor);
+    /// The terms of both sides for graphing: "+1/1y^+1=+2/1x+3/1" but for unit exponents.
+    std::string SideToPlainText() const;
+
+    // Factoring.
+
+    void SetEqualToZero();
+    void PrepareBothSides();
+    /// Puts the current side into a bracket with a minus before it. The caller records the line.
+    void NegateBothSides();
+    /// Takes the greatest common factor out, or factors a quadratic by its roots. The caller
+    /// records the line.
+    bool FactorExpression(std::size_t group, bool withGcf);
+    /// Records the quadratic's factors and its solutions.
+    void FactorQuadratic(const std::string& variable);
+
+    // Topics.
+
+    /// Asks for the value of each letter and puts it in its place.
+    void EvaluateBySubstitution(Learner& learner);
+    void EvaluateTopic(Learner& learner);
+
+    /// Writes a number or a product as powers of its prime factors.
+    void PowerNotationTopic();
 
     const TermTables& Tables() const { return tables; }
     const Tokens& Line() const { return tokens; }
 
+    /// Whether the terms tell the exponent of their first letter. Off, as ever: equations of a
+    /// higher degree are worked like linear ones.
+    bool ReadsFirstExponents = false;
     int Side = 0;               ///< whose tables are read: 0 left, 1 right of the "="
     bool TermsChanged = false;  ///< terms were merged since the last record
 
   private:
+    // Reading the line.
+    bool HasGroup(std::size_t group) const { return group < tables.groups.size(); }
+    const Group& GroupAt(std::size_t group) const;
+    std::string_view TokenAt(std::size_t at) const;
+    bool Holds(std::string_view token) const;
+    bool HoldsRoot() const;
+    std::string Written(const Term& term) const;
+    std::string Shown(std::string_view text) const;
     std::string FactorText(const Term& factor) const;
+
+    // Composing the next one.
+    void ReplaceBetween(std::size_t begin, std::size_t end, std::string_view text);
+    void ReplaceGroup(std::size_t group, std::string_view text);
+    void Because(std::string reason, int level);
+
+    void ReadLine();
     void CleanReason();
     bool IsStored(const std::string& line) const;
+
+    // order.cpp
+    void OpenLetterProducts();
+    bool RemoveAndRecord();
+    void FirstWalk();
+    void WorkGroup(std::size_t group);
+    void SecondWalk();
+    bool WorkAgain(std::size_t group);
+    bool ExpandGroupPower(std::size_t group);
+    bool WorkBrackets(std::size_t group);
+    void CheckProducts(std::size_t group);
+    bool IsSumOfFractions(std::size_t group) const;
+    bool IsSettled(std::size_t group, NegativeExponents negatives) const;
+
+    // combining.cpp
+    void RemoveNegativeExponents(std::size_t group);
+    std::string CombiningReason() const;
+    bool KeepsFractions(const Group& group) const;
+    void RecordSorted(std::size_t group, bool changed, Record record);
+
+    // brackets.cpp
+    bool RemoveBars();
+    bool TakeParensAway(std::size_t group);
+    std::size_t EndOfDivisor(std::size_t begin) const;
+    bool TurnWhatFollows(const Group& group);
+
+    // distribute.cpp
+    void DropStar(std::size_t group);
+    std::string ProductReason(const std::vector<Term>& one, const std::vector<Term>& other,
+                              const std::string& products) const;
+    bool ReduceFront(std::size_t group);
+
+    // equations.cpp
+    void UseSide(int side);
+    std::vector<Term> TermsOf(int side) const;
+    std::string SideText(int side) const;
+    bool SolveForOther(const std::string& variable);
+    bool StateTruth(const std::string& variable, bool ownLine);
+
+    // quadratics.cpp
+    float FirstExponent() const;
+    bool SolveByFactoring(float exponent);
+    bool FactorOutGcf(std::size_t group);
+    std::string FactoredTerm(const Term& term, int g, float least) const;
+    bool FactorByRoots(std::size_t group);
+
+    // roots.cpp
+    bool SimplifyRoot(const Term& root);
+
+    // fraction_arithmetic.cpp
+    /// A sum brought to its least common denominator, as its lines show it.
+    struct LcdSum {
+        std::string lcd;
+        std::string denominators;
+        std::string shown;       ///< each fraction times what raises it
+        std::string values;      ///< the raised fractions
+        std::string numerators;  ///< theirs
+        std::string example;
+        double n = 0;  ///< the sum of the numerators
+    };
+    static LcdSum SumOverLcd(const std::vector<Term>& terms);
+    template <class Test>
+    bool AnyInside(std::size_t group, Test test) const;
+    void MultiplyFractions(std::size_t group);
+    bool MultiplyFractionPair(std::size_t group);
+    void CombineCommonDenominators(std::size_t group);
+    bool CombinePair(std::size_t group);
+    void AddPair(std::size_t group, std::size_t one, std::size_t other);
+    bool ReduceFractions(std::size_t group);
+    void ReduceAndDropZeros(std::size_t group);
+    void CombineOverLcd(std::size_t group);
 
     Problem& problem;
     Tokens tokens;
     TermTables tables;
+    bool isRead = false;    ///< the tables are those of the tokens
+    int readSide = 0;       ///< and of this side
+    std::string lineText;   ///< the tokens joined, once they are read
+    std::string shownLine;  ///< the line as the learner sees it
+    /// What the last combining left as it was.
+    struct Settled {
+        std::string text;
+        int side = 0;
+        std::size_t group = 0;
+        NegativeExponents negatives = NegativeExponents::Remove;
+    };
+    Settled settled;
     std::size_t lastTermCount = 0;
+    bool orderNoteGiven = false;
 };
 
 }  // namespace numerello

@@ -1,62 +1,35 @@
 #include <algorithm>
-#include <cmath>
 
-#include "core/failure.h"
 #include "core/number.h"
 #include "core/text.h"
-#include "engine/display.h"
+#include "core/topic_codes.h"
 #include "engine/engine.h"
 #include "engine/letters.h"
+#include "engine/reasons.h"
+#include "engine/step_levels.h"
+#include "engine/term_text.h"
 
 namespace numerello {
 
 namespace {
 
-constexpr int kOrdinaryStep = 2;
 constexpr int kProductPlaces = 4;
-
-/// The numbers of a factor, its constant powers worked out; both are magnitudes.
-struct FactorNumbers {
-    double over = 1;
-    double under = 1;
-};
-
-bool IsNumberPower(const std::string& letters) {
-    return letters.starts_with('^');
-}
-
-/// A negative power goes to the other side of the line.
-void TakePower(double base, float power, double& side, double& otherSide) {
-    const double value = Checked(std::pow(base, std::fabs(static_cast<double>(power))));
-    if (power < 0) {
-        if (value == 0) {
-            throw Failure(FailureKind::DivisionByZero);
-        }
-        otherSide = Checked(otherSide * value);
-    } else {
-        side = Checked(side * value);
-    }
-}
-
-FactorNumbers NumbersOf(const Term& factor) {
-    FactorNumbers numbers;
-    TakePower(factor.numOver, IsNumberPower(factor.NumText) ? factor.NumPower : 1, numbers.over,
-              numbers.under);
-    TakePower(factor.numUnder, IsNumberPower(factor.DenText) ? factor.DenPower : 1, numbers.under,
-              numbers.over);
-    return numbers;
-}
-
-bool IsRoot(const Term& factor) {
-    return factor.NumText.starts_with('~');
-}
 
 double Radicand(const Term& factor) {
     return ToNumber(std::string_view(factor.NumText).substr(1));
 }
 
+/// A factor behind a bracket ends at the next sign, product or pair.
+bool EndsFactor(const Tokens& tokens, std::size_t at) {
+    constexpr std::string_view kEnds = "*()=|";
+    return kEnds.find(tokens[at]) != std::string_view::npos ||
+           (IsSign(tokens[at]) && !IsExponentSign(tokens, at));
+}
+
+/// A product that would round to nothing keeps its digits.
 std::string RoundedProduct(double value) {
-    return NumberText(Round(value, kProductPlaces));
+    const double rounded = Round(value, kProductPlaces);
+    return NumberText(rounded == 0 ? value : rounded);
 }
 
 /// Letters or root of the product over the line.
@@ -71,13 +44,13 @@ std::string LettersOver(const TypedProblem& typed, const Term& one, const Term& 
 }
 
 std::string ProductText(const TypedProblem& typed, const Term& one, const Term& other) {
-    const FactorNumbers first = NumbersOf(one);
-    const FactorNumbers second = NumbersOf(other);
+    const Ratio first = NumbersOf(one);
+    const Ratio second = NumbersOf(other);
     const double over = Checked(first.over * second.over);
+    const double under = Checked(first.under * second.under);
     if (over == 0) {
         return "0";
     }
-    const double under = Checked(first.under * second.under);
     const std::string lettersUnder = MultiplyLetters(typed, one.DenText, other.DenText);
     std::string text = RoundedProduct(over) + LettersOver(typed, one, other);
     if (under != 1 || !lettersUnder.empty()) {
@@ -86,26 +59,15 @@ std::string ProductText(const TypedProblem& typed, const Term& one, const Term& 
     return text;
 }
 
-std::string TextOf(const Tokens& tokens, std::size_t begin, std::size_t end) {
-    std::string text;
-    for (std::size_t i = begin; i < end; ++i) {
-        text += tokens[i];
-    }
-    return text;
-}
-
 }  // namespace
 
 /// How a reason names a factor: without its sign, a constant power worked out.
 std::string Engine::FactorText(const Term& factor) const {
-    if (IsNumberPower(factor.NumText) && factor.DenText.empty() && factor.numUnder == 1) {
-        const FactorNumbers numbers = NumbersOf(factor);
-        const std::string over = NumberText(numbers.over);
-        return numbers.under == 1 ? over : Text("#", over, "/", NumberText(numbers.under), "#");
+    if (factor.NumText.starts_with('^') && factor.DenText.empty() && factor.numUnder == 1) {
+        const Ratio numbers = NumbersOf(factor);
+        return Shown(TermText("", RatioText(numbers.over, numbers.under), "", ""));
     }
-    const Tokens named(tokens.begin() + static_cast<std::ptrdiff_t>(factor.begin) + 1,
-                       tokens.begin() + static_cast<std::ptrdiff_t>(factor.end));
-    return DisplayText(named, problem.topic.ProblemType);
+    return Shown(Written(factor).substr(IsOperator(factor.OpMark) ? 1 : 0));
 }
 
 bool Engine::MultiplyPair(std::size_t group) {
@@ -124,9 +86,50 @@ bool Engine::MultiplyPair(std::size_t group) {
               "root."
             : Text("Multiply ", FactorText(one), " by ", FactorText(other),
                    " using the order of operations.");
-    SetText(Text(TextOf(tokens, 0, one.begin), one.OpMark, ProductText(problem.typed, one, other),
-                 TextOf(tokens, other.end, tokens.size())));
+    SetText(Text(TextBetween(tokens, 0, one.begin), one.OpMark,
+                 ProductText(problem.typed, one, other),
+                 TextBetween(tokens, other.end, tokens.size())));
     RecordStep();
+    return true;
+}
+
+bool Engine::MultiplyPass(std::size_t group) {
+    if (!HasGroup(group) || !MultiplyPair(group)) {
+        return false;
+    }
+    while (MultiplyPair(group)) {
+    }
+    if (problem.topic.ProblemType != kCalculatingRoots) {
+        ExpandPowers(tables.groups.size() - 1);
+        CombineUntilStable(tables.groups.size() - 1);
+    }
+    return true;
+}
+
+bool Engine::ReorderFactor(std::size_t group) {
+    const Group& pair = GroupAt(group);
+    const bool multiplied =
+        !pair.IsAbsolute && tables.Depth > 0 && pair.Power == 1 && TokenAt(pair.tail) == "*";
+    const bool divides = pair.begin > 1 && TokenAt(pair.begin - 2) == "/";
+    if (!multiplied || divides) {
+        return false;
+    }
+    const std::size_t begin = pair.tail + 1;
+    std::size_t end = begin;
+    bool power = false;
+    while (end < tokens.size() && !EndsFactor(tokens, end)) {
+        power = power || (tokens[end] == "^" && TokenAt(end + 1) > "1");
+        ++end;
+    }
+    if (end == begin || tokens[end - 1] == "/") {
+        return false;
+    }
+    Because(std::string(kReorderReason), kOrdinaryStep);
+    ReplaceBetween(begin, end, Text("(+", TextBetween(tokens, begin, end), ")"));
+    RecordStep();
+    if (power) {
+        ExpandPowers(group + 1);
+    }
     return true;
 }
 

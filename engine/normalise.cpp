@@ -28,6 +28,10 @@ class Normaliser {
             if (token.empty()) {
                 continue;
             }
+            if (token == "^" && at + 1 < in.size() && in[at + 1] == "1") {
+                ++at;
+                continue;
+            }
             if (NeedsSign(token)) {
                 out.emplace_back("+");
             }
@@ -72,6 +76,10 @@ class Normaliser {
         for (std::size_t i = out.size(); i-- > 0;) {
             if (out[i] == ")") {
                 i = BeforeLastParens(out, i) + 1;
+            } else if (out[i] == "|" && !barOpen) {
+                do {
+                    --i;
+                } while (i > 0 && out[i] != "|");
             } else if (IsSign(out[i]) && !IsExponentSign(out, i)) {
                 TurnSign(out[i]);
                 return;

@@ -13,18 +13,29 @@ namespace numerello {
 
 namespace {
 
-/// A Single as text: whole numbers in full, others with the digits that a Single holds.
-std::string TextOf(float value) {
+/// A fraction stands for what has decimals and is neither too large nor to be rounded.
+bool IsShownAsFraction(const AnswerSettings& settings, const std::string& text) {
+    return settings.UseFractions && text.find('.') != std::string::npos &&
+           text.find("E+") == std::string::npos;
+}
+
+bool IsWhole(double value) {
+    return value == std::trunc(value);
+}
+
+}  // namespace
+
+std::string SingleValueText(float value) {
     const bool whole = value == std::trunc(value);
     return whole ? NumberText(static_cast<double>(value)) : SingleText(value);
 }
 
-/// Whether the multiple counts as a whole number.
-bool IsNearWhole(double multiple) {
-    return Round(multiple, 4) == Round(multiple, 0);
+double PowerOf(double base, float power) {
+    if (base == 0 && power <= 0) {
+        throw Failure(FailureKind::DivisionByZero);
+    }
+    return Checked(std::pow(base, static_cast<double>(power)));
 }
-
-}  // namespace
 
 std::string ReduceRatio(double a, double b) {
     if (b == 0) {
@@ -40,23 +51,29 @@ std::string ReduceRatio(double a, double b) {
     return denominator == divisor ? reduced : reduced + "/" + WholeText(denominator / divisor);
 }
 
+double ReducedBy(double a, std::string_view reduced) {
+    return Divide(a, ToNumber(reduced.substr(0, reduced.find('/'))));
+}
+
 std::string AbsValueToText(const AnswerSettings& settings, float value) {
-    const double magnitude = std::fabs(static_cast<double>(value));
-    const std::string text = TextOf(std::fabs(value));
-    const bool decimals = text.find('.') != std::string::npos;
-    if (!settings.UseFractions || !decimals || text.find("E+") != std::string::npos) {
+    const float magnitude = std::fabs(value);
+    const std::string text = SingleValueText(magnitude);
+    if (!IsShownAsFraction(settings, text)) {
         return NumberText(Round(ToNumber(text), settings.RoundDigits));
     }
-    // Some multiple below the bound always comes near enough.
-    constexpr int kBound = 20001;
-    for (int d = 1; d < kBound; ++d) {
-        const double multiple = magnitude * d;
-        if (IsNearWhole(multiple)) {
-            const std::string numerator = NumberText(Round(multiple, 0));
-            return d == 1 ? numerator : numerator + "/" + WholeText(d);
-        }
+    const int d = FirstDenominator(magnitude);
+    const std::string numerator = NumberText(Round(static_cast<double>(magnitude) * d, 0));
+    return d == 1 ? numerator : numerator + "/" + WholeText(d);
+}
+
+std::string NumberToFractionText(const AnswerSettings& settings, const Ratio& number) {
+    if (settings.UseFractions && number.under != 1 && IsWhole(number.over) &&
+        IsWhole(number.under)) {
+        return ReduceRatio(number.over, number.under);
     }
-    return NumberText(Round(magnitude, settings.RoundDigits));
+    const double value = Divide(number.over, number.under);
+    const std::string text = AbsValueToText(settings, ToSingle(value));
+    return value < 0 && text != "0" ? "-" + text : text;
 }
 
 std::string PrimeFactorList(double n) {
@@ -73,6 +90,18 @@ std::string PrimeFactorList(double n) {
         }
     }
     return list + WholeText(rest);
+}
+
+std::string GreatestCommonText(std::string_view list) {
+    std::int32_t greatest = 0;
+    for (std::size_t at = 0; at < list.size();) {
+        const std::size_t end = std::min(list.find(' ', at), list.size());
+        if (end > at) {
+            greatest = std::gcd(greatest, ToInteger32(ToNumber(list.substr(at, end - at))));
+        }
+        at = end + 1;
+    }
+    return WholeText(greatest == 0 ? 1 : greatest);
 }
 
 std::string LeastCommonMultipleText(std::span<const double> numbers) {

@@ -1,18 +1,22 @@
 #include <algorithm>
 
 #include "core/text.h"
+#include "core/topic_codes.h"
 #include "engine/display.h"
 #include "engine/engine.h"
 #include "engine/normalise.h"
+#include "engine/reasons.h"
 
 namespace numerello {
 
 namespace {
 
-constexpr int kEvaluatingPolynomials = 103;
-
-std::string WithoutEmphasis(const std::string& line) {
-    return Replace(Replace(line, "[", ""), "]", "");
+/// A sign behind "/" and an exponent of 1 go; numbers beside them are put together then.
+bool LeavesNumbersToJoin(const Tokens& tokens) {
+    return std::adjacent_find(
+               tokens.begin(), tokens.end(), [](const std::string& one, const std::string& next) {
+                   return (one == "/" && IsSign(next)) || (one == "^" && next == "1");
+               }) != tokens.end();
 }
 
 auto Parens(const std::string& line) {
@@ -33,25 +37,54 @@ std::size_t TermCount(const TermTables& tables) {
 }  // namespace
 
 void Engine::Open() {
-    tokens = CellsToTokens(problem.typed);
+    SetText(TokensToText(CellsToTokens(problem.typed)));
+    RecordStep();
+}
+
+void Engine::SetText(std::string_view text) {
+    if (isRead && text == lineText) {
+        return;
+    }
+    tokens = TextToTokens(text);
+    isRead = false;
+}
+
+/// Puts the tokens in order and reads the tables; what has not changed since is not read again.
+void Engine::ReadLine() {
+    if (isRead && readSide == Side) {
+        return;
+    }
+    if (!isRead) {
+        const int code = problem.topic.ProblemType;
+        tokens = MergeNumberTokens(tokens, code);
+        const bool joins = LeavesNumbersToJoin(tokens);
+        tokens = NormaliseTokens(tokens);
+        if (joins) {
+            tokens = MergeNumberTokens(TextToTokens(TokensToText(tokens)), code);
+        }
+        lineText = TokensToText(tokens);
+        shownLine = DisplayText(tokens, code);
+    }
+    tables = BreakIntoTerms(tokens, Side);
+    if (ReadsFirstExponents) {
+        TellFirstExponents(tables);
+    }
+    isRead = true;
+    readSide = Side;
 }
 
 void Engine::RecordStep(Record record) {
-    const int code = problem.topic.ProblemType;
-    tokens = NormaliseTokens(MergeNumberTokens(tokens, code));
-    tables = BreakIntoTerms(tokens, Side);
-    const std::string line = DisplayText(tokens, code);
-    CleanReason();
-
+    ReadLine();
     StepLog& log = problem.log;
     const bool sameTerms = TermCount(tables) == lastTermCount && !TermsChanged;
-    if ((record == Record::OnlyIfChanged && sameTerms) || line == log.LastStepLine) {
+    if ((record == Record::OnlyIfChanged && sameTerms) || shownLine == log.LastStepLine) {
         log.StepUnchanged = true;
-    } else if (record != Record::Refresh && IsStored(line)) {
+    } else if (record != Record::Refresh && IsStored(shownLine)) {
+        CleanReason();
         log.StepLevels[log.StepCount] = log.StepLevel;
-        log.LastStepLine = line;
+        log.LastStepLine = shownLine;
         log.StepUnchanged = false;
-        log.Write(line, log.StepReason);
+        log.Write(shownLine, log.StepReason);
     }
     lastTermCount = TermCount(tables);
 }
@@ -82,10 +115,10 @@ bool Engine::IsStored(const std::string& line) const {
     if (log.StepCount == 1) {
         return true;
     }
-    if (log.StepReason == "Reorder the polynomial.") {
+    if (log.StepReason == kReorderReason) {
         return false;
     }
-    return log.StepReason != "Remove the parenthesis." || Parens(line) < Parens(log.LastStepLine);
+    return log.StepReason != kRemoveParensReason || Parens(line) < Parens(log.LastStepLine);
 }
 
 }  // namespace numerello

@@ -181,7 +181,8 @@ class TableReader {
         group.IsAbsolute = tokens[at] == "|";
         const std::size_t start = FrontStart(at);
         // A bare minus is a factor of -1.
-        if (start + 1 < at || (start < at && tokens[start] == "-")) {
+        const bool bare = start + 1 == at && (tokens[start] == "+" || tokens[start] == "*");
+        if (start < at && !bare) {
             group.front = TermReader(tokens, start, at).Read();
         }
         tables.groups.push_back(std::move(group));
@@ -218,7 +219,7 @@ class TableReader {
             const std::string& before = tokens[at - 1];
             const bool divides = before == "/" && at == open;
             if (divides || kStops.find(before) != std::string_view::npos) {
-                return at;
+                return BehindExponent(at, open);
             }
             --at;
             if (BeginsTerm(tokens, at)) {
@@ -226,6 +227,15 @@ class TableReader {
             }
         }
         return at;
+    }
+
+    /// The exponent of the pair before is no factor.
+    std::size_t BehindExponent(std::size_t at, std::size_t open) const {
+        if (at >= open || tokens[at] != "^") {
+            return at;
+        }
+        at += tokens[at + 1] == "-" ? 3 : 2;
+        return std::min(at, open);
     }
 
     void ReadTerms(Group& group) {
@@ -253,6 +263,10 @@ float Term::Value() const {
     return ToSingle(Divide(static_cast<double>(Num), static_cast<double>(Den)));
 }
 
+bool HasNumberPower(const Term& term) {
+    return term.NumText.starts_with('^') || term.DenText.starts_with('^');
+}
+
 SideRange RangeOfSide(const Tokens& tokens, int Side) {
     const auto equals = std::find(tokens.begin(), tokens.end(), "=");
     const auto at = static_cast<std::size_t>(equals - tokens.begin());
@@ -260,6 +274,14 @@ SideRange RangeOfSide(const Tokens& tokens, int Side) {
         return {0, at};
     }
     return {std::min(at + 1, tokens.size()), tokens.size()};
+}
+
+void TellFirstExponents(TermTables& tables) {
+    for (Group& group : tables.groups) {
+        for (Term& term : group.terms) {
+            term.FirstExponent = term.Degree;
+        }
+    }
 }
 
 TermTables BreakIntoTerms(const Tokens& tokens, int Side) {

@@ -21,6 +21,7 @@ struct Term {
     float DenPower = 1;        ///< exponent on the number under it
     double numOver = 1;        ///< the number over the line as written, which a Single may not hold
     double numUnder = 1;       ///< the number under it
+    float FirstExponent = 1;   ///< exponent of the first letter, where the terms tell it
     float Degree = 0;          ///< exponent of the first letter over the line
     bool DivideMark = false;   ///< a lone "/" stands in it
     std::string NumText;       ///< letters and exponents over the line: "x^2y", "^2", "~5"
@@ -32,6 +33,9 @@ struct Term {
     /// The coefficient. Throws Failure(DivisionByZero) for a Den of 0.
     float Value() const;
 };
+
+/// Whether a number of the term has an exponent.
+bool HasNumberPower(const Term& term);
 
 /// A bracket pair, a pair of bars, or the whole side.
 struct Group {
@@ -65,6 +69,9 @@ struct SideRange {
     std::size_t end = 0;
 };
 SideRange RangeOfSide(const Tokens& tokens, int Side);
+
+/// Gives every term the exponent of its first letter, 0 without one.
+void TellFirstExponents(TermTables& tables);
 
 /// Throws Failure(Format) past a bound of TermTables, Failure(Overflow) past a Single.
 TermTables BreakIntoTerms(const Tokens& tokens, int Side);

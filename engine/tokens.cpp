@@ -4,6 +4,7 @@
 
 #include "core/failure.h"
 #include "core/text.h"
+#include "core/topic_codes.h"
 #include "notation/typing_point.h"
 
 namespace numerello {
@@ -86,7 +87,8 @@ class NumberMerger {
             ++end;
         }
         const std::string& next = Token(end);
-        return end > at + 1 && IsDigit(in[at - 1]) && (next.empty() || IsOneOf(next, "+-*/()|=[]"));
+        return end > at + 1 && IsDigit(in[at - 1]) &&
+               (next.empty() || IsOneOf(next, "+-*/()|=[],"));
     }
 
     const Tokens& in;
@@ -149,11 +151,19 @@ Tokens TextToTokens(std::string_view text) {
 }
 
 std::string TokensToText(const Tokens& tokens) {
+    return TextBetween(tokens, 0, tokens.size());
+}
+
+std::string TextBetween(const Tokens& tokens, std::size_t begin, std::size_t end) {
     std::string text;
-    for (const std::string& token : tokens) {
-        text += token;
+    for (std::size_t i = begin; i < end; ++i) {
+        text += tokens[i];
     }
     return text;
+}
+
+std::string WithoutEmphasis(std::string_view text) {
+    return Replace(Replace(text, "[", ""), "]", "");
 }
 
 Tokens MergeNumberTokens(const Tokens& tokens, int ProblemType) {

@@ -29,6 +29,12 @@ Tokens TextToTokens(std::string_view text);
 
 std::string TokensToText(const Tokens& tokens);
 
+/// The tokens from `begin` to before `end` as text.
+std::string TextBetween(const Tokens& tokens, std::size_t begin, std::size_t end);
+
+/// The text without "[" and "]".
+std::string WithoutEmphasis(std::string_view text);
+
 /// The characters of numbers put together: 12.5, the fraction 3/4, the root 2~5 with its
 /// coefficient, 1.5E+10. A "/" joins two numbers only when nothing binds the second one more
 /// tightly: 3/4x and 3/4^2 keep it apart, and so does a number that is an exponent or holds a "/"

@@ -28,7 +28,9 @@ void LineSetter::AddText(const std::string& token) {
     TypingPoint next = point;
     next.Pass(token.front(), code);
     CloseBefore(next);
-    if (next.last == Role::FractionBar) {
+    const bool within = IsWithinDenominator();
+    const int depth = point.FractionDepth;
+    if (next.last == Role::FractionBar && !within) {
         OpenFraction(NumeratorStart());
     }
     if (next.last == Role::RootStart && !line.empty() && line.back().text == "1") {
@@ -42,7 +44,9 @@ void LineSetter::AddText(const std::string& token) {
     for (const char character : token) {
         point.Pass(character, code);
     }
-    if (token.size() > 1 && token.find('/') != std::string::npos) {
+    if (within && token.find('/') != std::string::npos) {
+        point.FractionDepth = depth;
+    } else if (token.size() > 1 && token.find('/') != std::string::npos) {
         OpenFraction(line.size() - 1);
     }
     NoteStarts(behindFractionBar);
@@ -94,6 +98,13 @@ void LineSetter::CloseEmphasis() {
         point.InFraction = false;
     }
     line.back().after += "]";
+}
+
+/// In parentheses or bars under a fraction bar. Nobody types a fraction there, but one may arise;
+/// it is written with a plain "/".
+bool LineSetter::IsWithinDenominator() const {
+    return point.InFraction &&
+           (point.ParenDepth > point.FractionDepth || (point.AbsOpen && point.barInFraction));
 }
 
 /// Fractions within the numerator are written with a plain "/".

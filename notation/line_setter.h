@@ -31,6 +31,7 @@ class LineSetter {
     void CloseEmphasis();
     void CloseBefore(const TypingPoint& next);
     void CloseExponent();
+    bool IsWithinDenominator() const;
     void OpenFraction(std::size_t numerator);
     std::size_t NumeratorStart() const;
     void NoteStarts(bool behindFractionBar);

@@ -1,6 +1,7 @@
 #include "notation/typing_point.h"
 
 #include "core/text.h"
+#include "core/topic_codes.h"
 
 namespace numerello {
 
@@ -76,6 +77,7 @@ void TypingPoint::Pass(char character, int ProblemType) {
                 break;
             case ',':
                 last = Role::Comma;
+                InFraction = false;
                 break;
             case ':':
                 last = Role::Colon;

@@ -38,9 +38,6 @@ struct NumberLengths {
     bool hasPoint = false;
 };
 
-/// In this topic a "/" behind a complete fraction divides by what follows.
-inline constexpr int kFractionArithmetic = 76;
-
 /// Where the next key of a line lands.
 struct TypingPoint : LineFlags {
     Role last = Role::LineStart;

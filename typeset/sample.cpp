@@ -53,7 +53,7 @@ class MessageRecorder : public Learner {
         messages.push_back({std::string(title), std::string(text)});
     }
     bool Confirm(std::string_view /*title*/, std::string_view /*text*/) override { return false; }
-    std::optional<std::string> InputBox(std::string_view /*prompt*/) override { return {}; }
+    std::optional<std::string> InputBox(std::string_view, std::string_view) override { return {}; }
 
   private:
     std::vector<SampleAnswer::Message>& messages;

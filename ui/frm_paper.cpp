@@ -130,11 +130,6 @@ void FrmPaper::compute_Click() {
     if (!problem.controls.SolveEnabled) {
         return;
     }
-    if (AllSolvers().Find(problem.topic.ProblemType) == nullptr) {
-        learner.MessageBox("",
-                           "Solving this topic is not built yet.  Your problem stays as it is.");
-        return;
-    }
     worksheet.CloseExplanation();
     {
         const PointerGuard busy(Qt::BusyCursor);

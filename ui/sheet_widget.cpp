@@ -27,6 +27,18 @@ constexpr double kTitleY = 8;
 constexpr double kTitleWidth = 678;
 constexpr double kTitleSize = 18;
 
+/// A sheet may be longer than its picture: its lower part is then shown once more, whole rows of
+/// the ruling lower, so that the rules go on and the holes do not.
+void PaintPaper(QPainter& painter, int height, qreal ratio) {
+    constexpr int kBelowHoles = 620;
+    const QPixmap paper = Artwork(QStringLiteral("paper"), kPaperSize, ratio);
+    painter.drawPixmap(0, height - kPaperSize.height(), paper);
+    if (height > kPaperSize.height()) {
+        painter.drawPixmap(QRectF(0, 0, kPaperSize.width(), kBelowHoles), paper,
+                           QRectF(0, 0, paper.width(), kBelowHoles * ratio));
+    }
+}
+
 /// A title that is too long is set smaller, not cut.
 void PaintTitle(QPainter& painter, const std::string& title, const FontMetrics& metrics) {
     Font font{std::string(kSheetFace), kTitleSize};
@@ -78,6 +90,9 @@ SheetWidget::SheetWidget(int index, const FontMetrics& metrics, QWidget* desk)
 void SheetWidget::Show(const Sheet& sheet) {
     shown = &sheet;
     setAccessibleName(ToQString(sheet.title));
+    if (sheet.height > 0) {
+        setFixedHeight(qRound(sheet.height));
+    }
     Place();
     arrow->move(qRound(sheet.arrowLeft), qRound(sheet.arrowTop));
     arrow->setVisible(sheet.arrowVisible);
@@ -91,7 +106,8 @@ void SheetWidget::Show(const Sheet& sheet) {
 }
 
 SheetWidget::DrawingState SheetWidget::StateOf(const Sheet& sheet) {
-    return {sheet.newSheets, sheet.surface.Clearings(), sheet.surface.Marks().size(), sheet.title};
+    return {sheet.newSheets, sheet.surface.Clearings(), sheet.surface.Marks().size(), sheet.height,
+            sheet.title};
 }
 
 void SheetWidget::Place() {
@@ -128,11 +144,14 @@ void SheetWidget::TellChange() {
 
 QPixmap SheetWidget::Painted() const {
     const qreal ratio = devicePixelRatioF();
-    QPixmap picture = Artwork(QStringLiteral("paper"), kPaperSize, ratio);
+    QPixmap picture(size() * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    PaintPaper(painter, height(), ratio);
     if (shown == nullptr) {
         return picture;
     }
-    QPainter painter(&picture);
     PaintTitle(painter, shown->title, metrics);
     PaintMarks(painter, shown->surface.Marks(), metrics,
                [ratio](QPainter& onto, const std::string& key, QPointF corner) {

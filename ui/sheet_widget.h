@@ -65,6 +65,7 @@ class SheetWidget : public QWidget {
         int newSheets = -1;
         int clearings = 0;
         std::size_t marks = 0;
+        double height = 0;
         std::string title;
 
         bool operator==(const DrawingState&) const = default;

@@ -38,10 +38,11 @@ bool WindowLearner::Confirm(std::string_view title, std::string_view text) {
            QMessageBox::Ok;
 }
 
-std::optional<std::string> WindowLearner::InputBox(std::string_view prompt) {
+std::optional<std::string> WindowLearner::InputBox(std::string_view title,
+                                                   std::string_view prompt) {
     const PointerGuard notBusy(Qt::ArrowCursor);
     bool answered = false;
-    const QString answer = QInputDialog::getText(window, TitleOf(""), ToQString(prompt),
+    const QString answer = QInputDialog::getText(window, TitleOf(title), ToQString(prompt),
                                                  QLineEdit::Normal, QString(), &answered);
     return answered ? std::optional(answer.toStdString()) : std::nullopt;
 }

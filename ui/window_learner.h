@@ -14,7 +14,7 @@ class WindowLearner : public Learner {
 
     void MessageBox(std::string_view title, std::string_view text) override;
     bool Confirm(std::string_view title, std::string_view text) override;
-    std::optional<std::string> InputBox(std::string_view prompt) override;
+    std::optional<std::string> InputBox(std::string_view title, std::string_view prompt) override;
 
   private:
     QPointer<QWidget> window;

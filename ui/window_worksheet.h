@@ -1,14 +1,14 @@
 #pragma once
 
+#include "app/column_worksheet.h"
 #include "ui/frm_explain.h"
-#include "worksheet/worksheet.h"
 
 namespace numerello {
 
 /// The worksheet of the window: what it asks of other windows reaches them.
-class WindowWorksheet : public Worksheet {
+class WindowWorksheet : public ColumnWorksheet {
   public:
-    using Worksheet::Worksheet;
+    using ColumnWorksheet::ColumnWorksheet;
 
     /// Must outlive all that is asked of the worksheet.
     void Attach(FrmExplain& form) { explanation = &form; }

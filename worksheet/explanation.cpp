@@ -35,8 +35,8 @@ class FirstMessage : public Learner {
     bool Confirm(std::string_view title, std::string_view question) override {
         return learner.Confirm(title, question);
     }
-    std::optional<std::string> InputBox(std::string_view prompt) override {
-        return learner.InputBox(prompt);
+    std::optional<std::string> InputBox(std::string_view title, std::string_view prompt) override {
+        return learner.InputBox(title, prompt);
     }
 
   private:

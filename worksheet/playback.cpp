@@ -26,17 +26,25 @@ constexpr MarkOffset kCheckOffset{5, 15};
 /// A mark further right would reach over the edge of the sheet.
 constexpr double kRightmostMark = 760;
 
+/// Divisions with the longest quotients need one row of paper more than a sheet has.
+constexpr double kBelowLowestText = 20;
+
+double LowestText(const Surface& surface) {
+    double lowest = 0;
+    for (const Mark& mark : surface.Marks()) {
+        if (const auto* const text = std::get_if<TextMark>(&mark)) {
+            lowest = std::max(lowest, text->y);
+        }
+    }
+    return lowest;
+}
+
 double MarkLeft(const Playback& playback, MarkOffset offset) {
     return std::min(playback.LineEndX + offset.right, kRightmostMark);
 }
 
 double MarkTop(const Playback& playback, MarkOffset offset) {
     return std::max(playback.LineEndY - offset.up, 0.0);
-}
-
-bool Any(const ColumnRequest& columns) {
-    return columns.ColumnAdd || columns.ColumnSubtract || columns.ColumnMultiply ||
-           columns.ColumnDivide;
 }
 
 }  // namespace
@@ -81,9 +89,12 @@ void Worksheet::ShowLastLine() {
     }
     FinishWork();
 
+    // An equation without a solution leaves nothing to draw.
     const int code = problem.topic.ProblemType;
-    if (code == kLinearEquation || code == kQuadrantOfPoint) {
-        problem.graph.GraphMode = code == kLinearEquation ? kEquationMode : kPointMode;
+    const bool equation =
+        code == kLinearEquation && !std::as_const(problem.typed).ExprVariants[0].empty();
+    if (equation || code == kQuadrantOfPoint) {
+        problem.graph.GraphMode = equation ? kEquationMode : kPointMode;
         OpenGraph();
     }
 }
@@ -122,7 +133,7 @@ void Worksheet::PlaceBlinker() {
     sheet.arrowLeft = MarkLeft(problem.playback, kArrowOffset);
     sheet.arrowTop = MarkTop(problem.playback, kArrowOffset);
     // A column problem that draws itself at once shows no arrow.
-    if (!Any(problem.columns) || problem.settings.mnuShowStep) {
+    if (!problem.columns.Any() || problem.settings.mnuShowStep) {
         sheet.arrowVisible = true;
         timer2Enabled = true;
         assistant.Notify();
@@ -142,19 +153,25 @@ void Worksheet::blinker_Click() {
         return;
     }
     ++problem.playback.ShownStep;
-    if (!Any(problem.columns)) {
+    if (!problem.columns.Any()) {
         ShowNextStep();
         return;
     }
+    Trapped(problem, learner, [this] { DrawColumns(); });
+    Changed();
+}
+
+void Worksheet::DrawColumns() {
     StepColumns();
-    if (Any(problem.columns)) {
+    stack.Lengthen(problem.playback.CurrentPage, LowestText(Current()) + kBelowLowestText);
+    if (problem.columns.Any()) {
         PlaceBlinker();
     }
 }
 
 void Worksheet::mnuShowStep_Click(bool ticked) {
     problem.settings.mnuShowStep = ticked;
-    problem.playback.ShowAllSteps = !ticked;
+    problem.playback.ShowAllSteps = ticked ? 0 : -1;
     if (!ArrowVisible()) {
         return;
     }

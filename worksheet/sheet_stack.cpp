@@ -10,6 +10,7 @@ namespace numerello {
 
 namespace {
 
+constexpr double kRuling = 46;
 constexpr double kFanStep = 25;
 constexpr double kFontSize = 12;
 
@@ -60,6 +61,13 @@ void SheetStack::Turn(int page) {
     order.push_back(page + 1);
 }
 
+void SheetStack::Lengthen(int index, double bottom) {
+    Sheet& sheet = (*this)[index];
+    while (sheet.height < bottom) {
+        sheet.height += kRuling;
+    }
+}
+
 void SheetStack::Raise(int index) {
     if (std::erase(order, index) > 0) {
         order.push_back(index);
@@ -76,6 +84,7 @@ void SheetStack::Blank(int last) {
     for (int i = 0; i <= last; ++i) {
         Sheet& sheet = (*this)[i];
         Replace(sheet);
+        sheet.height = std::min<double>(sheet.height, kHeight);
         sheet.visible = i == 0;
         sheet.arrowVisible = false;
     }

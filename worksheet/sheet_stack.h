@@ -49,6 +49,10 @@ class SheetStack {
     /// below it. An arrow does not stay behind on the sheet that was left.
     void Turn(int page);
 
+    /// Makes a sheet longer, by whole rows of its ruling, until it reaches down to this Y. It keeps
+    /// its length until it is blanked or turned to.
+    void Lengthen(int index, double bottom);
+
     /// Lays a sheet over all others. Nothing for a hidden one.
     void Raise(int index);
 

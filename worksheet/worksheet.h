@@ -74,6 +74,9 @@ class Worksheet : public Stage, public PaperSheets {
     /// check mark instead. With ShownStep 0 draws all lines at once, up to the check mark.
     void ShowNextStep() override;
 
+    /// Draws the next step of the column request, and the arrow behind it unless it was the last.
+    void DrawColumns() override;
+
     /// The learner clicked the arrow. Nothing when none is visible.
     void blinker_Click();
 

@@ -61,6 +61,21 @@ runs 0 solve --topic "Converting Feet To Yards" --problem 3 --answer x --set Use
 runs 0 solve --topic "Meter Conversions" --box 4=5 --list 1=1 --list 1=0 --list 2=0
 prints "5 mm = 5 mm"
 
+runs 0 solve --topic "Addition" --box 1=47 --box 2=38
+prints " 2. Add 7 and 8 (15) ."
+prints "    + 3 8"
+prints "    -------"
+prints "      8 5"
+runs 0 solve --topic "Division" --box 1=7 --box 2=95
+tells "The numbers will be switched"
+prints "    7 )9 5"
+runs 0 solve --topic "Addition" --box 1=47 --box 2=38 --json
+prints '"lines":[]'
+runs 1 solve --topic "Division" --box 1=9999999999 --box 2=3
+tells "Overflow!"
+runs 1 solve --topic "Addition" --box 1=47
+tells "not entered completely"
+
 runs 2 solve --topic "Converting Inches To Parsecs" --problem 40
 tells "unknown topic"
 runs 2 solve --problem 40
@@ -70,8 +85,6 @@ runs 2 solve --topic "Meter Conversions" --list 1
 runs 2 solve --topic "Meter Conversions" --list 1=9
 runs 2 solve --topic "Meter Conversions" --set RoundDigits=9
 runs 2 solve --topic "Meter Conversions" --set Colour=1
-runs 2 solve --topic "Arithmetic" --problem 4+2
-tells "not built yet"
 runs 2
 runs 2 dance
 runs 2 solve --nonsense

@@ -136,9 +136,6 @@ TEST(RequestErrors, WrongTypesAndRanges) {
 
 TEST(RequestErrors, WhatIsNotBuiltYetSaysSo) {
     for (const char* request : {
-             R"({"do":"solve","topic":"Arithmetic","problem":"4+2"})",
-             R"({"do":"solve","topic":"Addition","boxes":["1","2"]})",
-             R"({"do":"columns","code":200})",
              R"({"do":"example","code":53})",
              R"({"do":"practice-test","rows":[]})",
              R"({"do":"graph","code":108})",

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "app/solvers.h"
 #include "tests/cli/ask.h"
 
 namespace numerello {
@@ -27,6 +28,14 @@ TEST(SolveRequest, AnswersEveryFieldInItsOrder) {
         {"drawing", Json::array()},
         {"graph", nullptr}};
     EXPECT_EQ(answer.dump(), expected.dump());
+}
+
+TEST(SolveRequest, EveryTopicHasItsSolver) {
+    const Json answer = Ask(R"({"do":"topics"})");
+    ASSERT_EQ(answer.at("topics").size(), 105U);
+    for (const Json& topic : answer.at("topics")) {
+        EXPECT_NE(AllSolvers().Find(topic.at("code").get<int>()), nullptr) << topic.dump();
+    }
 }
 
 TEST(SolveRequest, ACodeIsAsGoodAsACaption) {

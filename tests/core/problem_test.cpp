@@ -18,8 +18,6 @@ TEST(ResetProblem, LeavesNothingTyped) {
     CollectVariables(problem.typed);
     problem.typed.ExprCells[4] = "3";
     problem.typed.ExprCellCount = 4;
-    problem.typed.ExprTokens[1] = "+";
-    problem.typed.TokenCount = 2;
     problem.typed.ExprVariants[0] = "x";
     problem.input.EqualsTyped = problem.input.InExponent = problem.input.InFraction = true;
     problem.input.RootOpen = problem.input.AbsOpen = true;
@@ -34,11 +32,9 @@ TEST(ResetProblem, LeavesNothingTyped) {
     const TypedProblem& typed = problem.typed;
     EXPECT_EQ(typed.ExprChars[0], "");
     EXPECT_EQ(typed.ExprCells[4], "");
-    EXPECT_EQ(typed.ExprTokens[1], "");
     EXPECT_EQ(typed.ExprVariants[0], "");
     EXPECT_EQ(typed.ExprCharCount, 0);
     EXPECT_EQ(typed.ExprCellCount, 0);
-    EXPECT_EQ(typed.TokenCount, 0);
     EXPECT_EQ(typed.VarCount, 0);
     EXPECT_EQ(typed.VarNames[1], "");
     EXPECT_EQ(typed.VarNames[2], "");
@@ -93,15 +89,6 @@ TEST(ResetProblem, ForgetsTheLastRecordedLineWithTheSteps) {
     EXPECT_EQ(problem.log.LastStepLine, "");
     EXPECT_EQ(problem.log.StepReason, "");
     EXPECT_FALSE(problem.log.StepUnchanged);
-}
-
-TEST(ResetProblem, ClearsASideLeftAtOne) {
-    Problem problem;
-    problem.engine.Side = 1;
-    problem.engine.Depth = 3;
-    ResetProblem(problem, true);
-    EXPECT_EQ(problem.engine.Side, 0);
-    EXPECT_EQ(problem.engine.Depth, 0);
 }
 
 TEST(ResetProblem, KeepsTheTopicAndTheSettings) {

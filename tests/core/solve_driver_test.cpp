@@ -24,7 +24,9 @@ class RecordingLearner : public Learner {
         messages.emplace_back(title, text);
         return agrees;
     }
-    std::optional<std::string> InputBox(std::string_view) override { return std::nullopt; }
+    std::optional<std::string> InputBox(std::string_view, std::string_view) override {
+        return std::nullopt;
+    }
 };
 
 class RecordingStage : public Stage {
@@ -45,6 +47,7 @@ class RecordingStage : public Stage {
             throw Failure(FailureKind::Overflow);
         }
     }
+    void DrawColumns() override { calls.emplace_back("DrawColumns"); }
     void BlankSheets() override {
         calls.emplace_back("BlankSheets");
         blankedPage = problem.playback.CurrentPage;
@@ -91,6 +94,7 @@ constexpr SolverRow kRows[] = {
     {59, [](SolveRun&) { throw std::out_of_range("a mistake of ours"); }},
     {60, [](SolveRun& run) { run.problem.log.Write("5", ""); }},
     {61, [](SolveRun&) {}},
+    {200, [](SolveRun& run) { run.problem.columns.ColumnAdd = true; }},
     {91, RecordFiveLines},
 };
 
@@ -128,6 +132,36 @@ TEST_F(Compute, FillsTheLogAndShowsItsFirstLine) {
     EXPECT_TRUE(learner.messages.empty());
 }
 
+TEST_F(Compute, AColumnRequestIsDrawnInPlaceOfLines) {
+    EXPECT_EQ(Solve(200), std::nullopt);
+    EXPECT_EQ(stage.calls, (std::vector<std::string>{"CloseGraph", "DrawColumns"}));
+    EXPECT_TRUE(problem.columns.ColumnAdd);
+    EXPECT_EQ(problem.playback.ShownStep, 2);
+}
+
+TEST_F(Compute, ALaterPartOfASolveFailsLikeTheSolve) {
+    problem.topic.InstructionText = "Enter a number.";
+    problem.columns.ColumnAdd = true;
+    problem.playback.ShownStep = 5;
+    problem.log.StepNote[0] = "Add 4 and 5 (9).";
+    EXPECT_EQ(Trapped(problem, learner, [] { throw Failure(FailureKind::Overflow); }),
+              FailureKind::Overflow);
+    ASSERT_EQ(learner.messages.size(), 1U);
+    EXPECT_EQ(learner.messages[0].first, "Overflow!");
+    EXPECT_FALSE(problem.columns.Any());
+    EXPECT_EQ(problem.playback.ShownStep, 0);
+    EXPECT_EQ(problem.log.StepNote[0], "Enter a number.");
+}
+
+TEST_F(Compute, ALaterPartThatSucceedsChangesNothing) {
+    bool ran = false;
+    problem.columns.ColumnAdd = true;
+    EXPECT_EQ(Trapped(problem, learner, [&ran] { ran = true; }), std::nullopt);
+    EXPECT_TRUE(ran);
+    EXPECT_TRUE(problem.columns.ColumnAdd);
+    EXPECT_TRUE(learner.messages.empty());
+}
+
 TEST_F(Compute, LocksSolveAndTypingAndOpensPrintAndSave) {
     problem.controls.Light = EntryControls::LightPicture::Incorrect;
     problem.controls.LightToolTip = "Incorrect input.";
@@ -159,14 +193,14 @@ TEST_F(Compute, PlaysStepByStepWhenTicked) {
     problem.settings.mnuShowStep = true;
     Solve();
     EXPECT_EQ(problem.playback.ShownStep, 2);
-    EXPECT_FALSE(problem.playback.ShowAllSteps);
+    EXPECT_EQ(problem.playback.ShowAllSteps, 0);
 }
 
 TEST_F(Compute, ShowsAllAtOnceWhenUnticked) {
     problem.settings.mnuShowStep = false;
     Solve();
     EXPECT_EQ(problem.playback.ShownStep, 0);
-    EXPECT_TRUE(problem.playback.ShowAllSteps);
+    EXPECT_EQ(problem.playback.ShowAllSteps, -1);
 }
 
 TEST_F(Compute, ThinsARecordedLogBeforeItIsShown) {

@@ -27,7 +27,9 @@ class SilentLearner : public Learner {
   public:
     void MessageBox(std::string_view, std::string_view) override {}
     bool Confirm(std::string_view, std::string_view) override { return true; }
-    std::optional<std::string> InputBox(std::string_view) override { return std::nullopt; }
+    std::optional<std::string> InputBox(std::string_view, std::string_view) override {
+        return std::nullopt;
+    }
 };
 
 /// A problem of the code with the text on its line, boxes and lists as the form opens them.

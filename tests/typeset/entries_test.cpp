@@ -17,7 +17,7 @@ class MessageCounter : public Learner {
         lastText = text;
     }
     bool Confirm(std::string_view /*title*/, std::string_view /*text*/) override { return false; }
-    std::optional<std::string> InputBox(std::string_view /*prompt*/) override { return {}; }
+    std::optional<std::string> InputBox(std::string_view, std::string_view) override { return {}; }
 
     int count = 0;
     std::string lastText;

@@ -80,7 +80,9 @@ std::vector<TextMark> ExplainedQuotes(std::string_view text) {
             ADD_FAILURE() << message;
         }
         bool Confirm(std::string_view, std::string_view) override { return false; }
-        std::optional<std::string> InputBox(std::string_view) override { return {}; }
+        std::optional<std::string> InputBox(std::string_view, std::string_view) override {
+            return {};
+        }
     } silence;
     const PlainMetrics metrics;
     Surface window(metrics, {"Book Antiqua", 12});

@@ -88,7 +88,9 @@ class RecordingLearner : public Learner {
         messages.emplace_back(text);
     }
     bool Confirm(std::string_view, std::string_view) override { return agrees; }
-    std::optional<std::string> InputBox(std::string_view) override { return std::nullopt; }
+    std::optional<std::string> InputBox(std::string_view, std::string_view) override {
+        return std::nullopt;
+    }
 };
 
 /// A worksheet that writes down what it asks of others.

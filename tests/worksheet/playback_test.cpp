@@ -155,12 +155,22 @@ struct GraphCase {
 
 class GraphPlaybackTest : public Desk, public testing::WithParamInterface<GraphCase> {};
 
+TEST_F(PlaybackTest, AnEquationWithoutASolutionOpensNoGraph) {
+    Choose(105);
+    SolveInLines<3>();
+    sheet.calls.clear();
+    sheet.blinker_Click();
+    EXPECT_EQ(sheet.calls, (std::vector<std::string>{"RestorePointer", "ClearExpression"}));
+    EXPECT_EQ(problem.graph.GraphMode, 0);
+}
+
 TEST_P(GraphPlaybackTest, TheGraphOpensAfterTheLastLine) {
     Choose(GetParam().code);
     SolveInLines<3>();
     EXPECT_EQ(sheet.calls, (std::vector<std::string>{"RestorePointer", "ClearExpression"}));
     EXPECT_EQ(problem.graph.GraphMode, 0);
 
+    problem.typed.ExprVariants[0] = "+";
     sheet.calls.clear();
     sheet.blinker_Click();
     EXPECT_EQ(sheet.calls,

@@ -5,6 +5,8 @@
 namespace numerello {
 namespace {
 
+using Rows = std::vector<std::string>;
+
 class SheetRowsTest : public testing::Test {
   protected:
     void PrintAt(double x, double y, const char* text) {
@@ -24,8 +26,8 @@ TEST_F(SheetRowsTest, AreTheLinesWhereThereAreSome) {
     EXPECT_EQ(SheetRows(sheet), sheet.lines);
 }
 
-TEST_F(SheetRowsTest, AreWhatStandsSideBySideInColumns) {
-    EXPECT_TRUE(SheetRows(sheet).empty());
+TEST_F(SheetRowsTest, AreReadFromTheTopAndFromTheLeft) {
+    EXPECT_EQ(SheetRows(sheet), Rows());
     // 47 + 38 as it is drawn: the answer from the right, and the carry last.
     PrintAt(100, 300, "4");
     PrintAt(120, 300, "7");
@@ -36,7 +38,47 @@ TEST_F(SheetRowsTest, AreWhatStandsSideBySideInColumns) {
     PrintAt(120, 338.4, "5");
     PrintAt(100, 338.4, "8");
     PrintAt(99, 283.4, "1");
-    EXPECT_EQ(SheetRows(sheet), (std::vector<std::string>{"1", "47", "+38", "85"}));
+    EXPECT_EQ(SheetRows(sheet), (Rows{"1", "47", "+38", "85"}));
+}
+
+TEST_F(SheetRowsTest, HaveABlankWhereACellIsEmpty) {
+    PrintAt(80, 317.2, "+");
+    PrintAt(160, 317.2, "6");
+    PrintAt(140, 317.2, "5");
+    EXPECT_EQ(SheetRows(sheet), Rows{"+ 56"});
+}
+
+TEST_F(SheetRowsTest, SayOnceWhatWasDrawnTwice) {
+    for (int i = 0; i < 2; ++i) {
+        PrintAt(120, 314.333, "1");
+        PrintAt(140, 314.333, "2");
+    }
+    EXPECT_EQ(SheetRows(sheet), Rows{"12"});
+}
+
+TEST_F(SheetRowsTest, KeepACellOfSeveralDigitsApart) {
+    PrintAt(120, 283, "9");
+    PrintAt(140, 283, "13");
+    PrintAt(160, 283, "7");
+    // A remainder behind its letter is none of a number's cells.
+    PrintAt(120, 300, "4");
+    PrintAt(140, 300, "r");
+    PrintAt(160, 300, "12");
+    EXPECT_EQ(SheetRows(sheet), (Rows{"9 13 7", "4r12"}));
+}
+
+TEST_F(SheetRowsTest, TakeTheBracketOfADivisionIntoItsRow) {
+    PrintAt(80, 300, "7");
+    PrintAt(100, 297, ")");
+    PrintAt(114.196, 300, "9");
+    PrintAt(114.196, 280, "1");
+    EXPECT_EQ(SheetRows(sheet), (Rows{"1", "7 into 9"}));
+}
+
+TEST_F(SheetRowsTest, ReadTheCrossOfAProductAsItsSign) {
+    PrintAt(80, 317.2, "x");
+    PrintAt(100, 317.2, "4");
+    EXPECT_EQ(SheetRows(sheet), Rows{"*4"});
 }
 
 }  // namespace

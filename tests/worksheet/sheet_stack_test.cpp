@@ -64,6 +64,20 @@ TEST_F(SheetStackTest, ARaisedSheetComesToTheTop) {
     EXPECT_EQ(stack.Order(), (std::vector<int>{2, 0, 1})) << "a hidden sheet stays hidden";
 }
 
+TEST_F(SheetStackTest, ASheetGrowsByWholeRowsUntilItIsBlanked) {
+    EXPECT_EQ(stack[0].height, 657);
+    stack.Lengthen(0, 657);
+    EXPECT_EQ(stack[0].height, 657);
+    stack.Lengthen(0, 657.5);
+    EXPECT_EQ(stack[0].height, 703);
+    stack.Lengthen(0, 300);
+    EXPECT_EQ(stack[0].height, 703);
+    stack.Lengthen(0, 704);
+    EXPECT_EQ(stack[0].height, 749);
+    stack.Blank(0);
+    EXPECT_EQ(stack[0].height, 657);
+}
+
 TEST_F(SheetStackTest, TheTenthIsTheLast) {
     for (int page = 0; page < 9; ++page) {
         stack.Turn(page);

@@ -24,7 +24,7 @@ TEST_F(ShowStepTest, UntickedInTheWaitTheArrowFlashesOnAndItsClickEndsPlayback) 
     WaitAtLineFour();
     sheet.mnuShowStep_Click(false);
     EXPECT_EQ(ShownStep(), 0);
-    EXPECT_TRUE(problem.playback.ShowAllSteps);
+    EXPECT_EQ(problem.playback.ShowAllSteps, -1);
     EXPECT_FALSE(problem.settings.mnuShowStep);
     EXPECT_EQ(Note(), problem.topic.InstructionText);
     EXPECT_TRUE(sheet.ArrowVisible());
@@ -43,7 +43,7 @@ TEST_F(ShowStepTest, TickedAgainInTheWaitLineThreeIsDrawnOnceMore) {
     sheet.mnuShowStep_Click(false);
     sheet.mnuShowStep_Click(true);
     EXPECT_EQ(ShownStep(), 2);
-    EXPECT_FALSE(problem.playback.ShowAllSteps);
+    EXPECT_EQ(problem.playback.ShowAllSteps, 0);
     EXPECT_EQ(Note(), "reason 2");
 
     sheet.blinker_Click();
@@ -65,7 +65,7 @@ TEST_F(ShowStepTest, TickedAgainAfterTheArrowIsGoneNothingComesBack) {
     sheet.mnuShowStep_Click(true);
     EXPECT_FALSE(sheet.ArrowVisible());
     EXPECT_EQ(ShownStep(), 0);
-    EXPECT_FALSE(problem.playback.ShowAllSteps);
+    EXPECT_EQ(problem.playback.ShowAllSteps, 0);
     EXPECT_TRUE(problem.settings.mnuShowStep);
 }
 
@@ -84,10 +84,10 @@ TEST_F(ShowStepTest, BesideAFinishedSheetTheNoteStays) {
     sheet.mnuShowStep_Click(false);
     EXPECT_EQ(ShownStep(), 3);
     EXPECT_EQ(Note(), "reason 3");
-    EXPECT_TRUE(problem.playback.ShowAllSteps);
+    EXPECT_EQ(problem.playback.ShowAllSteps, -1);
     sheet.mnuShowStep_Click(true);
     EXPECT_EQ(ShownStep(), 3);
-    EXPECT_FALSE(problem.playback.ShowAllSteps);
+    EXPECT_EQ(problem.playback.ShowAllSteps, 0);
 }
 
 TEST_F(ShowStepTest, WhileTypingOnlyTheNextSolveIsChanged) {

@@ -1,6 +1,6 @@
 #pragma once
 
-/// The codes of topics that the rules of typing single out.
+/// The codes of topics that are typed or worked unlike others.
 namespace numerello {
 
 inline constexpr int kRanges = 59;
@@ -9,8 +9,10 @@ inline constexpr int kRegularToScientific = 65;
 inline constexpr int kFractionToPercent = 72;
 inline constexpr int kMixedToFraction = 74;
 inline constexpr int kFractionToMixed = 75;
+inline constexpr int kFractionArithmetic = 76;  ///< a "/" behind a fraction divides it
 inline constexpr int kRatios = 78;
 inline constexpr int kSimplifyingFractions = 80;
+inline constexpr int kCalculatingRoots = 82;
 inline constexpr int kGreatestCommonFactors = 87;
 inline constexpr int kLeastCommonMultiples = 88;
 inline constexpr int kComparingValues = 90;

@@ -1,7 +1,9 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QMouseEvent>
 #include <QPixmap>
+#include <QTimer>
 
 #include "catalogue/chooser.h"
 #include "ui/font_metrics.h"
@@ -23,10 +25,17 @@ class OpenSheet {
         paper->Form_KeyPress(keys);
     }
 
-    void Restart() {
+    void Restart(const char* keys = "40") {
         EraseProblem(problem, noStage);
-        paper->Form_KeyPress("40");
+        paper->Form_KeyPress(keys);
         paper->compute_Click();
+    }
+
+    void PlayAll() {
+        Restart("83160");
+        while (problem.playback.ShownStep < problem.log.StepCount - 1) {
+            paper->NextStep();
+        }
     }
 
     void RestartProduct() {
@@ -103,6 +112,61 @@ void KeyPaintedBehindAFullLine(benchmark::State& state) {
     }
 }
 BENCHMARK(KeyPaintedBehindAFullLine)->Unit(benchmark::kMillisecond);
+
+/// A solution on six sheets, and one of them dragged by a pixel until all is painted anew.
+void SheetDraggedOverOthers(benchmark::State& state) {
+    OpenSheet sheet("Factoring", "83160");
+    sheet.PlayAll();
+    auto* paper = sheet.Paper().findChild<QWidget*>(QStringLiteral("Paper4"));
+    const auto send = [paper](QEvent::Type type, int x) {
+        const QPointF place(x, 600);
+        const bool moves = type == QEvent::MouseMove;
+        QMouseEvent event(type, place, paper->mapToGlobal(place),
+                          moves ? Qt::NoButton : Qt::LeftButton, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(paper, &event);
+    };
+    send(QEvent::MouseButtonPress, 400);
+    int way = 1;
+    for (auto _ : state) {
+        send(QEvent::MouseMove, 400 + way);
+        way = -way;
+        benchmark::DoNotOptimize(sheet.Paper().grab());
+    }
+}
+BENCHMARK(SheetDraggedOverOthers)->Unit(benchmark::kMillisecond);
+
+/// The last line of 83160's factors, three rows and more, until its sheet is painted anew.
+void LongLinePainted(benchmark::State& state) {
+    OpenSheet sheet("Factoring", "83160");
+    for (auto _ : state) {
+        state.PauseTiming();
+        sheet.Restart("83160");
+        while (sheet.Now().playback.ShownStep < sheet.Now().log.StepCount - 2) {
+            sheet.Paper().NextStep();
+        }
+        sheet.Paper().grab();
+        state.ResumeTiming();
+        sheet.Paper().NextStep();
+        benchmark::DoNotOptimize(sheet.Paper().grab());
+    }
+}
+BENCHMARK(LongLinePainted)->Unit(benchmark::kMillisecond)->Iterations(20);
+
+/// One tick of the figure's growth, from a tenth to full size, painted.
+void FigureGrown(benchmark::State& state) {
+    OpenSheet sheet;
+    for (auto _ : state) {
+        state.PauseTiming();
+        sheet.Paper().ShowWiz(true);
+        state.ResumeTiming();
+        auto* timer = sheet.Paper().findChild<QTimer*>(QStringLiteral("wizIn"));
+        while (timer->isActive()) {
+            QMetaObject::invokeMethod(timer, "timeout");
+            benchmark::DoNotOptimize(sheet.Paper().grab());
+        }
+    }
+}
+BENCHMARK(FigureGrown)->Unit(benchmark::kMillisecond)->Iterations(20);
 
 }  // namespace
 }  // namespace numerello

@@ -36,6 +36,7 @@ void Surface::PaintPicture(std::string_view key, double x, double y) {
 
 void Surface::Cls() {
     marks.clear();
+    ++clearings;
     pageStarts.assign(1, 0);
     CurrentX = 0;
     CurrentY = 0;

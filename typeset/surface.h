@@ -77,6 +77,9 @@ class Surface {
     /// Removes all marks and pages and puts the pen at (0, 0); font, colour and width stay.
     void Cls();
 
+    /// How often it was cleared. Between two clearings marks are only added.
+    int Clearings() const { return clearings; }
+
     /// Ends the page, for a surface that is printed: what follows is a page of its own. The pen
     /// goes to (0, 0); font, colour and width stay.
     void NewPage();
@@ -95,6 +98,7 @@ class Surface {
     const TextMetrics* metrics;
     Font font;
     std::vector<Mark> marks;
+    int clearings = 0;
     std::vector<std::size_t> pageStarts{0};  ///< index of each page's first mark
 };
 

@@ -12,15 +12,17 @@ namespace {
 
 constexpr QSize kTile(512, 512);
 
+}  // namespace
+
 void PaintShadow(QPainter& painter, const QRect& sheet) {
     constexpr int kDepth = 6;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(70, 45, 15, 14));
     for (int i = 1; i <= kDepth; ++i) {
         painter.drawRoundedRect(QRectF(sheet).adjusted(-i + 2, -i + 4, i + 1, i + 2), i, i);
     }
 }
-
-}  // namespace
 
 Desk::Desk(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("desk"));
@@ -31,8 +33,6 @@ void Desk::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     const QPixmap tile = Artwork(QStringLiteral("desk"), kTile, devicePixelRatioF());
     painter.drawTiledPixmap(event->rect(), tile, event->rect().topLeft());
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
     for (const QObject* child : children()) {
         const auto* sheet = qobject_cast<const SheetWidget*>(child);
         if (sheet != nullptr && sheet->isVisible()) {

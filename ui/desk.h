@@ -1,10 +1,11 @@
 #pragma once
 
+#include <QPainter>
 #include <QWidget>
 
 namespace numerello {
 
-/// The wooden top that everything lies on, with a soft shadow under each sheet.
+/// The wooden top that everything lies on, with a soft shadow of each sheet.
 class Desk : public QWidget {
     Q_OBJECT
 
@@ -14,5 +15,8 @@ class Desk : public QWidget {
   protected:
     void paintEvent(QPaintEvent* event) override;
 };
+
+/// The soft shadow that a sheet at this place throws on what lies below it.
+void PaintShadow(QPainter& painter, const QRect& sheet);
 
 }  // namespace numerello

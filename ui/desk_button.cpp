@@ -1,5 +1,6 @@
 #include "ui/desk_button.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 
 namespace numerello {
@@ -16,6 +17,29 @@ void DeskButton::keyPressEvent(QKeyEvent* event) {
             return;
         default:
             QAbstractButton::keyPressEvent(event);
+    }
+}
+
+void DeskButton::PaintFocus(QPainter& painter, qreal radius) const {
+    if (hasFocus()) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(QColor(0x3F, 0x8F, 0xD2), 2));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius, radius);
+    }
+}
+
+void MenuButton::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::RightButton && rect().contains(event->position().toPoint())) {
+        emit MenuAsked(event->globalPosition().toPoint());
+        return;
+    }
+    DeskButton::mouseReleaseEvent(event);
+}
+
+void MenuButton::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        emit MenuAsked(event->globalPos());
     }
 }
 

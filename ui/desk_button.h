@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractButton>
+#include <QPainter>
 
 namespace numerello {
 
@@ -12,6 +13,25 @@ class DeskButton : public QAbstractButton {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+
+    /// Rings the button while keys go to it; its corners have this radius.
+    void PaintFocus(QPainter& painter, qreal radius) const;
+};
+
+/// One with a pop-up.
+class MenuButton : public DeskButton {
+    Q_OBJECT
+
+  public:
+    using DeskButton::DeskButton;
+
+  signals:
+    /// The right button or the menu key asks for the pop-up, at this place of the screen.
+    void MenuAsked(QPoint place);
+
+  protected:
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 };
 
 }  // namespace numerello

@@ -87,6 +87,10 @@ void EntryForm::MakePicture() {
     }
 }
 
+QRect EntryForm::PicturePlace() const {
+    return layout == nullptr || layout->picture.empty() ? QRect() : ToQRect(kPictureBox);
+}
+
 void EntryForm::MakeBox(const EntryBoxLayout& box) {
     auto* made = new EntryBox(box.number, problem, sheet);
     made->setAccessibleName(ToQString(box.name));

@@ -25,6 +25,9 @@ class EntryForm : public QObject {
     /// The first box; null where the sheet itself takes the keys.
     QWidget* FirstBox() const { return boxes.empty() ? nullptr : boxes.front(); }
 
+    /// Where the picture is on the sheet; empty where there is none.
+    QRect PicturePlace() const;
+
   signals:
     /// The learner changed what `field` holds.
     void Changed(QWidget* field);

@@ -95,7 +95,7 @@ FrmExplain::FrmExplain(const Problem& problem, Learner& learner, QWidget* form)
 void FrmExplain::Open(const Sheet& current, const QWidget& desk, const QRect& arrow) {
     hide();
     model.ShowExplanation();
-    setAccessibleDescription(ToQString(model.Text()));
+    setAccessibleDescription(ToQString(model.SpokenText()));
     const QRect screen = desk.screen()->availableGeometry();
     FitText(screen);
 

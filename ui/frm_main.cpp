@@ -89,6 +89,8 @@ struct PopUp {
 };
 
 constexpr std::array kPopUps{
+    PopUp{"mnuHidden", "mnuHide", "&Hide", "mnuHideWiz", false},
+    PopUp{"mnuHidden", "mnuHideOptions", "&Options...", "mnuChange", false},
     PopUp{"mnuHidden2", "mnuUsePencil", "Use &Pencil", "mnuPencil", true},
     PopUp{"mnuHidden3", "mnuHideLight", "&Hide Guided Input Light", "mnuShowLight", false},
 };
@@ -158,6 +160,7 @@ FrmMain::FrmMain() {
     MakeToolbar();
 
     Command("mnuShowStep")->setChecked(problem.settings.mnuShowStep);
+    Command("mnuHideWiz")->setChecked(true);
     Command("mnuShowLight")->setChecked(true);
     Command("mnuPencil")->setChecked(true);
     OnTrigger("mnuNew", &FrmMain::mnuNew_Click);
@@ -165,6 +168,7 @@ FrmMain::FrmMain() {
     OnTrigger("mnuErase", &FrmMain::mnuErase_Click);
     OnTrigger("mnuExp", &FrmMain::mnuExp_Click);
     OnTrigger("mnuShowStep", &FrmMain::mnuShowStep_Click);
+    OnTrigger("mnuHideWiz", &FrmMain::mnuHideWiz_Click);
     OnTrigger("mnuShowLight", &FrmMain::mnuShowLight_Click);
     OnTrigger("mnuPencil", &FrmMain::mnuPencil_Click);
     OnTrigger("mnuConvertDF", &FrmMain::mnuConvertDF_Click);
@@ -223,12 +227,16 @@ void FrmMain::MakeMenus() {
 /// The menus of the right button. Their entries stand for those of the menu bar.
 void FrmMain::MakePopUps() {
     for (const PopUp& row : kPopUps) {
-        auto* menu = new QMenu(this);
-        menu->setObjectName(QString::fromUtf8(row.menu));
+        auto* menu = findChild<QMenu*>(QLatin1String(row.menu));
+        if (menu == nullptr) {
+            menu = new QMenu(this);
+            menu->setObjectName(QString::fromUtf8(row.menu));
+        }
         QAction* action = menu->addAction(QString::fromUtf8(row.caption));
         action->setObjectName(QString::fromUtf8(row.name));
         QAction* command = Command(row.command);
         connect(action, &QAction::triggered, command, &QAction::trigger);
+        connect(command, &QAction::enabledChanged, action, &QAction::setEnabled);
         if (row.ticks) {
             action->setCheckable(true);
             connect(command, &QAction::toggled, action, &QAction::setChecked);
@@ -308,15 +316,21 @@ void FrmMain::LoadPaper() {
             [this](QPoint place) { PopUpMenu("mnuHidden2", place); });
     connect(paper, &FrmPaper::LightMenuAsked, this,
             [this](QPoint place) { PopUpMenu("mnuHidden3", place); });
+    connect(paper, &FrmPaper::WizMenuAsked, this,
+            [this](QPoint place) { PopUpMenu("mnuHidden", place); });
+    if (Command("mnuHideWiz")->isChecked()) {
+        paper->ShowWiz(true);
+    }
     paper->setFocus();
     UpdateCommands();
 }
 
 void FrmMain::UpdateCommands() {
     const bool open = paper != nullptr;
-    QSet<QString> enabled{QStringLiteral("mnuNew"),      QStringLiteral("mnuConvertDF"),
-                          QStringLiteral("mnuShowStep"), QStringLiteral("mnuShowLight"),
-                          QStringLiteral("mnuPencil"),   QStringLiteral("mnuExit")};
+    QSet<QString> enabled{QStringLiteral("mnuNew"),       QStringLiteral("mnuConvertDF"),
+                          QStringLiteral("mnuShowStep"),  QStringLiteral("mnuHideWiz"),
+                          QStringLiteral("mnuShowLight"), QStringLiteral("mnuPencil"),
+                          QStringLiteral("mnuExit")};
     if (open) {
         enabled.insert(QStringLiteral("mnuErase"));
         enabled.insert(QStringLiteral("mnuExp"));
@@ -359,6 +373,12 @@ void FrmMain::mnuShowStep_Click() {
     problem.settings.mnuShowStep = ticked;
     if (paper != nullptr) {
         paper->mnuShowStep_Click(ticked);
+    }
+}
+
+void FrmMain::mnuHideWiz_Click() {
+    if (paper != nullptr) {
+        paper->ShowWiz(Command("mnuHideWiz")->isChecked());
     }
 }
 

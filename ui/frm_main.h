@@ -44,6 +44,7 @@ class FrmMain : public QMainWindow {
     void mnuErase_Click();
     void mnuExp_Click();
     void mnuShowStep_Click();
+    void mnuHideWiz_Click();
     void mnuShowLight_Click();
     void mnuPencil_Click();
     void mnuConvertDF_Click();

@@ -7,11 +7,13 @@
 #include "app/solvers.h"
 #include "catalogue/guided_input.h"
 #include "core/text.h"
-#include "ui/artwork.h"
+#include "ui/accessible_sheet.h"
 #include "ui/desk.h"
+#include "ui/motion.h"
 #include "ui/pointer.h"
 #include "ui/text.h"
-#include "worksheet/drawn_rows.h"
+#include "worksheet/shown_note.h"
+#include "worksheet/spoken_line.h"
 
 namespace numerello {
 
@@ -20,7 +22,6 @@ namespace {
 constexpr std::chrono::milliseconds kFlash(400);
 constexpr double kTypedLineLimit = 730;
 
-constexpr int kSheetWidth = 800;
 constexpr int kLightTop = 24;
 constexpr int kLightMargin = 8;
 constexpr int kAroundField = 16;
@@ -68,8 +69,7 @@ FrmPaper::FrmPaper(Problem& problem, WindowLearner& learner, QWidget* parent)
     timer2.setInterval(kFlash);
     connect(&timer2, &QTimer::timeout, this, [this] {
         worksheet.Timer2_Timer();
-        papers[static_cast<std::size_t>(this->problem.playback.CurrentPage)]->Arrow().SetFrame(
-            worksheet.ArrowFrame());
+        CurrentArrow().SetFrame(worksheet.ArrowFrame());
     });
 
     worksheet.Open(viewport()->width());
@@ -77,44 +77,53 @@ FrmPaper::FrmPaper(Problem& problem, WindowLearner& learner, QWidget* parent)
     MakeEntry();
     // Behind the entry, and so behind it for the Tab key.
     MakeLight();
+    MakeWizard();
     Refresh();
 }
 
 void FrmPaper::MakeDesk() {
     desk = new Desk;
     setWidget(desk);
-    for (int i = 0; i < Worksheet::kSheetCount; ++i) {
-        auto* paper = new SheetWidget(i, metrics, desk);
-        papers[static_cast<std::size_t>(i)] = paper;
-        connect(&paper->Arrow(), &QAbstractButton::clicked, this, &FrmPaper::NextStep);
-    }
+    TellSheets();
+    pile = new SheetPile(worksheet, metrics, desk);
+    connect(pile, &SheetPile::NextStepAsked, this, &FrmPaper::NextStep);
+    connect(pile, &SheetPile::Changed, this, &FrmPaper::Refresh);
+    connect(pile, &SheetPile::Dragged, this, &FrmPaper::FollowSheets);
+    connect(pile, &SheetPile::Released, this, &FrmPaper::ReleaseSheet);
     pencil = new WritingPencil(problem, worksheet, desk);
     explanation = new FrmExplain(problem, learner, this);
     worksheet.Attach(*explanation);
 }
 
 void FrmPaper::MakeEntry() {
-    entry = new EntryForm(problem, papers[0]);
+    entry = new EntryForm(problem, &pile->At(0));
     connect(entry, &EntryForm::Changed, this, [this](QWidget* field) {
         Refresh();
         const QRect place(field->mapTo(desk, QPoint()), field->size());
         ensureVisible(place.left(), place.center().y(), kAroundField, kAroundField);
         ensureVisible(place.right(), place.center().y(), kAroundField, kAroundField);
     });
+    pile->SetPicture(entry->PicturePlace());
     if (entry->FirstBox() != nullptr) {
         setFocusProxy(entry->FirstBox());
     }
 }
 
 void FrmPaper::MakeLight() {
-    light = new LightButton(desk);
-    connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, &FrmPaper::PlaceLight);
-    connect(light, &LightButton::MenuAsked, this, &FrmPaper::LightMenuAsked);
+    // In the view and not on the desk: it stays in sight, and above all sheets.
+    light = new LightButton(viewport());
+    connect(light, &MenuButton::MenuAsked, this, &FrmPaper::LightMenuAsked);
     connect(light, &QAbstractButton::clicked, this, [this] {
         if (explanation->Model().Light_Click()) {
             OpenExplanation();
         }
     });
+}
+
+void FrmPaper::MakeWizard() {
+    wizard = new WizardFigure(worksheet.TheAssistant(), viewport());
+    connect(wizard, &WizardFigure::ExplanationAsked, this, &FrmPaper::mnuExp_Click);
+    connect(wizard, &WizardFigure::MenuAsked, this, &FrmPaper::WizMenuAsked);
 }
 
 void FrmPaper::compute_Click() {
@@ -145,7 +154,13 @@ void FrmPaper::clear_Click() {
 void FrmPaper::NextStep() {
     worksheet.CloseExplanation();
     worksheet.blinker_Click();
+    // A sheet that was brought to the front would hide what is written now.
+    worksheet.RaiseCurrentSheet();
     ShowStep();
+}
+
+ArrowButton& FrmPaper::CurrentArrow() {
+    return pile->At(problem.playback.CurrentPage).Arrow();
 }
 
 void FrmPaper::ShowStep() {
@@ -153,7 +168,7 @@ void FrmPaper::ShowStep() {
     ScrollToLineEnd();
     // The boxes are locked by now, so the arrow takes the keys.
     if (worksheet.ArrowVisible() && !IsTypedOnLine(problem.topic.ProblemType)) {
-        papers[static_cast<std::size_t>(problem.playback.CurrentPage)]->Arrow().setFocus();
+        CurrentArrow().setFocus();
     }
 }
 
@@ -178,12 +193,23 @@ void FrmPaper::mnuExp_Click() {
 
 void FrmPaper::OpenExplanation() {
     worksheet.RaiseCurrentSheet();
+    worksheet.TheAssistant().StopNotice();
     Refresh();
     const int page = problem.playback.CurrentPage;
-    const ArrowButton& arrow = papers[static_cast<std::size_t>(page)]->Arrow();
+    const ArrowButton& arrow = CurrentArrow();
     const QRect waiting =
         arrow.isVisible() ? QRect(arrow.mapToGlobal(QPoint()), arrow.size()) : QRect();
     explanation->Open(worksheet.SheetAt(page), *desk, waiting);
+}
+
+void FrmPaper::ShowWiz(bool shown) {
+    wizard->Use(shown);
+}
+
+void FrmPaper::WizSettingsChanged() {
+    worksheet.TheAssistant().ChooseFigure();
+    worksheet.TheAssistant().ClickNotifyChanged();
+    wizard->Show(onScreen);
 }
 
 void FrmPaper::ShowLight(bool shown) {
@@ -236,6 +262,11 @@ void FrmPaper::keyPressEvent(QKeyEvent* event) {
         }
         return;
     }
+    const bool turnsPages = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown;
+    if (turnsPages && worksheet.StackingOrder().size() > 1) {
+        RaiseNeighbour(event->key() == Qt::Key_PageUp ? -1 : 1);
+        return;
+    }
     if (event->matches(QKeySequence::Paste)) {
         TypeText(PastedText());
         return;
@@ -246,6 +277,35 @@ void FrmPaper::keyPressEvent(QKeyEvent* event) {
         return;
     }
     TypeText(typed);
+}
+
+void FrmPaper::RaiseNeighbour(int direction) {
+    if (worksheet.RaiseNeighbour(direction)) {
+        Refresh();
+        const QRect place = pile->At(worksheet.StackingOrder().back()).geometry();
+        ensureVisible(place.right(), place.bottom(), 0, 0);
+        ensureVisible(place.left(), place.top(), 0, 0);
+    }
+}
+
+/// While the mouse drags: what lies on the sheet goes with it, the rest stays as it is.
+void FrmPaper::FollowSheets() {
+    pencil->Place();
+    desk->update();
+}
+
+void FrmPaper::ReleaseSheet(int index) {
+    const QPoint scrolled = Scrolled();
+    worksheet.Paper_MouseUp(
+        index,
+        {static_cast<double>(scrolled.x()), static_cast<double>(scrolled.y()),
+         static_cast<double>(viewport()->width()), static_cast<double>(viewport()->height())});
+    Refresh();
+}
+
+/// What of the desk lies left of the view and above it.
+QPoint FrmPaper::Scrolled() const {
+    return {horizontalScrollBar()->value(), verticalScrollBar()->value()};
 }
 
 void FrmPaper::mouseReleaseEvent(QMouseEvent* event) {
@@ -288,35 +348,16 @@ void FrmPaper::Refresh() {
 }
 
 void FrmPaper::ShowSheets() {
-    for (int i = 0; i < Worksheet::kSheetCount; ++i) {
-        SheetWidget* paper = papers[static_cast<std::size_t>(i)];
-        paper->Show(worksheet.SheetAt(i));
-        paper->Arrow().SetFrame(worksheet.ArrowFrame());
-    }
-    for (const int index : worksheet.StackingOrder()) {
-        papers[static_cast<std::size_t>(index)]->raise();
-        if (index == 0) {
-            pencil->Raise();
-        }
-    }
-    light->raise();
-    const bool refused = problem.controls.Light == EntryControls::LightPicture::Incorrect;
-    setAccessibleDescription(refused ? ToQString(problem.input.InputError) : SheetText());
+    pile->Show(*pencil);
+    const QString reason = Reason();
+    setAccessibleDescription(reason);
+    pile->Describe(reason);
 }
 
-/// What stands on the sheets, for those who hear it.
-QString FrmPaper::SheetText() const {
-    QString text = ToQString(problem.typed.ProblemText);
-    for (const std::string& line : worksheet.DrawnLines()) {
-        text += u'\n' + ToQString(line);
-    }
-    // A column problem has no lines, but rows of digits.
-    if (text.isEmpty()) {
-        for (const std::string& row : DrawnRows(worksheet.SheetAt(0).surface)) {
-            text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + ToQString(row);
-        }
-    }
-    return text;
+/// Why the last key was refused, else what the shown step was about: for those who hear the sheet.
+QString FrmPaper::Reason() const {
+    const bool refused = problem.controls.Light == EntryControls::LightPicture::Incorrect;
+    return ToQString(refused ? problem.input.InputError : SpokenLine(ShownNote(problem)));
 }
 
 /// The desk fills the view and reaches around all sheets.
@@ -325,30 +366,34 @@ void FrmPaper::FitDesk() {
     for (const int index : worksheet.StackingOrder()) {
         const Sheet& sheet = worksheet.SheetAt(index);
         size =
-            size.expandedTo({qRound(sheet.left) + kSheetWidth, qRound(sheet.top + sheet.height)});
+            size.expandedTo({qRound(sheet.left + sheet.width), qRound(sheet.top + sheet.height)});
     }
     desk->resize(size);
-    PlaceLight();
+    PlaceFigures();
 }
 
-/// Beside the sheet, else over its right edge where nothing is written, but never out of sight.
-void FrmPaper::PlaceLight() {
-    const int sheetLeft = qRound(worksheet.SheetAt(0).left);
-    const int figureLeft = std::min(sheetLeft + kSheetWidth + 16, viewport()->width() - 116);
-    const int lightLeft = figureLeft + (108 - LightButton::kSize.width()) / 2;
-    const int seen =
-        horizontalScrollBar()->value() + viewport()->width() - LightButton::kSize.width();
-    light->move(std::min(std::max(lightLeft, sheetLeft + kLightLeftOnSheet), seen - kLightMargin),
+/// Beside the sheet. In a narrow view the light stands over the sheet's right edge, where nothing
+/// is written, but never out of sight.
+void FrmPaper::PlaceFigures() {
+    const QSize view = viewport()->size();
+    const int sheetLeft = Worksheet::CentredLeft(view.width());
+    worksheet.TheAssistant().PlaceBeside(sheetLeft, view.width(), view.height());
+
+    const int lightLeft = Assistant::FirstLeft(sheetLeft, view.width()) +
+                          (Assistant::kWidth - LightButton::kSize.width()) / 2;
+    light->move(std::min(std::max(lightLeft, sheetLeft + kLightLeftOnSheet),
+                         view.width() - LightButton::kSize.width() - kLightMargin),
                 kLightTop);
 }
 
 void FrmPaper::KeepTimer() {
-    const bool flashing = worksheet.Timer2Enabled() && onScreen;
+    const bool flashing = worksheet.Timer2Enabled() && onScreen && MotionWanted();
     if (flashing && !timer2.isActive()) {
         timer2.start();
     } else if (!flashing) {
         timer2.stop();
     }
+    wizard->Show(onScreen);
 }
 
 }  // namespace numerello

@@ -1,18 +1,17 @@
 #pragma once
 
-#include <QLabel>
 #include <QScrollArea>
 #include <QTimer>
-#include <array>
 
 #include "core/problem.h"
 #include "ui/entry_form.h"
 #include "ui/font_metrics.h"
 #include "ui/frm_explain.h"
 #include "ui/light_button.h"
-#include "ui/sheet_widget.h"
+#include "ui/sheet_pile.h"
 #include "ui/window_learner.h"
 #include "ui/window_worksheet.h"
+#include "ui/wizard_figure.h"
 #include "ui/writing_pencil.h"
 
 namespace numerello {
@@ -42,6 +41,10 @@ class FrmPaper : public QScrollArea {
     /// Tells what the shown step was about; nothing where it has no note.
     void mnuExp_Click();
 
+    /// The Wiz grows in or shrinks out.
+    void ShowWiz(bool shown);
+    /// The settings may have chosen another figure, or turned its notice on or off.
+    void WizSettingsChanged();
     void ShowLight(bool shown);
     void UsePencil(bool used);
 
@@ -52,6 +55,7 @@ class FrmPaper : public QScrollArea {
     /// The right button asks for a pop-up, at this place of the screen.
     void PencilMenuAsked(QPoint place);
     void LightMenuAsked(QPoint place);
+    void WizMenuAsked(QPoint place);
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -64,26 +68,33 @@ class FrmPaper : public QScrollArea {
     void MakeDesk();
     void MakeEntry();
     void MakeLight();
+    void MakeWizard();
     void TypeText(const QString& text);
     void TypeKey(std::string_view key);
     void Refresh();
     void ShowStep();
     void ShowSheets();
+    void FollowSheets();
+    void ReleaseSheet(int index);
+    void RaiseNeighbour(int direction);
     void OpenExplanation();
+    ArrowButton& CurrentArrow();
     void FitDesk();
-    void PlaceLight();
+    void PlaceFigures();
+    QPoint Scrolled() const;
     void ScrollToLineEnd();
     void KeepTimer();
-    QString SheetText() const;
+    QString Reason() const;
 
     Problem& problem;
     WindowLearner& learner;
     FontMetrics metrics{FontMetrics::Medium::Sheet};
     WindowWorksheet worksheet;
     QWidget* desk;
-    std::array<SheetWidget*, Worksheet::kSheetCount> papers{};
+    SheetPile* pile = nullptr;
     WritingPencil* pencil = nullptr;
     LightButton* light = nullptr;
+    WizardFigure* wizard = nullptr;
     FrmExplain* explanation = nullptr;
     EntryForm* entry = nullptr;
     QTimer timer2{this};

@@ -1,6 +1,5 @@
 #include "ui/light_button.h"
 
-#include <QContextMenuEvent>
 #include <QPainter>
 
 #include "ui/artwork.h"
@@ -26,7 +25,7 @@ QString KeyOf(Picture picture) {
 
 }  // namespace
 
-LightButton::LightButton(QWidget* desk) : DeskButton(desk) {
+LightButton::LightButton(QWidget* desk) : MenuButton(desk) {
     setObjectName(QStringLiteral("Light"));
     setAccessibleName(QStringLiteral("Guided Input Light"));
     setFixedSize(kSize);
@@ -44,25 +43,7 @@ void LightButton::Show(const EntryControls& controls) {
 void LightButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.drawPixmap(0, 0, Artwork(KeyOf(picture), kSize, devicePixelRatioF()));
-    if (hasFocus()) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(QColor(0x3F, 0x8F, 0xD2), 2));
-        painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 14, 14);
-    }
-}
-
-void LightButton::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::RightButton && rect().contains(event->position().toPoint())) {
-        emit MenuAsked(event->globalPosition().toPoint());
-        return;
-    }
-    QAbstractButton::mouseReleaseEvent(event);
-}
-
-void LightButton::contextMenuEvent(QContextMenuEvent* event) {
-    if (event->reason() == QContextMenuEvent::Keyboard) {
-        emit MenuAsked(event->globalPos());
-    }
+    PaintFocus(painter, 14);
 }
 
 }  // namespace numerello

@@ -6,7 +6,7 @@
 namespace numerello {
 
 /// The light of the guided input.
-class LightButton : public DeskButton {
+class LightButton : public MenuButton {
     Q_OBJECT
 
   public:
@@ -17,14 +17,8 @@ class LightButton : public DeskButton {
     /// Takes on picture and tool tip.
     void Show(const EntryControls& controls);
 
-  signals:
-    /// The right button or the menu key asks for the pop-up, at this place of the screen.
-    void MenuAsked(QPoint place);
-
   protected:
     void paintEvent(QPaintEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
     EntryControls::LightPicture picture = EntryControls::LightPicture::Neutral;

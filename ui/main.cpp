@@ -10,6 +10,7 @@
 #include "ui/font_metrics.h"
 #include "ui/frm_logo.h"
 #include "ui/frm_main.h"
+#include "ui/motion.h"
 
 namespace {
 
@@ -75,6 +76,7 @@ int main(int argc, char** argv) {
         qCritical("The font of the sheets cannot be loaded.");
         return 1;
     }
+    numerello::WatchDesktopMotion();
     QApplication::setWindowIcon(numerello::ArtworkIcon(QStringLiteral("icon")));
     return arguments.isSet(noSplash) ? RunWithoutSplash() : RunWithSplash();
 }

@@ -1,11 +1,16 @@
 #include "ui/sheet_widget.h"
 
+#include <QAccessible>
+#include <QMouseEvent>
 #include <QPainter>
-#include <QtMath>
+#include <utility>
 
 #include "ui/artwork.h"
+#include "ui/desk.h"
 #include "ui/surface_painter.h"
 #include "ui/text.h"
+#include "worksheet/sheet_rows.h"
+#include "worksheet/spoken_line.h"
 
 namespace numerello {
 
@@ -69,11 +74,7 @@ void ArrowButton::paintEvent(QPaintEvent* /*event*/) {
     const QPoint corner((kArrowSize.width() - kArrowPicture.width()) / 2,
                         (kArrowSize.height() - kArrowPicture.height()) / 2);
     painter.drawPixmap(corner, Artwork(key, kArrowPicture, devicePixelRatioF()));
-    if (hasFocus()) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(QColor(0x3F, 0x8F, 0xD2), 2));
-        painter.drawEllipse(QRectF(rect()).adjusted(1, 1, -1, -1));
-    }
+    PaintFocus(painter, kArrowSize.width() / 2.0 - 1);
 }
 
 SheetWidget::SheetWidget(int index, const FontMetrics& metrics, QWidget* desk)
@@ -82,6 +83,7 @@ SheetWidget::SheetWidget(int index, const FontMetrics& metrics, QWidget* desk)
     arrow->setObjectName(QStringLiteral("blinker%1").arg(index));
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFixedSize(kPaperSize);
+    setMouseTracking(true);
     hide();
 }
 
@@ -91,25 +93,116 @@ void SheetWidget::Show(const Sheet& sheet) {
     if (sheet.height > 0) {
         setFixedHeight(qRound(sheet.height));
     }
-    move(qRound(sheet.left), qRound(sheet.top));
+    Place();
     arrow->move(qRound(sheet.arrowLeft), qRound(sheet.arrowTop));
     arrow->setVisible(sheet.arrowVisible);
     setVisible(sheet.visible);
-    update();
+    if (const DrawingState now = StateOf(sheet); now != state) {
+        state = now;
+        retained = QPixmap();
+        update();
+        TellChange();
+    }
 }
 
-void SheetWidget::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter(this);
+SheetWidget::DrawingState SheetWidget::StateOf(const Sheet& sheet) {
+    return {sheet.newSheets, sheet.surface.Clearings(), sheet.surface.Marks().size(), sheet.height,
+            sheet.title};
+}
+
+void SheetWidget::Place() {
+    if (shown != nullptr) {
+        move(qRound(shown->left), qRound(shown->top));
+    }
+}
+
+QString SheetWidget::Spoken() const {
+    QStringList words;
+    if (shown != nullptr) {
+        for (const std::string& row : SheetRows(*shown)) {
+            words << ToQString(SpokenLine(row));
+        }
+    }
+    return words.join(u'\n');
+}
+
+/// Says what was written, to those who hear the sheet.
+void SheetWidget::TellChange() {
+    if (!QAccessible::isActive()) {
+        return;
+    }
+    const QString before = std::exchange(told, Spoken());
+    if (told.startsWith(before) && told != before) {
+        QAccessibleTextInsertEvent written(this, static_cast<int>(before.size()),
+                                           told.mid(before.size()));
+        QAccessible::updateAccessibility(&written);
+    } else if (told != before) {
+        QAccessibleTextUpdateEvent rewritten(this, 0, before, told);
+        QAccessible::updateAccessibility(&rewritten);
+    }
+}
+
+QPixmap SheetWidget::Painted() const {
     const qreal ratio = devicePixelRatioF();
+    QPixmap picture(size() * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
     PaintPaper(painter, height(), ratio);
     if (shown == nullptr) {
-        return;
+        return picture;
     }
     PaintTitle(painter, shown->title, metrics);
     PaintMarks(painter, shown->surface.Marks(), metrics,
                [ratio](QPainter& onto, const std::string& key, QPointF corner) {
                    onto.drawPixmap(corner, Artwork(ToQString(key), kCheckPicture, ratio));
                });
+    return picture;
+}
+
+/// What was drawn is kept, so that a sheet can be dragged over ten others without a hitch.
+void SheetWidget::paintEvent(QPaintEvent* event) {
+    const qreal ratio = devicePixelRatioF();
+    if (retained.isNull() || retained.devicePixelRatio() != ratio) {
+        retained = Painted();
+    }
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    painter.drawPixmap(0, 0, retained);
+    PaintShadowsFromAbove(painter);
+}
+
+/// The sheets in front are the siblings that come later.
+void SheetWidget::PaintShadowsFromAbove(QPainter& painter) const {
+    const QObjectList& siblings = parent()->children();
+    for (auto at = siblings.indexOf(this) + 1; at < siblings.size(); ++at) {
+        const auto* above = qobject_cast<const SheetWidget*>(siblings.at(at));
+        if (above != nullptr && above->isVisible()) {
+            PaintShadow(painter, above->geometry().translated(-pos()));
+        }
+    }
+}
+
+/// The place on the sheet as it lies now: an event may tell one from before its last move.
+QPoint SheetWidget::PlaceOf(const QMouseEvent& event) const {
+    return mapFromGlobal(event.globalPosition()).toPoint();
+}
+
+void SheetWidget::mousePressEvent(QMouseEvent* event) {
+    emit Pressed(event->button() == Qt::LeftButton, PlaceOf(*event));
+}
+
+void SheetWidget::mouseMoveEvent(QMouseEvent* event) {
+    emit Moved(event->buttons().testFlag(Qt::LeftButton), PlaceOf(*event));
+}
+
+void SheetWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        QWidget::mouseReleaseEvent(event);
+        return;
+    }
+    unsetCursor();
+    emit Released();
 }
 
 }  // namespace numerello

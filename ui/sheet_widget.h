@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPixmap>
 #include <QWidget>
 #include <string>
 
@@ -36,15 +37,51 @@ class SheetWidget : public QWidget {
     /// Takes on what the model's sheet shows; it has to outlive this widget.
     void Show(const Sheet& sheet);
 
+    /// Takes on the sheet's place alone.
+    void Place();
+
     ArrowButton& Arrow() { return *arrow; }
+
+    /// What stands on it, line by line, as it is read aloud.
+    QString Spoken() const;
+
+  signals:
+    /// What the mouse does, at this place of the sheet. What lies on the sheet and wants no mouse
+    /// counts as the sheet.
+    void Pressed(bool leftButton, QPoint place);
+    void Moved(bool leftButton, QPoint place);
+    void Released();
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
+    QPoint PlaceOf(const QMouseEvent& event) const;
+    /// Two equal states are equal drawings.
+    struct DrawingState {
+        int newSheets = -1;
+        int clearings = 0;
+        std::size_t marks = 0;
+        double height = 0;
+        std::string title;
+
+        bool operator==(const DrawingState&) const = default;
+    };
+    static DrawingState StateOf(const Sheet& sheet);
+
+    QPixmap Painted() const;
+    void PaintShadowsFromAbove(QPainter& painter) const;
+    void TellChange();
+
     const FontMetrics& metrics;
     const Sheet* shown = nullptr;
     ArrowButton* arrow;
+    DrawingState state;  ///< of what is retained
+    QPixmap retained;    ///< paper and drawing; null after a change
+    QString told;        ///< what was last told to those who hear the sheet
 };
 
 }  // namespace numerello

@@ -26,6 +26,9 @@ class WritingPencil : public QObject {
     /// Shows pictures and places in a view of this height.
     void Show(int viewHeight);
 
+    /// Puts it where the model has it.
+    void Place();
+
     /// Lays the writing pencil above all that was raised before.
     void Raise() { pencil->raise(); }
 
@@ -33,8 +36,6 @@ class WritingPencil : public QObject {
     bool IsAt(QPoint place) const;
 
   private:
-    void Place();
-
     const Problem& problem;
     Worksheet& worksheet;
     QWidget* desk;

@@ -7,6 +7,8 @@
 #include "typeset/lines.h"
 #include "typeset/notation_walk.h"
 #include "worksheet/explanation_rows.h"
+#include "worksheet/shown_note.h"
+#include "worksheet/spoken_line.h"
 
 namespace numerello {
 
@@ -42,13 +44,6 @@ class FirstMessage : public Learner {
     bool told = false;
 };
 
-/// Long products run on behind the last step that has a note.
-std::string_view ShownNote(const Problem& problem) {
-    const int shown = problem.playback.ShownStep;
-    return shown <= StepLog::kTopIndex ? std::string_view(problem.log.StepNote[shown])
-                                       : std::string_view();
-}
-
 }  // namespace
 
 Explanation::Explanation(const Problem& problem, const TextMetrics& metrics, Learner& learner)
@@ -77,7 +72,7 @@ std::string Explanation::TakeText() {
 void Explanation::ShowExplanation() {
     rows.Cls();
     text = TakeText();
-    const bool isRefusal = std::exchange(explainError, false);
+    isRefusal = std::exchange(explainError, false);
     FirstMessage teller(learner);
     for (TextRow& row :
          ExplanationRows(isRefusal ? CharactersWithQuotedMarks(text) : Characters(text), kTextWidth,
@@ -86,6 +81,10 @@ void Explanation::ShowExplanation() {
         rows.CurrentY = RowsHeight();
         ExplainLine(std::move(row), rows, teller);
     }
+}
+
+std::string Explanation::SpokenText() const {
+    return isRefusal ? text : SpokenLine(text);
 }
 
 double Explanation::RowsWidth() const {

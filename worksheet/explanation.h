@@ -31,6 +31,9 @@ class Explanation {
     /// The text that was set out last, before it was cut into rows.
     const std::string& Text() const { return text; }
 
+    /// As it is read aloud. A refusal speaks of the marks themselves and is left as it is.
+    std::string SpokenText() const;
+
     /// Its rows, from the pen's (0, 0).
     const Surface& Rows() const { return rows; }
 
@@ -62,6 +65,7 @@ class Explanation {
     Surface rows;
     std::string text;
     bool explainError = false;  ///< the next explanation is to show InputError
+    bool isRefusal = false;     ///< the last one did
 };
 
 }  // namespace numerello

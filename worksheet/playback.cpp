@@ -107,7 +107,7 @@ void Worksheet::PrintStep(int index, bool showBlinker) {
     const std::string& line = std::as_const(problem.log).StepText[index];
     FPrintLine(line, showBlinker, *this, problem.playback, learner);
     if (!outOfSheets) {
-        drawnLines.push_back(line);
+        CurrentSheet().lines.push_back(line);
     }
 }
 
@@ -120,6 +120,7 @@ void Worksheet::FinishWork() {
 
 void Worksheet::DrawCheckMark() {
     HideArrow();
+    assistant.EndWork();
     const Playback& playback = problem.playback;
     Current().PaintPicture("check", MarkLeft(playback, kCheckOffset),
                            MarkTop(playback, kCheckOffset));
@@ -135,6 +136,7 @@ void Worksheet::PlaceBlinker() {
     if (!problem.columns.Any() || problem.settings.mnuShowStep) {
         sheet.arrowVisible = true;
         timer2Enabled = true;
+        assistant.Notify();
     }
     Changed();
 }
@@ -144,6 +146,7 @@ void Worksheet::blinker_Click() {
         return;
     }
     HideArrow();
+    assistant.StopNotice();
     Changed();
     // The rest stays unseen until the problem is solved again: kept as it is.
     if (!problem.settings.mnuShowStep) {

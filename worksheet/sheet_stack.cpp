@@ -10,15 +10,13 @@ namespace numerello {
 
 namespace {
 
-constexpr double kWidth = 800;
-constexpr double kHeight = 657;
 constexpr double kRuling = 46;
 constexpr double kFanStep = 25;
 constexpr double kFontSize = 12;
 
 void Unfold(Sheet& sheet) {
-    sheet.width = kWidth;
-    sheet.height = kHeight;
+    sheet.width = SheetStack::kWidth;
+    sheet.height = SheetStack::kHeight;
     sheet.visible = true;
 }
 
@@ -27,7 +25,8 @@ void Unfold(Sheet& sheet) {
 SheetStack::SheetStack(const TextMetrics& metrics) : metrics(metrics) {
     sheets.reserve(kCount);
     for (int i = 0; i < kCount; ++i) {
-        sheets.push_back(Sheet{.surface = EmptySurface(), .title = {}});
+        sheets.push_back(
+            Sheet{.surface = EmptySurface(), .newSheets = 0, .title = {}, .lines = {}});
     }
     Unfold(sheets.front());
 }
@@ -54,7 +53,7 @@ void SheetStack::Turn(int page) {
     Sheet& next = (*this)[page + 1];
     last.arrowVisible = false;
 
-    next.surface = EmptySurface();
+    Replace(next);
     next.left = last.left + kFanStep;
     next.top = last.top + kFanStep;
     Unfold(next);
@@ -75,11 +74,17 @@ void SheetStack::Raise(int index) {
     }
 }
 
+void SheetStack::SendToBack(int index) {
+    if (std::erase(order, index) > 0) {
+        order.insert(order.begin(), index);
+    }
+}
+
 void SheetStack::Blank(int last) {
     for (int i = 0; i <= last; ++i) {
         Sheet& sheet = (*this)[i];
-        sheet.surface = EmptySurface();
-        sheet.height = std::min(sheet.height, kHeight);
+        Replace(sheet);
+        sheet.height = std::min<double>(sheet.height, kHeight);
         sheet.visible = i == 0;
         sheet.arrowVisible = false;
     }
@@ -91,6 +96,12 @@ void SheetStack::MoveTo(double left) {
     for (const int index : order) {
         (*this)[index].left += distance;
     }
+}
+
+void SheetStack::Replace(Sheet& sheet) const {
+    sheet.surface = EmptySurface();
+    sheet.lines.clear();
+    ++sheet.newSheets;
 }
 
 Surface SheetStack::EmptySurface() const {

@@ -10,13 +10,15 @@ namespace numerello {
 
 /// One sheet of paper. Lengths are sheet pixels.
 struct Sheet {
-    Surface surface;  ///< what is drawn on it
+    Surface surface;    ///< what is drawn on it
+    int newSheets = 0;  ///< how often an empty sheet took its place
     std::string title;
     double left = 0;  ///< on the desk, whose origin is the top left corner of the view
     double top = 0;
     double width = 0;  ///< 0 until the sheet is first turned to
     double height = 0;
     bool visible = false;
+    std::vector<std::string> lines;  ///< what stands on it in math text, in order
     bool arrowVisible = false;
     double arrowLeft = 0;  ///< on the sheet
     double arrowTop = 0;
@@ -27,6 +29,8 @@ struct Sheet {
 class SheetStack {
   public:
     static constexpr int kCount = 10;
+    static constexpr int kWidth = 800;
+    static constexpr int kHeight = 657;
 
     /// The metrics must outlive the stack.
     explicit SheetStack(const TextMetrics& metrics);
@@ -52,6 +56,9 @@ class SheetStack {
     /// Lays a sheet over all others. Nothing for a hidden one.
     void Raise(int index);
 
+    /// Lays a sheet below all others. Nothing for a hidden one.
+    void SendToBack(int index);
+
     /// Blanks the sheets 0 to `last` and hides them, their arrows too; the first sheet stays.
     void Blank(int last);
 
@@ -60,6 +67,7 @@ class SheetStack {
 
   private:
     Surface EmptySurface() const;
+    void Replace(Sheet& sheet) const;
 
     const TextMetrics& metrics;
     std::vector<Sheet> sheets;

@@ -14,7 +14,7 @@ constexpr int kTopSheet = Worksheet::kSheetCount - 1;
 }  // namespace
 
 Worksheet::Worksheet(Problem& problem, const TextMetrics& metrics, Learner& learner)
-    : problem(problem), learner(learner), stack(metrics) {}
+    : problem(problem), learner(learner), stack(metrics), assistant(problem) {}
 
 void Worksheet::Open(int viewWidth) {
     problem.playback.CurrentPage = 0;
@@ -23,14 +23,20 @@ void Worksheet::Open(int viewWidth) {
     ClearTo(kTopSheet);
     stack.Entitle(problem.topic.TopicTitle);
     stack[0].top = 0;
+    assistant.Load();
     Centre(viewWidth);
+}
+
+int Worksheet::CentredLeft(int viewWidth) {
+    // Halves of a pixel would blur the paper.
+    return std::max(0, (viewWidth - SheetStack::kWidth) / 2);
 }
 
 void Worksheet::Centre(int viewWidth) {
     lastViewWidth = viewWidth;
-    // Halves of a pixel would blur the paper.
-    const int room = viewWidth - static_cast<int>(stack[0].width);
-    stack.MoveTo(std::max(0, room / 2));
+    if (!sheetsDragged) {
+        stack.MoveTo(CentredLeft(viewWidth));
+    }
     Changed();
 }
 
@@ -47,6 +53,10 @@ void Worksheet::DrawTypedLine() {
     Surface& surface = stack[0].surface;
     surface.Cls();
     surface.CurrentY = EntryRow(code).value_or(0);
+    stack[0].lines.clear();
+    if (!problem.typed.DisplayLine.empty()) {
+        stack[0].lines.push_back(problem.typed.DisplayLine);
+    }
     FPrintLine(problem.typed.DisplayLine, false, *this, problem.playback, learner);
     Changed();
 }
@@ -96,10 +106,12 @@ void Worksheet::ClearTo(int lastSheet) {
         pencil.LieInMargin();
     }
     stack[0].surface.CurrentY = EntryRow(problem.topic.ProblemType).value_or(0);
+    assistant.RestartWork();
     timer2Enabled = false;
     arrowFrame = false;
     outOfSheets = false;
-    drawnLines.clear();
+    movedSincePress = false;
+    sheetsDragged = false;
 }
 
 Sheet& Worksheet::CurrentSheet() {

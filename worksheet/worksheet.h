@@ -1,12 +1,12 @@
 #pragma once
 
 #include <functional>
-#include <string>
 #include <utility>
 #include <vector>
 
 #include "core/solve_driver.h"
 #include "typeset/sheets.h"
+#include "worksheet/assistant.h"
 #include "worksheet/pencil.h"
 #include "worksheet/sheet_stack.h"
 
@@ -26,12 +26,41 @@ class Worksheet : public Stage, public PaperSheets {
     /// sheet centred at the upper edge of a view of this width, in pixels.
     void Open(int viewWidth);
 
-    /// Centres the first sheet across the view, but not beyond its left edge; the sheets that lie
-    /// fanned over it move along. For a view that was resized before any sheet was dragged.
+    /// The view was resized. Centres the first sheet across it, but not beyond its left edge; the
+    /// sheets that lie fanned over it move along. Once a sheet was dragged, all stay where they
+    /// lie.
     void Centre(int viewWidth);
+
+    /// Where the first sheet lies centred in a view of this width.
+    static int CentredLeft(int viewWidth);
 
     /// Lays the sheet in use over all others.
     void RaiseCurrentSheet();
+
+    /// Lays the sheet before (-1) or after (1) the uppermost one over all others, by number. False
+    /// when there is none.
+    bool RaiseNeighbour(int direction);
+
+    /// A button went down on a sheet, at this place of it; the left one lays it over all others.
+    void Paper_MouseDown(int Index, bool leftButton, int X, int Y);
+
+    /// As on the first sheet, but what the picture brings to light is the first sheet alone.
+    void Picture3_MouseDown(int X, int Y);
+
+    /// The mouse moves on a sheet, which follows it while the left button is down.
+    void Paper_MouseMove(int Index, bool leftButton, int X, int Y);
+
+    /// The part of the desk that is seen, from its upper left corner.
+    struct SeenDesk {
+        double left;
+        double top;
+        double width;
+        double height;
+    };
+
+    /// The left button came up: a sheet that was dragged comes back as far as to be seen and
+    /// gripped again.
+    void Paper_MouseUp(int Index, const SeenDesk& seen);
 
     /// Draws the line as it is typed, in place of the one drawn before. Nothing for a topic with
     /// boxes, nor once typing is closed.
@@ -62,6 +91,9 @@ class Worksheet : public Stage, public PaperSheets {
 
     const Pencil& ThePencil() const { return pencil; }
 
+    Assistant& TheAssistant() { return assistant; }
+    const Assistant& TheAssistant() const { return assistant; }
+
     /// Ends the work: the check mark behind the last line, no arrow, no column request.
     void DrawCheckMark();
 
@@ -77,9 +109,6 @@ class Worksheet : public Stage, public PaperSheets {
 
     /// The numbers of the visible sheets, the lowest first.
     const std::vector<int>& StackingOrder() const { return stack.Order(); }
-
-    /// The solution's lines as they were drawn, in order.
-    const std::vector<std::string>& DrawnLines() const { return drawnLines; }
 
     /// Whether the arrow waits on the sheet in use.
     bool ArrowVisible() const;
@@ -112,6 +141,7 @@ class Worksheet : public Stage, public PaperSheets {
     void FinishWork();
     void TakeRequests();
 
+    void HoldSheet(int X, int Y);
     void ClearTo(int lastSheet);
     void HideArrow();
     Sheet& CurrentSheet();
@@ -121,11 +151,15 @@ class Worksheet : public Stage, public PaperSheets {
     Learner& learner;
     SheetStack stack;
     Pencil pencil;
+    Assistant assistant;
     int lastViewWidth = 0;
+    int dragStartX = 0;  ///< the place of the mouse on its sheet at the last press
+    int dragStartY = 0;
+    bool movedSincePress = false;
+    bool sheetsDragged = false;  ///< since the sheets were last laid out
     bool timer2Enabled = false;
     bool arrowFrame = false;
     bool outOfSheets = false;  ///< the log outgrew the tenth sheet: the rest stays undrawn
-    std::vector<std::string> drawnLines;
     std::function<void()> onChange;
 };
 

@@ -6,22 +6,17 @@ import sys
 import screen
 
 SUBTRACTION = [
-    "1000\n- 1",
-    "99\n0101010\n1000\n- 1\n9",
-    "99\n0101010\n1000\n- 1\n99",
-    "99\n0101010\n1000\n- 1\n999",
-    "99\n0101010\n1000\n- 1\n0999",
+    "1000\nminus 1",
+    "99\n0 10 10 10\n1000\nminus 1\n9",
+    "99\n0 10 10 10\n1000\nminus 1\n99",
+    "99\n0 10 10 10\n1000\nminus 1\n999",
+    "99\n0 10 10 10\n1000\nminus 1\n0999",
 ]
 DIVISION = [
-    "7)95",
-    "1\n7)95\n-7\n25",
-    "13r4\n7)95\n-7\n25\n-21\n4",
+    "7 into 95",
+    "1\n7 into 95\nminus 7\n25",
+    "13 r 4\n7 into 95\nminus 7\n25\nminus 21\n4",
 ]
-
-
-def drawing(topic):
-    sheet = screen.find(topic)
-    return sheet.get_description() if sheet else None
 
 
 def choose(desk, topic):
@@ -37,7 +32,8 @@ def play(desk, topic, drawings):
     """Clicks through from the first drawing, which is there, to the check mark."""
     for i, expected in enumerate(drawings):
         screen.until(
-            lambda: drawing(topic) == expected, f"drawing {i + 1}; there is {drawing(topic)!r}"
+            lambda: screen.sheet_text(topic) == expected,
+            f"drawing {i + 1}; there is {screen.sheet_text(topic)!r}",
         )
         desk.picture(f"{topic.lower()}-{i + 1}")
         if i + 1 < len(drawings):

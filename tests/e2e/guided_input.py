@@ -20,8 +20,12 @@ def choose(desk, topic):
 
 
 def expect_sheet(text):
-    sheet = screen.find(LINE_TOPIC)
-    screen.until(lambda: sheet.get_description() == text, f"{text!r} on the sheet")
+    screen.until(lambda: screen.sheet_text(LINE_TOPIC) == text, f"{text!r} on the sheet")
+
+
+def expect_refusal(text):
+    sheet = screen.find(LINE_TOPIC, "document frame")
+    screen.until(lambda: sheet.get_description() == text, f"{text!r} told of the sheet")
 
 
 def solve_is_on():
@@ -32,18 +36,18 @@ def type_fractions(desk):
     choose(desk, LINE_TOPIC)
     assert not solve_is_on()
     desk.type("1/2/")
-    expect_sheet("1/2/")
+    expect_sheet("one half divided by")
     desk.type("*")
-    expect_sheet("You can't type a '*' after a '/' in 'Fraction Arithmetic'.")
+    expect_refusal("You can't type a '*' after a '/' in 'Fraction Arithmetic'.")
     desk.picture("refused-key")
     desk.type("x")
-    expect_sheet(
+    expect_refusal(
         "Variables are not allowed in 'Fraction Arithmetic'.  Click the Assistant Wiz for details."
     )
     desk.key("BackSpace")
-    expect_sheet("1/2")
+    expect_sheet("one half")
     desk.type("-3/4")
-    expect_sheet("1/2-3/4")
+    expect_sheet("one half minus three fourths")
     assert solve_is_on()
     desk.picture("fractions")
     desk.key(*["BackSpace"] * 7)

@@ -11,17 +11,16 @@ LINES = [
     "To convert inches to yards, first convert inches to feet:",
     "There are 12 inches in a foot.",
     "To convert inches to feet, divide the number of inches (40) by 12:",
-    "40 inches = 3.33 feet",
+    "40 inches equals 3.33 feet",
     "There are 3 feet in a yard.",
     "To convert feet to yards, divide the number of feet (3.33) by 3:",
-    "3.33 feet = 1.11 yards",
-    "40 inches = 1.11 yards",
+    "3.33 feet equals 1.11 yards",
+    "40 inches equals 1.11 yards",
 ]
 
 
 def sheet_lines():
-    sheet = screen.find(TOPIC)
-    return sheet.get_description().split("\n") if sheet else []
+    return (screen.sheet_text(TOPIC) or "").split("\n")
 
 
 def expect_lines(count):

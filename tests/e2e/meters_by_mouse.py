@@ -9,15 +9,14 @@ TOPIC = "Meter Conversions"
 LINES = [
     "To convert 2.5 km to m:",
     "Multiply 2.5 by the number of meters in a km (1000)",
-    "Then divide by the number of meters in a m (1) ",
-    "#2.5 * 1000/1#",
-    "2.5 km = 2500 m",
+    "Then divide by the number of meters in a m (1)",
+    "fraction 2.5 times 1000 over 1 end fraction",
+    "2.5 km equals 2500 m",
 ]
 
 
 def solution():
-    sheet = screen.find(TOPIC)
-    return sheet.get_description().split("\n")[1:] if sheet else []
+    return (screen.sheet_text(TOPIC) or "").split("\n")
 
 
 def main():

@@ -108,6 +108,15 @@ class Screen:
     def click(self, x, y, button=1):
         subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", str(button)], check=True)
 
+    def drag(self, start, end, steps=10):
+        """Presses the left button at one place of the screen and lets go at another."""
+        subprocess.run(["xdotool", "mousemove", *map(str, start), "mousedown", "1"], check=True)
+        for step in range(1, steps + 1):
+            place = [round(a + (b - a) * step / steps) for a, b in zip(start, end)]
+            subprocess.run(["xdotool", "mousemove", *map(str, place)], check=True)
+        subprocess.run(["xdotool", "mouseup", "1"], check=True)
+        time.sleep(0.2)
+
     def select_elsewhere(self, text):
         """Another program selects a text, which a middle click would insert."""
         holder = self._start(["xsel", "--primary", "--input", "--nodetach"], stdin=subprocess.PIPE)
@@ -179,6 +188,12 @@ def find(name, role=None):
         except Exception:  # objects may vanish while they are looked at
             continue
     return None
+
+
+def sheet_text(title):
+    """What stands on the sheet of that title, as it is read aloud; None when it is not showing."""
+    sheet = find(title, "document frame")
+    return Atspi.Text.get_text(sheet, 0, -1) if sheet else None
 
 
 def has_state(found, state):

@@ -16,8 +16,7 @@ def told():
 
 
 def sheet():
-    found = screen.find(TOPIC)
-    return found.get_description() if found else None
+    return screen.sheet_text(TOPIC)
 
 
 def expect_told(text):
@@ -61,7 +60,7 @@ def main():
         desk.key("Return", "alt+t")
         desk.settle()
         desk.key("e")
-        expect_told("3 feet = 1 yard")
+        expect_told("3 feet equals 1 yard")
         desk.picture("told-reason")
         desk.key("Return")
         expect_told(None)

@@ -30,6 +30,15 @@ TEST_F(SurfaceTest, PrintKeepsTheLine) {
     EXPECT_EQ(surface.CurrentY, 9);
 }
 
+TEST_F(SurfaceTest, CountsItsClearings) {
+    EXPECT_EQ(surface.Clearings(), 0);
+    surface.Print("ab");
+    EXPECT_EQ(surface.Clearings(), 0);
+    surface.Cls();
+    surface.Cls();
+    EXPECT_EQ(surface.Clearings(), 2);
+}
+
 TEST_F(SurfaceTest, PrintEndsTheLineByTheSizeInForce) {
     surface.CurrentX = 5;
     surface.SetFontSize(30);

@@ -14,6 +14,7 @@
 #include "tests/ui/frm_main_fixture.h"
 #include "ui/frm_explain.h"
 #include "ui/light_button.h"
+#include "worksheet/spoken_line.h"
 
 namespace numerello {
 namespace {
@@ -147,13 +148,13 @@ TEST_F(ExplanationWindow, TheMenuTellsTheShownNote) {
     EXPECT_FALSE(Command("mnuExp").isEnabled());
     Choose(QStringLiteral("Meter Conversions"));
     Command("mnuExp").trigger();
-    EXPECT_EQ(Told(), Now().topic.InstructionText);
+    EXPECT_EQ(Told(), SpokenLine(Now().topic.InstructionText));
     ChooseFeet();
     EXPECT_FALSE(Explanation().isVisible());
     Type(QStringLiteral("7"));
     Command("mnuExp").trigger();
     EXPECT_TRUE(Explanation().isVisible());
-    EXPECT_EQ(Told(), Now().topic.InstructionText);
+    EXPECT_EQ(Told(), SpokenLine(Now().topic.InstructionText));
 
     Enter();
     EXPECT_FALSE(Explanation().isVisible());

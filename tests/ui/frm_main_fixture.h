@@ -51,9 +51,21 @@ class Window : public testing::Test {
     void Enter() { PressKey(frame, Qt::Key_Return); }
 
     ArrowButton& Arrow() { return Find<ArrowButton>(frame, QStringLiteral("blinker0")); }
+    /// What stands on the sheets, as it is read aloud.
     QString SheetText() {
+        QStringList sheets;
+        for (int i = 0; i < Worksheet::kSheetCount; ++i) {
+            sheets << Find<SheetWidget>(frame, QStringLiteral("Paper%1").arg(i)).Spoken();
+        }
+        sheets.removeAll(QString());
+        return sheets.join(u'\n');
+    }
+
+    /// What an ear is told about the sheet.
+    QString Reason() {
         return Find<QWidget>(frame, QStringLiteral("frmPaper")).accessibleDescription();
     }
+
     const Problem& Now() { return frame.CurrentProblem(); }
 
     FrmMain frame;

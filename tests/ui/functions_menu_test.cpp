@@ -46,7 +46,7 @@ TEST_F(FunctionsMenu, EachEntryTypesItsKey) {
         Command(name).trigger();
         EXPECT_EQ(Refusal(), refusal) << name;
         // What the learner sees and hears has followed the key.
-        EXPECT_EQ(SheetText().toStdString(), refusal) << name;
+        EXPECT_EQ(Reason().toStdString(), refusal) << name;
         PressKey(frame, Qt::Key_Backspace);
     }
 }

@@ -1,41 +1,16 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QLabel>
 #include <QMenu>
-#include <QProxyStyle>
 #include <QScrollArea>
-#include <QStyle>
 #include <QTest>
 #include <QTimer>
 
 #include "tests/ui/frm_main_fixture.h"
+#include "tests/ui/still_desktop.h"
 
 namespace numerello {
 namespace {
-
-class StillStyle : public QProxyStyle {
-  public:
-    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                  QStyleHintReturn* data) const override {
-        return hint == SH_Widget_Animation_Duration
-                   ? 0
-                   : QProxyStyle::styleHint(hint, option, widget, data);
-    }
-};
-
-/// A desktop that asks for no motion.
-class StillDesktop {
-  public:
-    StillDesktop() { QApplication::setStyle(new StillStyle); }
-    ~StillDesktop() { QApplication::setStyle(usual); }
-
-    StillDesktop(const StillDesktop&) = delete;
-    StillDesktop& operator=(const StillDesktop&) = delete;
-
-  private:
-    QString usual = QApplication::style()->name();
-};
 
 class PencilInUse : public Window {
   protected:

@@ -76,6 +76,15 @@ TEST_F(ExplanationTest, ThenTheReasonOfTheShownStep) {
     EXPECT_NEAR(explanation.Height(), kDrop + kLine + 3.5 * kLine, 1e-6);
 }
 
+TEST_F(ExplanationTest, IsReadAloudAsWords) {
+    Choose(kFeetToYards);
+    problem.log.StepNote[0] = "Add #1/2# and 3^2^.";
+    Say();
+    EXPECT_EQ(explanation.SpokenText(), "Add one half and 3 squared.");
+    SayRefusal("No roots (~ ~) and no '^' here.");
+    EXPECT_EQ(explanation.SpokenText(), "No roots (~ ~) and no '^' here.");
+}
+
 TEST_F(ExplanationTest, AnEmptyNoteIsNone) {
     Choose(kFeetToYards);
     Type("7");

@@ -28,6 +28,16 @@ TEST_F(SheetStackTest, ATurnedSheetIsEmptyBlackAndInTheSheetsFont) {
     EXPECT_EQ(surface.FontSize(), 12);
 }
 
+TEST_F(SheetStackTest, KnowsWhenAnEmptySheetTookThePlaceOfAnother) {
+    stack[0].surface.Print("7");
+    EXPECT_EQ(stack[0].newSheets, 0);
+    stack.Turn(0);
+    EXPECT_EQ(stack[1].newSheets, 1);
+    stack.Blank(1);
+    EXPECT_EQ(stack[0].newSheets, 1);
+    EXPECT_EQ(stack[1].newSheets, 2);
+}
+
 TEST_F(SheetStackTest, TurningLeavesTheArrowBehindOnNoSheet) {
     stack[0].arrowVisible = true;
     stack.Turn(0);

@@ -114,7 +114,7 @@ std::string SuggestedName(std::string_view TopicTitle, const Date& today) {
 std::string StartFilePath(std::string_view StartFile) {
     constexpr std::string_view kScheme = "file:";
     constexpr std::string_view kThisComputer = "//localhost/";
-    const std::string path = Replace(Trimmed(StartFile), "\"", "");
+    std::string path = Replace(Trimmed(StartFile), "\"", "");
     if (!path.starts_with(kScheme)) {
         return path;
     }

@@ -12,7 +12,7 @@
 namespace numerello {
 
 /// A longer file is no problem file.
-inline constexpr std::size_t kLongestProblemFile = 1024 * 1024;
+inline constexpr std::size_t kLongestProblemFile = 1048576;
 
 /// The fields of a problem file. Nothing is known yet of the topic and of what it allows.
 struct SavedProblem {

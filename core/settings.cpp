@@ -103,6 +103,7 @@ Settings ReadSettings(const SettingsStore& store) {
 
 void StoreSettings(const Settings& settings, SettingsStore& store) {
     std::vector<StoredSetting> stored;
+    stored.reserve(kNumbers.size() + kFlags.size() + kTicks.size());
     for (const NumberKey& number : kNumbers) {
         stored.push_back({number.key, WholeText(settings.answers.*number.value)});
     }

@@ -48,7 +48,7 @@ bool ProblemFiles::SaveProblemFile(std::string_view line, std::string_view sugge
 
 std::string ProblemFiles::LoadProblemFile(std::string_view StartFile) {
     std::string path = StartFilePath(StartFile);
-    if (path.empty()) {
+    if (Trimmed(StartFile).empty()) {
         const auto chosen = Ask({false, kLoadTitle, kFilter, kExtension, Folder(), ""});
         if (!chosen) {
             return "";

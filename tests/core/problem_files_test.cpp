@@ -183,6 +183,14 @@ TEST_F(ProblemFilesTest, ANamedFileIsReadWithoutADialog) {
     EXPECT_TRUE(dialog.shown.empty());
 }
 
+TEST_F(ProblemFilesTest, OnlyWithoutANameIsTheLearnerAsked) {
+    ProblemFiles files(folder, dialog);
+    EXPECT_EQ(files.LoadProblemFile("  "), "");
+    EXPECT_EQ(dialog.shown.size(), 1U);
+    EXPECT_THROW(files.LoadProblemFile("\"\""), FileError);
+    EXPECT_EQ(dialog.shown.size(), 1U);
+}
+
 TEST_F(ProblemFilesTest, AFileThatCannotBeUsedThrows) {
     ProblemFiles files(folder, dialog);
     EXPECT_THROW(files.LoadProblemFile(Path("none.nrl")), FileError);

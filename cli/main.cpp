@@ -2,12 +2,14 @@
 
 #include <CLI/CLI.hpp>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "cli/batch.h"
 #include "cli/people.h"
 #include "cli/requests.h"
+#include "cli/saved_request.h"
 
 namespace {
 
@@ -22,7 +24,7 @@ using BadArgument = CLI::ValidationError;
 struct SolveArguments {
     std::string topic;
     std::string problem;
-    std::string file;
+    std::optional<std::string> file;
     std::vector<std::string> boxes;
     std::vector<std::string> lists;
     std::vector<std::string> answers;
@@ -87,23 +89,38 @@ int SolveInColumns(const Json& request) {
     const Json columns{{"do", "columns"},
                        {"topic", request.at("topic")},
                        {"boxes", request.at("boxes")},
+                       {"filled", request.at("filled")},
                        {"settings", request.at("settings")}};
     const Json answer = numerello::Answer(columns, nullptr);
     return numerello::PrintWorkedColumns(answer, std::cout, std::cerr);
 }
 
-int Solve(const SolveArguments& arguments) {
-    if (!arguments.file.empty()) {
-        std::cerr << "numerello-cli: problem files are not built yet\n";
-        return kNotWorked;
+/// What the learner entered: as the arguments tell it, or as it was saved.
+Json EntryRequest(const SolveArguments& arguments) {
+    if (arguments.file) {
+        return numerello::SavedRequest(*arguments.file);
     }
-    const Json request{{"do", "solve"},
-                       {"topic", arguments.topic},
-                       {"problem", arguments.problem},
-                       {"boxes", Boxes(arguments.boxes)},
-                       {"lists", Lists(arguments.lists)},
-                       {"answers", arguments.answers},
-                       {"settings", Settings(arguments.settings)}};
+    return {{"do", "solve"},
+            {"topic", arguments.topic},
+            {"problem", arguments.problem},
+            {"boxes", Boxes(arguments.boxes)},
+            {"filled", false},
+            {"lists", Lists(arguments.lists)}};
+}
+
+int TellUnusableFile(const SolveArguments& arguments, const std::string& why) {
+    const std::string error = *arguments.file + " " + why;
+    if (arguments.json) {
+        numerello::PrintJson(numerello::Refusal(nullptr, error), std::cout);
+    }
+    std::cerr << "numerello-cli: " << error << '\n';
+    return kNotWorked;
+}
+
+int Solve(const SolveArguments& arguments) {
+    Json request = EntryRequest(arguments);
+    request["answers"] = arguments.answers;
+    request["settings"] = Settings(arguments.settings);
     const Json answer = numerello::Answer(request, nullptr);
     constexpr int kFirstColumnTopic = 200;
     if (!arguments.json && answer.value("code", 0) >= kFirstColumnTopic) {
@@ -140,12 +157,14 @@ void AddSolve(CLI::App& app, SolveArguments& arguments, int& status) {
     CLI::Option* topic = solve->add_option("--topic", arguments.topic, "The topic's caption");
     CLI::Option* file = solve->add_option("--file", arguments.file, "A saved problem");
     file->excludes(topic);
-    solve->add_option("--problem", arguments.problem, "The problem as typed on the paper line");
+    file->excludes(solve->add_option("--problem", arguments.problem,
+                                     "The problem as typed on the paper line"));
     const auto addMany = [solve](const char* name, std::vector<std::string>& to, const char* help) {
-        solve->add_option(name, to, help)->allow_extra_args(false);
+        return solve->add_option(name, to, help)->allow_extra_args(false);
     };
-    addMany("--box", arguments.boxes, "N=TEXT: what to type into box N, 1 to 6");
-    addMany("--list", arguments.lists, "N=INDEX: the row of list N, 1 to 3; rows from 0");
+    file->excludes(addMany("--box", arguments.boxes, "N=TEXT: what to type into box N, 1 to 6"));
+    file->excludes(
+        addMany("--list", arguments.lists, "N=INDEX: the row of list N, 1 to 3; rows from 0"));
     addMany("--answer", arguments.answers, "The answer to the next question");
     addMany("--set", arguments.settings, "KEY=VALUE: a setting, such as RoundDigits=4");
     solve->add_flag("--json", arguments.json, "Print the answer as JSON");
@@ -153,7 +172,11 @@ void AddSolve(CLI::App& app, SolveArguments& arguments, int& status) {
         if (topic->count() + file->count() == 0) {
             throw CLI::RequiredError("--topic or --file");
         }
-        status = Solve(arguments);
+        try {
+            status = Solve(arguments);
+        } catch (const numerello::FileError& error) {
+            status = TellUnusableFile(arguments, error.what());
+        }
     });
 }
 

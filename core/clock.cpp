@@ -4,11 +4,25 @@
 
 namespace numerello {
 
-int SystemClock::MinutesAndSeconds() const {
+namespace {
+
+std::tm LocalTime() {
     const std::time_t now = std::time(nullptr);
     std::tm local{};
     localtime_r(&now, &local);
+    return local;
+}
+
+}  // namespace
+
+int SystemClock::MinutesAndSeconds() const {
+    const std::tm local = LocalTime();
     return local.tm_min * 100 + local.tm_sec % 60;
+}
+
+Date SystemClock::Today() const {
+    const std::tm local = LocalTime();
+    return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday};
 }
 
 }  // namespace numerello

@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "core/failure.h"
+#include "core/text.h"
 
 namespace numerello {
 
@@ -69,14 +70,6 @@ bool IsTooLarge(const Written& written) {
     std::from_chars(written.powerOfTen.data() + plus,
                     written.powerOfTen.data() + written.powerOfTen.size(), power);
     return digitsBeforePoint + power > 0;
-}
-
-std::string_view WithoutBlanks(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 /// Nothing beyond the range of a Double.
@@ -179,7 +172,7 @@ Integer ToInteger(double value) {
 }  // namespace
 
 double ToNumber(std::string_view text) {
-    const std::string_view number = WithoutBlanks(text);
+    const std::string_view number = Trimmed(text);
     if (number.empty()) {
         return 0;
     }
@@ -195,12 +188,26 @@ double ToNumber(std::string_view text) {
 }
 
 std::optional<double> ReadNumber(std::string_view text) {
-    const std::string_view number = WithoutBlanks(text);
+    const std::string_view number = Trimmed(text);
     if (number.empty()) {
         return std::nullopt;
     }
     const std::optional<Written> written = Read(number);
     return written ? ValueOf(*written, number) : std::nullopt;
+}
+
+std::optional<std::int16_t> ReadInteger16(std::string_view text) {
+    const std::string_view number = Trimmed(text);
+    const std::size_t sign = number.starts_with('+') || number.starts_with('-') ? 1 : 0;
+    return OnlyDigits(number.substr(sign)) ? LeadingInteger16(number) : std::nullopt;
+}
+
+std::optional<std::int16_t> LeadingInteger16(std::string_view text) {
+    std::string_view number = Trimmed(text);
+    number.remove_prefix(number.starts_with('+') && !number.starts_with("+-") ? 1 : 0);
+    std::int16_t value = 0;
+    const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), value);
+    return error == std::errc() ? std::optional(value) : std::nullopt;
 }
 
 std::string NumberText(double value) {

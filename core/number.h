@@ -18,6 +18,13 @@ double ToNumber(std::string_view text);
 /// the range of a Double. An empty text is none.
 std::optional<double> ReadNumber(std::string_view text);
 
+/// The whole number that a text spells in decimal digits, with an optional sign; blanks around it
+/// are ignored. Nothing for any other text and beyond the 16-bit range.
+std::optional<std::int16_t> ReadInteger16(std::string_view text);
+
+/// As ReadInteger16, whatever stands behind the digits.
+std::optional<std::int16_t> LeadingInteger16(std::string_view text);
+
 /// At most 15 significant digits, no trailing zeros, a 0 before the point. From 1E+15 up, and when
 /// the first significant digit stands beyond the fifteenth place after the point, exponent form
 /// with at least two digits of exponent: "1E+15", "1.5E-16". Minus zero is "0".

@@ -46,6 +46,14 @@ std::string Replace(std::string_view text, std::string_view from, std::string_vi
     return replaced.append(text.substr(start));
 }
 
+std::string_view Trimmed(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
 bool IsDigit(std::string_view character) {
     return character.size() == 1 && character[0] >= '0' && character[0] <= '9';
 }

@@ -22,6 +22,9 @@ std::vector<std::string> Characters(std::string_view text);
 /// The text with every occurrence of `from` (not empty) replaced by `to`, from left to right.
 std::string Replace(std::string_view text, std::string_view from, std::string_view to);
 
+/// The text less the blanks at its ends.
+std::string_view Trimmed(std::string_view text);
+
 bool IsDigit(std::string_view character);
 
 /// True for "A".."Z" and "a".."z".

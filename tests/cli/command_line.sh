@@ -3,7 +3,8 @@
 cli=$1
 out=$(mktemp)
 err=$(mktemp)
-trap 'rm -f "$out" "$err"' EXIT
+file=$(mktemp)
+trap 'rm -f "$out" "$err" "$file"' EXIT
 failed=0
 
 # runs STATUS ARGUMENT...: runs the command and looks at its exit status
@@ -55,7 +56,6 @@ runs 1 solve --topic "Converting Inches To Yards" --problem=-
 tells "not solved"
 runs 1 solve --topic "Converting Inches To Yards" --problem=- --json
 tells "not solved"
-runs 1 solve --file none.nrl
 runs 0 solve --topic "Converting Feet To Yards" --problem 3 --answer x --set UseFractions=false \
     --set mnuShowStep=true
 runs 0 solve --topic "Meter Conversions" --box 4=5 --list 1=1 --list 1=0 --list 2=0
@@ -75,6 +75,61 @@ runs 1 solve --topic "Division" --box 1=9999999999 --box 2=3
 tells "Overflow!"
 runs 1 solve --topic "Addition" --box 1=47
 tells "not entered completely"
+
+saved='Addition BB  BB 47 BB 38 BB  BB  BB  BB  BB -1 BB -1 BB 0 BB 200'
+printf '%s\r\n' "$saved" >"$file"
+runs 0 solve --file "$file"
+prints " 2. Add 7 and 8 (15) ."
+prints "      8 5"
+runs 0 solve --file "$file" --json
+prints '"code":200'
+printf 'Converting Inches To Yards BB 4x0 BB  BB  BB  BB  BB  BB  BB -1 BB -1 BB 0 BB 53' >"$file"
+runs 0 solve --file "$file" --set RoundDigits=4
+prints "40 inches = 1.1111 yards"
+tells "The key 'x' was refused"
+printf 'Means BB 3,4 BB  BB  BB  BB  BB  BB  BB -1 BB -1 BB 0 BB 62\n' >"$file"
+runs 0 solve --file "$file"
+prints "3.5"
+printf 'Arithmetic BB 4+ BB  BB  BB  BB  BB  BB  BB -1 BB -1 BB 0 BB 91\n' >"$file"
+runs 1 solve --file "$file"
+tells "The format of the entered problem was not recognized."
+printf 'Proportions BB  BB 1 BB 2 BB  BB  BB  BB  BB -1 BB -1 BB 0 BB 20\n' >"$file"
+runs 1 solve --file "$file"
+tells "not entered completely"
+runs 2 solve --file "$file" --set Colour=1
+runs 2 solve --file "$file" --topic "Addition"
+runs 2 solve --file "$file" --problem 4
+runs 2 solve --file "$file" --box 1=4
+runs 2 solve --file "$file" --list 1=0
+
+printf '%s' "${saved% BB 200}" >"$file"
+runs 1 solve --file "$file"
+tells "$file has fewer than twelve fields"
+runs 1 solve --file "$file" --json
+prints '"ok":false,"error":"'"$file"' has fewer than twelve fields"'
+tells "$file has fewer than twelve fields"
+printf '%s' "${saved% 200}" >"$file"
+runs 1 solve --file "$file"
+tells "has fewer than twelve fields"
+printf '%s two hundred' "${saved% 200}" >"$file"
+runs 1 solve --file "$file"
+tells "has no topic code in its twelfth field"
+printf 'Long %s' "$saved" >"$file"
+runs 1 solve --file "$file"
+tells "names no topic of the catalogue"
+head -c 1048577 /dev/zero >"$file"
+runs 1 solve --file "$file"
+tells "is longer than 1048576 bytes"
+: >"$file"
+runs 1 solve --file "$file"
+tells "has fewer than twelve fields"
+runs 1 solve --file none.nrl
+tells "none.nrl cannot be used: No such file or directory"
+runs 1 solve --file /
+tells "Is a directory"
+runs 1 solve --file /dev/null
+tells "is not a file on a disk"
+runs 1 solve --file ''
 
 runs 2 solve --topic "Converting Inches To Parsecs" --problem 40
 tells "unknown topic"

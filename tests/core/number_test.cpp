@@ -203,5 +203,31 @@ TEST(ToSingle, KeepsTwentyFourBits) {
     EXPECT_EQ(KindOf([] { ToSingle(INFINITY); }), FailureKind::Overflow);
 }
 
+TEST(ReadInteger16, TakesDigitsWithASignAndBlanksAround) {
+    EXPECT_EQ(ReadInteger16("0"), 0);
+    EXPECT_EQ(ReadInteger16("-1"), -1);
+    EXPECT_EQ(ReadInteger16("+12"), 12);
+    EXPECT_EQ(ReadInteger16("  007 "), 7);
+    EXPECT_EQ(ReadInteger16("32767"), 32767);
+    EXPECT_EQ(ReadInteger16("-32768"), -32768);
+}
+
+TEST(ReadInteger16, TakesNothingElse) {
+    for (const char* text : {"", " ", "+", "-", "+-1", "-+1", "--1", "1 2", "1.0", "1e1", "x", "1x",
+                             "0x1", "32768", "-32769", "99999999999999999999", "1\n"}) {
+        EXPECT_EQ(ReadInteger16(text), std::nullopt) << text;
+    }
+}
+
+TEST(LeadingInteger16, DoesNotLookBehindTheDigits) {
+    EXPECT_EQ(LeadingInteger16("91\r\n"), 91);
+    EXPECT_EQ(LeadingInteger16(" -1x"), -1);
+    EXPECT_EQ(LeadingInteger16("+3.5"), 3);
+    EXPECT_EQ(LeadingInteger16("7 8"), 7);
+    for (const char* text : {"", " ", "x1", "+-1", "- 1", "\n1", "32768", "-32769x"}) {
+        EXPECT_EQ(LeadingInteger16(text), std::nullopt) << text;
+    }
+}
+
 }  // namespace
 }  // namespace numerello

@@ -49,5 +49,13 @@ TEST(IsDigit, KnowsTenOfThem) {
     }
 }
 
+TEST(Trimmed, TakesTheBlanksAtTheEnds) {
+    EXPECT_EQ(Trimmed("  a b "), "a b");
+    EXPECT_EQ(Trimmed("a"), "a");
+    EXPECT_EQ(Trimmed("   "), "");
+    EXPECT_EQ(Trimmed(""), "");
+    EXPECT_EQ(Trimmed("\ta\n"), "\ta\n");
+}
+
 }  // namespace
 }  // namespace numerello

@@ -1,0 +1,116 @@
+#include "catalogue/saved_problem.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "catalogue/box_keys.h"
+#include "catalogue/chooser.h"
+#include "catalogue/entry_layouts.h"
+#include "catalogue/guided_input.h"
+#include "catalogue/topics.h"
+#include "core/text.h"
+
+namespace numerello {
+
+namespace {
+
+constexpr int kUnitRows = 7;
+constexpr std::size_t kMostKeys = 10 * static_cast<std::size_t>(kLongestLine);
+
+int RowsOf(EntryLists lists) {
+    return lists == EntryLists::Roundings ? static_cast<int>(RoundingRows().size()) : kUnitRows;
+}
+
+/// Which of Combo1 to Combo3, from 0, the topic shows.
+bool ShowsList(EntryLists lists, std::size_t list) {
+    constexpr std::size_t kRoundingList = 2;
+    return lists != EntryLists::None && (lists == EntryLists::Roundings) == (list == kRoundingList);
+}
+
+/// Nothing when the learner cancels.
+std::optional<SavedProblem> Read(std::string_view StartFile, ProblemFiles& files) {
+    const std::string text = files.LoadProblemFile(StartFile);
+    return text.empty() ? std::nullopt : std::optional(ReadSavedProblem(text));
+}
+
+}  // namespace
+
+SavedProblem ReadSavedProblem(std::string_view text) {
+    SavedProblem saved = ReadProblemLine(text);
+    if (FindTopic(saved.TopicTitle) == nullptr) {
+        throw FileError("names no topic of the catalogue");
+    }
+    return saved;
+}
+
+void ChooseSavedTopic(const SavedProblem& saved, TopicChoice& topic, const Clock& clock,
+                      RandomSource& random) {
+    topic.ClickedOnly = true;
+    topic.ProblemType = saved.ProblemType;
+    TreeViewSelect(saved.TopicTitle, topic, clock, random);
+}
+
+EntryBoxes SavedBoxes(const SavedProblem& saved, int ProblemType) {
+    EntryBoxes boxes;
+    const EntryLayout* layout = FindEntryLayout(ProblemType);
+    if (layout == nullptr) {
+        return boxes;
+    }
+    for (const EntryBoxLayout& box : layout->boxes) {
+        const std::size_t i = static_cast<std::size_t>(box.number) - 1;
+        boxes.Text[i] = saved.Text[i];
+    }
+    for (std::size_t i = 0; i < boxes.ListIndex.size(); ++i) {
+        if (ShowsList(layout->lists, i)) {
+            const int row = saved.ListIndex[i];
+            const bool isThere = row >= 0 && row < RowsOf(layout->lists);
+            boxes.ListIndex[i] = isThere ? row : EntryBoxes::kNoChoice;
+        }
+    }
+    return boxes;
+}
+
+std::vector<std::string> SavedKeys(const SavedProblem& saved) {
+    std::vector<std::string> keys = Characters(saved.typed);
+    keys.erase(std::remove(keys.begin(), keys.end(), kBackspace), keys.end());
+    keys.resize(std::min(keys.size(), kMostKeys));
+    return keys;
+}
+
+void LoadSavedProblem(const SavedProblem& saved, Problem& problem, LoadingForm& form,
+                      const Clock& clock, RandomSource& random) {
+    ResetProblem(problem, true);
+    ChooseSavedTopic(saved, problem.topic, clock, random);
+    form.Open();
+
+    problem.boxes = SavedBoxes(saved, problem.topic.ProblemType);
+    CheckBoxesReady(problem);
+    form.ShowEntry();
+
+    if (IsTypedOnLine(problem.topic.ProblemType)) {
+        for (const std::string& key : SavedKeys(saved)) {
+            form.Form_KeyPress(key);
+        }
+    }
+    if (problem.controls.SolveEnabled) {
+        form.compute_Click();
+    }
+}
+
+bool mnuLoad_Click(std::string_view StartFile, ProblemFiles& files, Problem& problem,
+                   LoadingForm& form, const Clock& clock, RandomSource& random) {
+    try {
+        // Looked at as a whole before anything is erased: what stands on the sheet is not lost to a
+        // file that is none.
+        const std::optional<SavedProblem> saved = Read(StartFile, files);
+        if (saved) {
+            LoadSavedProblem(*saved, problem, form, clock, random);
+        }
+        return saved.has_value();
+    } catch (const FileError&) {
+        form.TellStatus("The problem file could not be read.");
+        return false;
+    }
+}
+
+}  // namespace numerello

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "app/graph_equation.h"
 #include "engine/engine.h"
@@ -35,15 +36,29 @@ void CalculateRoots(SolveRun& run) {
     engine.RootSequence();
 }
 
+/// Fractions for one solve, whatever the learner's setting.
+class WithFractions {
+  public:
+    explicit WithFractions(AnswerSettings& settings)
+        : settings(settings), before(std::exchange(settings.UseFractions, true)) {}
+    ~WithFractions() { settings.UseFractions = before; }
+    WithFractions(const WithFractions&) = delete;
+    WithFractions& operator=(const WithFractions&) = delete;
+
+  private:
+    AnswerSettings& settings;
+    bool before;
+};
+
 /// A fraction alone is left as it stands: kept as it is.
 void CalculateFractions(SolveRun& run) {
-    run.problem.settings.UseFractions = true;
+    const WithFractions fractions(run.problem.settings);
     Engine engine(run.problem);
     engine.Open();
     const auto fractions = std::count_if(
         engine.Line().begin(), engine.Line().end(),
         [](const std::string& token) { return token.find('/') != std::string::npos; });
-    if (engine.Tables().groups.front().terms.size() > 1 || fractions >= 2) {
+    if (engine.Tables().groups.front().terms.size() > 1 || count >= 2) {
         engine.FractionArithmetic(0);
     }
 }

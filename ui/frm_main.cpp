@@ -346,8 +346,6 @@ void FrmMain::UpdateCommands() {
     for (QAction* action : std::as_const(commands)) {
         action->setEnabled(enabled.contains(action->objectName()));
     }
-    // Fraction Arithmetic turns to fractions when it is solved.
-    ShowNumberForm();
 }
 
 void FrmMain::ShowNumberForm() {

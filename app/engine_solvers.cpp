@@ -55,7 +55,7 @@ void CalculateFractions(SolveRun& run) {
     const WithFractions fractions(run.problem.settings);
     Engine engine(run.problem);
     engine.Open();
-    const auto fractions = std::count_if(
+    const auto count = std::count_if(
         engine.Line().begin(), engine.Line().end(),
         [](const std::string& token) { return token.find('/') != std::string::npos; });
     if (engine.Tables().groups.front().terms.size() > 1 || count >= 2) {

@@ -173,6 +173,7 @@ bool Engine::ExpandPower(std::size_t group) {
     if (base.Power < 0 && base.terms.size() == 1 && base.terms.front().numOver == 0) {
         throw Failure(FailureKind::DivisionByZero);
     }
+    // Also of a bracket that is 0, where a number by itself would fail: kept as it is.
     if (base.Power == 0) {
         Because(std::string(kZeroPowerReason), kOrdinaryStep);
         ReplaceBetween(open, base.tail, "(+1)");

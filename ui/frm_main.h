@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QMap>
 
 #include "core/clock.h"
 #include "core/problem.h"
 #include "core/random_source.h"
+#include "ui/frame_commands.h"
 #include "ui/frm_paper.h"
 #include "ui/window_learner.h"
 
@@ -29,14 +29,9 @@ class FrmMain : public QMainWindow {
     const Problem& CurrentProblem() const { return problem; }
 
   private:
-    void MakeMenus();
-    void MakePopUps();
-    void PopUpMenu(const char* name, QPoint place);
-    void MakeToolbar();
-    QAction* Command(const char* name) const { return commands.value(QLatin1String(name)); }
-    void OnTrigger(const char* name, void (FrmMain::*procedure)());
+    void ConnectCommands();
+    bool IsTicked(const char* command) const { return commands.At(command).isChecked(); }
     void LoadPaper();
-    void ConnectFunctions();
     void UpdateCommands();
     void ShowNumberForm();
 
@@ -54,9 +49,9 @@ class FrmMain : public QMainWindow {
     SystemClock clock;
     MersenneSource random;
     WindowLearner learner{this};
+    FrameCommands commands{*this};
     FrmPaper* paper = nullptr;
     bool askedForTopic = false;
-    QMap<QString, QAction*> commands;  ///< by control name
 };
 
 }  // namespace numerello

@@ -1,41 +1,100 @@
 #include "ui/frm_main.h"
 
+#include <QCloseEvent>
+#include <QDesktopServices>
+#include <QDropEvent>
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTimer>
+#include <QUrl>
+#include <optional>
 #include <utility>
 
 #include "catalogue/chooser.h"
+#include "catalogue/saved_problem.h"
 #include "ui/artwork.h"
 #include "ui/desk.h"
+#include "ui/dropped_file.h"
+#include "ui/frm_about.h"
+#include "ui/frm_options.h"
 #include "ui/frm_select.h"
 #include "ui/held_enter.h"
 #include "ui/pointer.h"
+#include "ui/text.h"
+#include "ui/web_pages.h"
 
 namespace numerello {
 
 namespace {
 
+using std::chrono::seconds;
+
 constexpr QSize kOpeningSize(1100, 800);
 constexpr QSize kSmallestSize(640, 480);
 constexpr int kCaptionHeight = 32;  ///< what the desktop adds above a window, at a guess
 
+constexpr seconds kStatusTime(5);
+constexpr seconds kAddressTime(20);  ///< to be copied down
+
 }  // namespace
 
-FrmMain::FrmMain() {
+/// The entry form of the frame while a problem is loaded; the pointer is busy meanwhile.
+class FrmMain::Loading : public LoadingForm {
+  public:
+    explicit Loading(FrmMain& frame) : frame(frame) {}
+
+    void Open() override {
+        busy.emplace(Qt::BusyCursor);
+        frame.LoadPaper();
+    }
+
+    void ShowEntry() override { frame.paper->ShowEntry(); }
+    void Form_KeyPress(std::string_view key) override { frame.paper->Form_KeyPress(key); }
+    void compute_Click() override { frame.paper->compute_Click(); }
+    void TellStatus(std::string_view text) override {
+        frame.status->Tell(ToQString(text), kStatusTime);
+    }
+
+  private:
+    FrmMain& frame;
+    std::optional<PointerGuard> busy;
+};
+
+FrmMain::FrmMain(SettingsStore& store, std::string documents, std::string StartFile)
+    : store(store),
+      files(std::move(documents), fileDialog),
+      StartFile(StartFilePath(StartFile).empty() ? std::string() : std::move(StartFile)) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Vantrel - Numerello"));
     setMinimumSize(kSmallestSize);
+    setAcceptDrops(true);
     // The frame's own menu would offer to take the toolbar away.
     setContextMenuPolicy(Qt::NoContextMenu);
     setCentralWidget(new Desk(this));
+    setStatusBar(status);
 
-    commands.At("mnuShowStep").setChecked(problem.settings.mnuShowStep);
-    commands.At("mnuHideWiz").setChecked(true);
-    commands.At("mnuShowLight").setChecked(true);
-    commands.At("mnuPencil").setChecked(true);
+    ShowSettings(ReadSettings(store));
     ConnectCommands();
-    ShowNumberForm();
     UpdateCommands();
+}
+
+FrmMain::~FrmMain() {
+    // The form plays the frame's problem, and so goes before it.
+    delete takeCentralWidget();
+}
+
+void FrmMain::ShowSettings(const Settings& settings) {
+    problem.settings = settings.answers;
+    commands.At("mnuPencil").setChecked(settings.mnuPencil);
+    commands.At("mnuShowStep").setChecked(settings.answers.mnuShowStep);
+    commands.At("mnuHideWiz").setChecked(settings.mnuHideWiz);
+    commands.At("mnuShowLight").setChecked(settings.mnuShowLight);
+    ShowNumberForm();
+}
+
+Settings FrmMain::CurrentSettings() const {
+    return {problem.settings, IsTicked("mnuPencil"), IsTicked("mnuHideWiz"),
+            IsTicked("mnuShowLight")};
 }
 
 /// A command without a row here is not built yet, and grey.
@@ -45,11 +104,26 @@ void FrmMain::ConnectCommands() {
         void (FrmMain::*procedure)();
     };
     constexpr Row kRows[] = {
-        {"mnuNew", &FrmMain::mnuNew_Click},         {"mnuExit", &FrmMain::mnuExit_Click},
-        {"mnuSolve", &FrmMain::mnuSolve_Click},     {"mnuErase", &FrmMain::mnuErase_Click},
-        {"mnuExp", &FrmMain::mnuExp_Click},         {"mnuConvertDF", &FrmMain::mnuConvertDF_Click},
-        {"mnuPencil", &FrmMain::mnuPencil_Click},   {"mnuShowStep", &FrmMain::mnuShowStep_Click},
-        {"mnuHideWiz", &FrmMain::mnuHideWiz_Click}, {"mnuShowLight", &FrmMain::mnuShowLight_Click},
+        {"mnuNew", &FrmMain::mnuNew_Click},
+        {"mnuSave", &FrmMain::mnuSave_Click},
+        {"mnuLoad", &FrmMain::mnuLoad_Click},
+        {"mnuExit", &FrmMain::mnuExit_Click},
+
+        {"mnuSolve", &FrmMain::mnuSolve_Click},
+        {"mnuErase", &FrmMain::mnuErase_Click},
+        {"mnuExp", &FrmMain::mnuExp_Click},
+        {"mnuConvertDF", &FrmMain::mnuConvertDF_Click},
+
+        {"mnuPencil", &FrmMain::mnuPencil_Click},
+        {"mnuShowStep", &FrmMain::mnuShowStep_Click},
+        {"mnuHideWiz", &FrmMain::mnuHideWiz_Click},
+        {"mnuShowLight", &FrmMain::mnuShowLight_Click},
+        {"mnuChange", &FrmMain::mnuChange_Click},
+
+        {"mnuAlgSol", &FrmMain::mnuAlgSol_Click},
+        {"mnuHomePage", &FrmMain::mnuHomePage_Click},
+        {"mnuOnlineSupport", &FrmMain::mnuOnlineSupport_Click},
+        {"mnuAbout", &FrmMain::mnuAbout_Click},
     };
     for (const Row& row : kRows) {
         commands.Connect(row.command, [this, procedure = row.procedure] { (this->*procedure)(); });
@@ -89,10 +163,28 @@ void FrmMain::mnuNew_Click() {
     }
 }
 
-void FrmMain::AskForFirstTopic() {
-    if (!std::exchange(askedForTopic, true)) {
-        mnuNew_Click();
+void FrmMain::Begin() {
+    if (std::exchange(hasBegun, true)) {
+        return;
     }
+    if (StartFile.empty()) {
+        mnuNew_Click();
+    } else {
+        LoadProblem(std::exchange(StartFile, {}));
+    }
+}
+
+void FrmMain::mnuSave_Click() {
+    numerello::mnuSave_Click(problem, files, clock, learner);
+}
+
+void FrmMain::mnuLoad_Click() {
+    LoadProblem({});
+}
+
+void FrmMain::LoadProblem(std::string_view StartFile) {
+    Loading form(*this);
+    numerello::mnuLoad_Click(StartFile, files, problem, form, clock, random);
 }
 
 void FrmMain::LoadPaper() {
@@ -173,6 +265,72 @@ void FrmMain::mnuConvertDF_Click() {
 
 void FrmMain::mnuExit_Click() {
     close();
+}
+
+void FrmMain::mnuChange_Click() {
+    const HeldEnterGuard oneEnter;
+    FrmOptions options(problem.settings, this);
+    if (options.exec() == QDialog::Accepted && paper != nullptr) {
+        paper->WizSettingsChanged();
+    }
+}
+
+void FrmMain::mnuAlgSol_Click() {
+    OpenPage(ProductPage());
+}
+
+void FrmMain::mnuHomePage_Click() {
+    OpenPage(HomePage());
+}
+
+void FrmMain::mnuOnlineSupport_Click() {
+    OpenPage(SupportPage());
+}
+
+void FrmMain::OpenPage(const QUrl& page) {
+    if (!QDesktopServices::openUrl(page)) {
+        status->Tell(page.toString(), kAddressTime);
+    }
+}
+
+void FrmMain::mnuAbout_Click() {
+    const HeldEnterGuard oneEnter;
+    FrmAbout(this).exec();
+}
+
+bool FrmMain::event(QEvent* event) {
+    // Commands under the pointer have nothing to say in the status line, and would empty it.
+    return event->type() == QEvent::StatusTip || QMainWindow::event(event);
+}
+
+void FrmMain::dragEnterEvent(QDragEnterEvent* event) {
+    if (!DroppedFile(*event).empty()) {
+        event->setDropAction(Qt::CopyAction);
+        event->accept();
+    }
+}
+
+void FrmMain::dropEvent(QDropEvent* event) {
+    const std::string file = DroppedFile(*event);
+    if (file.empty()) {
+        return;
+    }
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    // The program that the file comes from waits until this event is over.
+    QTimer::singleShot(0, this, [this, file] {
+        activateWindow();
+        LoadProblem(file);
+    });
+}
+
+void FrmMain::closeEvent(QCloseEvent* event) {
+    if (auto* graph = findChild<QWidget*>(QStringLiteral("frmGraph"))) {
+        graph->close();
+    }
+    StoreSettings(CurrentSettings(), store);
+    event->accept();
+    emit Closed();
 }
 
 }  // namespace numerello

@@ -88,7 +88,7 @@ class FrmMain : public QMainWindow {
     FrameCommands commands{*this};
     StatusLine* status = new StatusLine(this);
     FrmPaper* paper = nullptr;  ///< null before the first topic
-    std::string StartFile;
+    std::string startFile;
     bool hasBegun = false;
 };
 

@@ -81,10 +81,7 @@ void ArrowButton::paintEvent(QPaintEvent* /*event*/) {
 }
 
 SheetWidget::SheetWidget(int index, const FontMetrics& metrics, QWidget* desk)
-    : QWidget(desk),
-      metrics(metrics),
-      hasTitleStrip(index > 0),
-      arrow(new ArrowButton(this)) {
+    : QWidget(desk), metrics(metrics), hasTitleStrip(index > 0), arrow(new ArrowButton(this)) {
     setObjectName(QStringLiteral("Paper%1").arg(index));
     arrow->setObjectName(QStringLiteral("blinker%1").arg(index));
     setAttribute(Qt::WA_OpaquePaintEvent);

@@ -23,6 +23,7 @@ class Normaliser {
     explicit Normaliser(const Tokens& tokens) : in(tokens) {}
 
     Tokens Read() {
+        out.reserve(2 * in.size());  // a sign for each token at most
         for (at = 0; at < in.size(); ++at) {
             const std::string& token = in[at];
             if (token.empty()) {

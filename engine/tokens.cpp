@@ -18,7 +18,8 @@ bool IsNumeric(std::string_view token) {
 }
 
 bool IsOneOf(std::string_view token, std::string_view set) {
-    return token.size() == 1 && set.find(token) != std::string_view::npos;
+    return token.size() == 1 &&
+           std::any_of(set.begin(), set.end(), [&token](char each) { return each == token[0]; });
 }
 
 /// Reads numbers out of single characters.
@@ -27,6 +28,7 @@ class NumberMerger {
     NumberMerger(const Tokens& tokens, int ProblemType) : in(tokens), code(ProblemType) {}
 
     Tokens Merge() {
+        out.reserve(in.size());
         while (at < in.size()) {
             if (IsNumeric(in[at]) || in[at] == "~") {
                 TakeNumber();
@@ -43,8 +45,8 @@ class NumberMerger {
         return index < in.size() ? in[index] : kNone;
     }
 
-    std::string Behind(std::size_t back) const {
-        return out.size() < back ? "" : out[out.size() - back];
+    std::string_view Behind(std::size_t back) const {
+        return out.size() < back ? std::string_view() : out[out.size() - back];
     }
 
     bool IsExponent() const { return Behind(1) == "^" || (Behind(1) == "-" && Behind(2) == "^"); }
@@ -71,7 +73,7 @@ class NumberMerger {
             number += token;
             ++at;
         }
-        out.push_back(number);
+        out.push_back(std::move(number));
     }
 
     /// The "E" of a power of ten and the sign behind it.
@@ -141,12 +143,8 @@ bool IsNumberToken(std::string_view token) {
 }
 
 Tokens TextToTokens(std::string_view text) {
-    Tokens tokens;
-    for (std::string& character : Characters(text)) {
-        if (character != " ") {
-            tokens.push_back(std::move(character));
-        }
-    }
+    Tokens tokens = Characters(text);
+    tokens.erase(std::remove(tokens.begin(), tokens.end(), " "), tokens.end());
     return tokens;
 }
 
@@ -163,7 +161,11 @@ std::string TextBetween(const Tokens& tokens, std::size_t begin, std::size_t end
 }
 
 std::string WithoutEmphasis(std::string_view text) {
-    return Replace(Replace(text, "[", ""), "]", "");
+    std::string plain(text);
+    plain.erase(std::remove_if(plain.begin(), plain.end(),
+                               [](char each) { return each == '[' || each == ']'; }),
+                plain.end());
+    return plain;
 }
 
 Tokens MergeNumberTokens(const Tokens& tokens, int ProblemType) {

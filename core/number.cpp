@@ -211,6 +211,11 @@ std::optional<std::int16_t> LeadingInteger16(std::string_view text) {
 }
 
 std::string NumberText(double value) {
+    // Most are whole; those need no digits weighed.
+    constexpr double kSixteenDigits = 1e15;
+    if (std::abs(value) < kSixteenDigits && value == std::trunc(value)) {
+        return WholeText(static_cast<std::int64_t>(value));
+    }
     return FloatText(value, 15);
 }
 

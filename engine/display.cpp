@@ -16,13 +16,13 @@ class VisibleTokens {
         out.reserve(2 * in.size());  // a root and its coefficient are two
         for (at = 0; at < in.size(); ++at) {
             const std::string& token = in[at];
-            if (token == "|") {
+            if (IsMark(token, '|')) {
                 barOpen = !barOpen;
             }
-            if (token == "1" && IsHiddenOne()) {
+            if (IsMark(token, '1') && IsHiddenOne()) {
                 continue;
             }
-            if (token == "+" && IsHiddenPlus()) {
+            if (IsMark(token, '+') && IsHiddenPlus()) {
                 continue;
             }
             if (const std::size_t root = token.find('~'); root != std::string::npos) {
@@ -45,7 +45,7 @@ class VisibleTokens {
 
     /// An exponent of 1 goes with its caret; a coefficient of 1 stands before a letter.
     bool IsHiddenOne() {
-        if (Last() == "^") {
+        if (IsMark(Last(), '^')) {
             out.pop_back();
             return true;
         }
@@ -54,7 +54,8 @@ class VisibleTokens {
 
     bool IsHiddenPlus() const {
         const std::string_view last = Last();
-        return last.empty() || last == "=" || last == "(" || (last == "|" && barOpen);
+        return last.empty() || IsMark(last, '=') || IsMark(last, '(') ||
+               (IsMark(last, '|') && barOpen);
     }
 
     void TakeRoot(const std::string& token, std::size_t root) {

@@ -13,10 +13,11 @@ namespace {
 
 /// A sign behind "/" and an exponent of 1 go; numbers beside them are put together then.
 bool LeavesNumbersToJoin(const Tokens& tokens) {
-    return std::adjacent_find(
-               tokens.begin(), tokens.end(), [](const std::string& one, const std::string& next) {
-                   return (one == "/" && IsSign(next)) || (one == "^" && next == "1");
-               }) != tokens.end();
+    return std::adjacent_find(tokens.begin(), tokens.end(),
+                              [](const std::string& one, const std::string& next) {
+                                  return (IsMark(one, '/') && IsSign(next)) ||
+                                         (IsMark(one, '^') && IsMark(next, '1'));
+                              }) != tokens.end();
 }
 
 auto Parens(const std::string& line) {

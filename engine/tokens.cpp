@@ -14,7 +14,7 @@ namespace {
 constexpr int kCellPitch = 4;
 
 bool IsNumeric(std::string_view token) {
-    return IsDigit(token) || token == ".";
+    return IsDigit(token) || IsMark(token, '.');
 }
 
 bool IsOneOf(std::string_view token, std::string_view set) {
@@ -30,7 +30,7 @@ class NumberMerger {
     Tokens Merge() {
         out.reserve(in.size());
         while (at < in.size()) {
-            if (IsNumeric(in[at]) || in[at] == "~") {
+            if (IsNumeric(in[at]) || IsMark(in[at], '~')) {
                 TakeNumber();
             } else {
                 out.push_back(in[at++]);
@@ -49,11 +49,13 @@ class NumberMerger {
         return out.size() < back ? std::string_view() : out[out.size() - back];
     }
 
-    bool IsExponent() const { return Behind(1) == "^" || (Behind(1) == "-" && Behind(2) == "^"); }
+    bool IsExponent() const {
+        return IsMark(Behind(1), '^') || (IsMark(Behind(1), '-') && IsMark(Behind(2), '^'));
+    }
 
     /// Behind a lone "/" a number takes no other one, but between two fractions.
     bool TakesSlash(bool isExponent) const {
-        const bool behindSlash = Behind(1) == "/" && code != kFractionArithmetic;
+        const bool behindSlash = IsMark(Behind(1), '/') && code != kFractionArithmetic;
         return !isExponent && !behindSlash;
     }
 
@@ -64,8 +66,9 @@ class NumberMerger {
         while (at < in.size()) {
             const std::string& token = in[at];
             const bool digits = IsNumeric(token) || IsPowerOfTen(number);
-            const bool root = token == "~" && !isExponent && number.find('~') == std::string::npos;
-            const bool slash = token == "/" && joins && NumberFollows();
+            const bool root =
+                IsMark(token, '~') && !isExponent && number.find('~') == std::string::npos;
+            const bool slash = IsMark(token, '/') && joins && NumberFollows();
             if (!digits && !root && !slash) {
                 break;
             }
@@ -78,7 +81,7 @@ class NumberMerger {
 
     /// The "E" of a power of ten and the sign behind it.
     bool IsPowerOfTen(const std::string& number) const {
-        return (Token(at) == "E" && !number.empty()) ||
+        return (IsMark(Token(at), 'E') && !number.empty()) ||
                (IsSign(Token(at)) && number.ends_with('E'));
     }
 
@@ -116,16 +119,8 @@ bool DividesByZero(const std::string& text) {
 
 }  // namespace
 
-bool IsOperator(std::string_view token) {
-    return IsOneOf(token, "+-*/");
-}
-
-bool IsSign(std::string_view token) {
-    return IsOneOf(token, "+-");
-}
-
 bool IsExponentSign(const Tokens& tokens, std::size_t at) {
-    return at > 0 && tokens[at - 1] == "^";
+    return at > 0 && IsMark(tokens[at - 1], '^');
 }
 
 bool IsFraction(std::string_view token) {
@@ -175,12 +170,12 @@ Tokens MergeNumberTokens(const Tokens& tokens, int ProblemType) {
 Tokens CellsToTokens(TypedProblem& typed) {
     CollectVariables(typed);
     Tokens tokens;
-    if (typed.ExprCells[kCellPitch] != "-") {
+    if (!IsMark(typed.ExprCells[kCellPitch], '-')) {
         tokens.emplace_back("+");
     }
     for (int cell = kCellPitch; cell <= typed.ExprCellCount; cell += kCellPitch) {
         const std::string& token = typed.ExprCells[cell];
-        tokens.push_back(token == "{" ? "/" : token);
+        tokens.push_back(IsMark(token, '{') ? "/" : token);
     }
     if (DividesByZero(TokensToText(tokens))) {
         throw Failure(FailureKind::DivisionByZero);

@@ -64,7 +64,7 @@ void Engine::ReadLine() {
             tokens = MergeNumberTokens(TextToTokens(TokensToText(tokens)), code);
         }
         lineText = TokensToText(tokens);
-        shownLine = DisplayText(tokens, code);
+        shownLine.reset();
     }
     tables = BreakIntoTerms(tokens, Side);
     if (ReadsFirstExponents) {
@@ -74,18 +74,27 @@ void Engine::ReadLine() {
     readSide = Side;
 }
 
+/// The line that was read, as the learner sees it. Set out when it is first asked for: most lines
+/// are passed over.
+const std::string& Engine::ShownLine() {
+    if (!shownLine) {
+        shownLine = DisplayText(tokens, problem.topic.ProblemType);
+    }
+    return *shownLine;
+}
+
 void Engine::RecordStep(Record record) {
     ReadLine();
     StepLog& log = problem.log;
     const bool sameTerms = TermCount(tables) == lastTermCount && !TermsChanged;
-    if ((record == Record::OnlyIfChanged && sameTerms) || shownLine == log.LastStepLine) {
+    if ((record == Record::OnlyIfChanged && sameTerms) || ShownLine() == log.LastStepLine) {
         log.StepUnchanged = true;
-    } else if (record != Record::Refresh && IsStored(shownLine)) {
+    } else if (record != Record::Refresh && IsStored(ShownLine())) {
         CleanReason();
         log.StepLevels[log.StepCount] = log.StepLevel;
-        log.LastStepLine = shownLine;
+        log.LastStepLine = ShownLine();
         log.StepUnchanged = false;
-        log.Write(shownLine, log.StepReason);
+        log.Write(ShownLine(), log.StepReason);
     }
     lastTermCount = TermCount(tables);
 }

@@ -148,7 +148,12 @@ std::string TokensToText(const Tokens& tokens) {
 }
 
 std::string TextBetween(const Tokens& tokens, std::size_t begin, std::size_t end) {
+    std::size_t length = 0;
+    for (std::size_t i = begin; i < end; ++i) {
+        length += tokens[i].size();
+    }
     std::string text;
+    text.reserve(length);
     for (std::size_t i = begin; i < end; ++i) {
         text += tokens[i];
     }

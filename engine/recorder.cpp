@@ -25,10 +25,12 @@ auto Parens(const std::string& line) {
 }
 
 /// " 1x" becomes " x", and so on.
-std::string WithoutUnit(const std::string& reason, std::string_view before,
-                        std::string_view letter) {
-    const std::string shown = Replace(reason, Text(before, "1", letter), Text(before, letter));
-    return Replace(shown, Text(before, "-1", letter), Text(before, "-", letter));
+void DropUnit(std::string& reason, std::string_view before, std::string_view letter) {
+    if (reason.find(Text("1", letter)) == std::string::npos) {
+        return;
+    }
+    reason = Replace(reason, Text(before, "1", letter), Text(before, letter));
+    reason = Replace(reason, Text(before, "-1", letter), Text(before, "-", letter));
 }
 
 std::size_t TermCount(const TermTables& tables) {
@@ -109,10 +111,10 @@ void Engine::CleanReason() {
         if (reason.find(letter) == std::string::npos) {
             continue;
         }
-        reason = WithoutUnit(reason, " ", letter);
-        reason = WithoutUnit(reason, "(", letter);
+        DropUnit(reason, " ", letter);
+        DropUnit(reason, "(", letter);
         // Behind "#" the second letter keeps its 1: kept as it is.
-        reason = WithoutUnit(reason, "#", first);
+        DropUnit(reason, "#", first);
     }
 }
 

@@ -172,6 +172,15 @@ Integer ToInteger(double value) {
 }  // namespace
 
 double ToNumber(std::string_view text) {
+    // Most are short and whole.
+    constexpr std::size_t kExactDigits = 15;
+    if (text.size() <= kExactDigits && OnlyDigits(text)) {
+        std::int64_t value = 0;
+        for (const char digit : text) {
+            value = 10 * value + (digit - '0');
+        }
+        return static_cast<double>(value);
+    }
     const std::string_view number = Trimmed(text);
     if (number.empty()) {
         return 0;

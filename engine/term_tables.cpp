@@ -123,7 +123,7 @@ class TableReader {
             Group whole;
             whole.begin = side.begin;
             whole.end = whole.tail = side.end;
-            tables.groups.push_back(whole);
+            tables.groups.push_back(std::move(whole));
         } else {
             FindGroups();
         }
@@ -240,6 +240,8 @@ class TableReader {
     }
 
     void ReadTerms(Group& group) {
+        constexpr std::size_t kMostHaveNoMore = 4;
+        group.terms.reserve(kMostHaveNoMore);
         std::size_t at = group.begin;
         while (at < group.end) {
             const std::size_t start = at++;

@@ -1,5 +1,7 @@
 #include "engine/display.h"
 
+#include <utility>
+
 #include "core/text.h"
 #include "notation/line_setter.h"
 
@@ -31,7 +33,7 @@ class VisibleTokens {
                 out.push_back(token);
             }
         }
-        return out;
+        return std::move(out);
     }
 
   private:

@@ -1,5 +1,7 @@
 #include "engine/normalise.h"
 
+#include <utility>
+
 #include "core/text.h"
 
 namespace numerello {
@@ -45,7 +47,7 @@ class Normaliser {
                 Take(token);
             }
         }
-        return out;
+        return std::move(out);
     }
 
   private:

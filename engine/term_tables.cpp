@@ -1,6 +1,7 @@
 #include "engine/term_tables.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/bounds.h"
 #include "core/failure.h"
@@ -35,7 +36,7 @@ class TermReader {
             TakeToken(tokens[at]);
         }
         term.Num *= sign;
-        return term;
+        return std::move(term);
     }
 
   private:

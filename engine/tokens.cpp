@@ -1,6 +1,7 @@
 #include "engine/tokens.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/failure.h"
 #include "core/text.h"
@@ -36,7 +37,7 @@ class NumberMerger {
                 out.push_back(in[at++]);
             }
         }
-        return out;
+        return std::move(out);
     }
 
   private:

@@ -210,6 +210,10 @@ void FrmPaper::Form_KeyPress(std::string_view key) {
     TypeText(ToQString(key));
 }
 
+void FrmPaper::ShowEntry() {
+    Refresh();
+}
+
 void FrmPaper::TypeKey(std::string_view key) {
     const bool sheetIsFull = problem.playback.LineEndX >= kTypedLineLimit && key != kBackspace;
     if (!IsJudged(problem, key) || sheetIsFull) {

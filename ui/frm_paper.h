@@ -31,6 +31,9 @@ class FrmPaper : public QScrollArea {
     /// A key of the typing line: a character or a Backspace.
     void Form_KeyPress(std::string_view key);
 
+    /// Boxes and lists were filled by something else than the learner.
+    void ShowEntry();
+
     /// Whether the typing line is open for keys.
     bool TakesKeys() const;
 

@@ -122,12 +122,6 @@ class Worksheet : public Stage, public PaperSheets {
     void OnChange(std::function<void()> listener) { onChange = std::move(listener); }
 
   protected:
-    /// The busy pointer of solving ends here.
-    virtual void RestorePointer() {}
-
-    /// Clears the tables of the expression engine; the step log stays.
-    virtual void ClearExpression() {}
-
     /// Shows the graph that GraphMode asks for.
     virtual void OpenGraph() {}
 

@@ -11,7 +11,6 @@ namespace {
 
 constexpr Color kWhite = 0xFFFFFF;
 constexpr Color kDarkInk = 0x553A2B;
-constexpr Color kPaleInk = 0xC8B4A0;
 
 constexpr double kGridWidth = 1;
 constexpr double kAxisWidth = 2;
@@ -26,6 +25,17 @@ constexpr double kInsideRightEdge = 0.02;  ///< part of GraphXMax
 bool IsDark(Color color) {
     constexpr double kMiddle = 110;
     return 0.3 * (color & 255) + 0.59 * (color >> 8 & 255) + 0.11 * (color >> 16 & 255) < kMiddle;
+}
+
+/// So much of the ink on the ground.
+Color Pale(Color ink, Color ground) {
+    constexpr double kInk = 0.4;
+    Color pale = 0;
+    for (const unsigned shift : {0U, 8U, 16U}) {
+        const double part = kInk * (ink >> shift & 255) + (1 - kInk) * (ground >> shift & 255);
+        pale |= static_cast<Color>(part) << shift;
+    }
+    return pale;
 }
 
 class Drawing {
@@ -104,8 +114,13 @@ class Drawing {
 
     /// In the middle of its quadrant.
     void Numeral(const char* text, double xEdge, double yEdge) {
-        picture.marks.emplace_back(
-            GraphLabel{text, xEdge / 2, yEdge / 2, 0.5, 0.5, {"Courier", kNumeralSize}, kPaleInk});
+        picture.marks.emplace_back(GraphLabel{text,
+                                              xEdge / 2,
+                                              yEdge / 2,
+                                              0.5,
+                                              0.5,
+                                              {"Courier", kNumeralSize},
+                                              Pale(ink, picture.BackColor)});
     }
 
     const GraphRange& range;

@@ -166,6 +166,7 @@ FrmMain::FrmMain() {
     OnTrigger("mnuNew", &FrmMain::mnuNew_Click);
     OnTrigger("mnuSolve", &FrmMain::mnuSolve_Click);
     OnTrigger("mnuErase", &FrmMain::mnuErase_Click);
+    OnTrigger("mnuGraph", &FrmMain::mnuGraph_Click);
     OnTrigger("mnuExp", &FrmMain::mnuExp_Click);
     OnTrigger("mnuShowStep", &FrmMain::mnuShowStep_Click);
     OnTrigger("mnuHideWiz", &FrmMain::mnuHideWiz_Click);
@@ -312,6 +313,8 @@ void FrmMain::LoadPaper() {
     paper->ShowLight(Command("mnuShowLight")->isChecked());
     paper->UsePencil(Command("mnuPencil")->isChecked());
     connect(paper, &FrmPaper::Changed, this, &FrmMain::UpdateCommands);
+    connect(paper, &FrmPaper::GraphAsked, this, &FrmMain::mnuGraph_Click);
+    connect(paper, &FrmPaper::GraphDone, &graphs, &GraphHolder::Close);
     connect(paper, &FrmPaper::PencilMenuAsked, this,
             [this](QPoint place) { PopUpMenu("mnuHidden2", place); });
     connect(paper, &FrmPaper::LightMenuAsked, this,
@@ -338,6 +341,9 @@ void FrmMain::UpdateCommands() {
     if (open && problem.controls.SolveEnabled) {
         enabled.insert(QStringLiteral("mnuSolve"));
     }
+    if (open && problem.controls.GraphEnabled) {
+        enabled.insert(QStringLiteral("mnuGraph"));
+    }
     if (open && paper->TakesKeys()) {
         for (const Function& function : kFunctions) {
             enabled.insert(QString::fromUtf8(function.command));
@@ -346,6 +352,7 @@ void FrmMain::UpdateCommands() {
     for (QAction* action : std::as_const(commands)) {
         action->setEnabled(enabled.contains(action->objectName()));
     }
+    graphs.SetPrintEnabled(Command("mnuPrint")->isEnabled());
 }
 
 void FrmMain::ShowNumberForm() {
@@ -360,6 +367,10 @@ void FrmMain::mnuSolve_Click() {
 
 void FrmMain::mnuErase_Click() {
     paper->clear_Click();
+}
+
+void FrmMain::mnuGraph_Click() {
+    graphs.Show(problem);
 }
 
 void FrmMain::mnuExp_Click() {
@@ -399,6 +410,11 @@ void FrmMain::mnuConvertDF_Click() {
 
 void FrmMain::mnuExit_Click() {
     close();
+}
+
+void FrmMain::closeEvent(QCloseEvent* event) {
+    graphs.Close();
+    QMainWindow::closeEvent(event);
 }
 
 }  // namespace numerello

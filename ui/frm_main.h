@@ -7,6 +7,7 @@
 #include "core/problem.h"
 #include "core/random_source.h"
 #include "ui/frm_paper.h"
+#include "ui/graph_holder.h"
 #include "ui/window_learner.h"
 
 namespace numerello {
@@ -28,6 +29,9 @@ class FrmMain : public QMainWindow {
 
     const Problem& CurrentProblem() const { return problem; }
 
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
   private:
     void MakeMenus();
     void MakePopUps();
@@ -42,6 +46,7 @@ class FrmMain : public QMainWindow {
 
     void mnuSolve_Click();
     void mnuErase_Click();
+    void mnuGraph_Click();
     void mnuExp_Click();
     void mnuShowStep_Click();
     void mnuHideWiz_Click();
@@ -54,6 +59,7 @@ class FrmMain : public QMainWindow {
     SystemClock clock;
     MersenneSource random;
     WindowLearner learner{this};
+    GraphHolder graphs{this};
     FrmPaper* paper = nullptr;
     bool askedForTopic = false;
     QMap<QString, QAction*> commands;  ///< by control name

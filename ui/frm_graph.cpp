@@ -20,6 +20,8 @@ constexpr int kTwipsPerPixel = 15;
 constexpr int kNormalSide = 8000 / kTwipsPerPixel;
 constexpr int kSmallSide = (4000 + kTwipsPerPixel / 2) / kTwipsPerPixel;
 
+constexpr int kCaptionHeight = 32;  ///< what the desktop adds above a window, at a guess
+
 /// What lies on the drawing keeps away from its edges.
 constexpr int kMargin = 8;
 /// The list leaves the axis and the numeral of its quadrant free.
@@ -142,18 +144,18 @@ void FrmGraph::MakeMenus() {
 }
 
 void FrmGraph::MakeControls() {
-    Picture1 = new GraphView(this);
-    Picture1->setObjectName(QStringLiteral("Picture1"));
-    setCentralWidget(Picture1);
-    Command1 = new ZoomButton(QStringLiteral("zoomin"), QStringLiteral("Zoom In"), Picture1);
-    Command1->setObjectName(QStringLiteral("Command1"));
-    Command2 = new ZoomButton(QStringLiteral("zoomout"), QStringLiteral("Zoom Out"), Picture1);
-    Command2->setObjectName(QStringLiteral("Command2"));
-    List1 = new CoordinateView(Picture1);
-    List1->setObjectName(QStringLiteral("List1"));
-    connect(Picture1, &GraphView::Resized, this, &FrmGraph::PlaceControls);
-    connect(Command1, &QAbstractButton::clicked, this, &FrmGraph::Command1_Click);
-    connect(Command2, &QAbstractButton::clicked, this, &FrmGraph::Command2_Click);
+    picture = new GraphView(this);
+    picture->setObjectName(QStringLiteral("Picture1"));
+    setCentralWidget(picture);
+    zoomIn = new ZoomButton(QStringLiteral("zoomin"), QStringLiteral("Zoom In"), picture);
+    zoomIn->setObjectName(QStringLiteral("Command1"));
+    zoomOut = new ZoomButton(QStringLiteral("zoomout"), QStringLiteral("Zoom Out"), picture);
+    zoomOut->setObjectName(QStringLiteral("Command2"));
+    list = new CoordinateView(picture);
+    list->setObjectName(QStringLiteral("List1"));
+    connect(picture, &GraphView::Resized, this, &FrmGraph::PlaceControls);
+    connect(zoomIn, &QAbstractButton::clicked, this, &FrmGraph::Command1_Click);
+    connect(zoomOut, &QAbstractButton::clicked, this, &FrmGraph::Command2_Click);
 }
 
 void FrmGraph::OnTrigger(const char* name, Procedure procedure) {
@@ -168,12 +170,13 @@ void FrmGraph::Open() {
         setGeometry(OnScreen(place, parentWidget()->screen()->availableGeometry()));
     }
     show();
-    Picture1->setFocus();
+    picture->setFocus();
 }
 
 void FrmGraph::ShowRequest(const Problem& problem) {
     graph.TakeRequest(problem);
     Redraw();
+    setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
     raise();
     activateWindow();
@@ -188,23 +191,23 @@ void FrmGraph::Redraw() {
     const PointerGuard busy(Qt::WaitCursor);
     graph.Redraw();
     setWindowTitle(ToQString(graph.TopicTitle()));
-    Picture1->Show(graph.Picture(), ToQString(SpokenGraph(graph)));
-    List1->Show(graph.ThePlot());
-    Command1->setEnabled(graph.Range().CanZoomIn());
+    picture->Show(graph.Picture(), ToQString(SpokenGraph(graph)));
+    list->Show(graph.ThePlot());
+    zoomIn->setEnabled(graph.Range().CanZoomIn());
     Command("mnuGraphZoomIn")->setEnabled(graph.Range().CanZoomIn());
-    Command2->setEnabled(graph.Range().CanZoomOut());
+    zoomOut->setEnabled(graph.Range().CanZoomOut());
     Command("mnuGraphZoomOut")->setEnabled(graph.Range().CanZoomOut());
     PlaceControls();
 }
 
 /// The list stands against the right edge, the buttons in a row at the left.
 void FrmGraph::PlaceControls() {
-    const QSize whole = Picture1->size();
-    Command1->move(kMargin, kMargin);
-    Command2->move(Command1->geometry().right() + 1 + kMargin, kMargin);
+    const QSize whole = picture->size();
+    zoomIn->move(kMargin, kMargin);
+    zoomOut->move(zoomIn->geometry().right() + 1 + kMargin, kMargin);
     const QSize most(qRound(whole.width() * kListWidth), qRound(whole.height() * kListHeight));
-    List1->resize(List1->SizeWithin(most));
-    List1->move(whole.width() - List1->width(), whole.height() - List1->height() - kMargin);
+    list->resize(list->SizeWithin(most));
+    list->move(whole.width() - list->width(), whole.height() - list->height() - kMargin);
 }
 
 /// The window stays centred where it was.
@@ -213,9 +216,12 @@ void FrmGraph::ResizeDrawing(int side) {
     if ((windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)) != 0) {
         showNormal();
     }
-    QRect place(0, 0, side, side + menuBar()->sizeHint().height());
+    const QRect free = screen()->availableGeometry();
+    const int above = menuBar()->sizeHint().height();
+    const int fits = std::min({side, free.width(), free.height() - above - kCaptionHeight});
+    QRect place(0, 0, fits, fits + above);
     place.moveCenter(centre);
-    setGeometry(OnScreen(place, screen()->availableGeometry()));
+    setGeometry(OnScreen(place, free));
 }
 
 void FrmGraph::ChooseColor(Color& color, const QString& title) {
@@ -240,12 +246,12 @@ void FrmGraph::Command2_Click() {
 
 void FrmGraph::mnuToggleZoomButtons_Click() {
     const bool shown = Command("mnuToggleZoomButtons")->isChecked();
-    Command1->setVisible(shown);
-    Command2->setVisible(shown);
+    zoomIn->setVisible(shown);
+    zoomOut->setVisible(shown);
 }
 
 void FrmGraph::mnuToggleCoordinates_Click() {
-    List1->setVisible(Command("mnuToggleCoordinates")->isChecked());
+    list->setVisible(Command("mnuToggleCoordinates")->isChecked());
 }
 
 void FrmGraph::mnuGraphQuadrant_Click() {

@@ -29,7 +29,7 @@ class FrmGraph : public QMainWindow {
     void SetPrintEnabled(bool enabled);
 
     /// Paints the drawing, and nothing that lies on it, into a square, as on paper.
-    void Paint(QPainter& painter, const QRectF& square) const { Picture1->Paint(painter, square); }
+    void Paint(QPainter& painter, const QRectF& square) const { picture->Paint(painter, square); }
 
     const Graph& Shown() const { return graph; }
 
@@ -66,10 +66,10 @@ class FrmGraph : public QMainWindow {
     GraphSettings& settings;
     Graph graph;
     QMap<QString, QAction*> commands;  ///< by control name
-    GraphView* Picture1 = nullptr;
-    ZoomButton* Command1 = nullptr;
-    ZoomButton* Command2 = nullptr;
-    CoordinateView* List1 = nullptr;
+    GraphView* picture = nullptr;
+    ZoomButton* zoomIn = nullptr;
+    ZoomButton* zoomOut = nullptr;
+    CoordinateView* list = nullptr;
 };
 
 }  // namespace numerello

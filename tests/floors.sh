@@ -29,7 +29,7 @@ check typeset "core"
 check columns "core notation typeset engine topics catalogue"
 check worksheet "core notation typeset engine topics catalogue"
 check output "core notation typeset engine topics catalogue"
-check graph "core notation typeset engine topics catalogue"
+check graph "core typeset"
 check app "core notation catalogue topics engine typeset columns worksheet output graph"
 check cli "core notation catalogue topics engine typeset columns worksheet output graph app"
 

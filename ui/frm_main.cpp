@@ -111,6 +111,7 @@ void FrmMain::ConnectCommands() {
 
         {"mnuSolve", &FrmMain::mnuSolve_Click},
         {"mnuErase", &FrmMain::mnuErase_Click},
+        {"mnuGraph", &FrmMain::mnuGraph_Click},
         {"mnuExp", &FrmMain::mnuExp_Click},
         {"mnuConvertDF", &FrmMain::mnuConvertDF_Click},
 
@@ -196,6 +197,8 @@ void FrmMain::LoadPaper() {
     paper->ShowLight(IsTicked("mnuShowLight"));
     paper->UsePencil(IsTicked("mnuPencil"));
     connect(paper, &FrmPaper::Changed, this, &FrmMain::UpdateCommands);
+    connect(paper, &FrmPaper::GraphAsked, this, &FrmMain::mnuGraph_Click);
+    connect(paper, &FrmPaper::GraphDone, &graphs, &GraphHolder::Close);
     connect(paper, &FrmPaper::PencilMenuAsked, this,
             [this](QPoint place) { commands.PopUp("mnuHidden2", place); });
     connect(paper, &FrmPaper::LightMenuAsked, this,
@@ -212,6 +215,7 @@ void FrmMain::LoadPaper() {
 void FrmMain::UpdateCommands() {
     const bool onSheet = paper != nullptr;
     commands.Update(problem.controls, onSheet, onSheet && paper->TakesKeys());
+    graphs.SetPrintEnabled(commands.At("mnuPrint").isEnabled());
 }
 
 void FrmMain::ShowNumberForm() {
@@ -226,6 +230,10 @@ void FrmMain::mnuSolve_Click() {
 
 void FrmMain::mnuErase_Click() {
     paper->clear_Click();
+}
+
+void FrmMain::mnuGraph_Click() {
+    graphs.Show(problem);
 }
 
 void FrmMain::mnuExp_Click() {
@@ -325,9 +333,7 @@ void FrmMain::dropEvent(QDropEvent* event) {
 }
 
 void FrmMain::closeEvent(QCloseEvent* event) {
-    if (auto* graph = findChild<QWidget*>(QStringLiteral("frmGraph"))) {
-        graph->close();
-    }
+    graphs.Close();
     StoreSettings(CurrentSettings(), store);
     event->accept();
     emit Closed();

@@ -11,6 +11,7 @@
 #include "core/settings.h"
 #include "ui/frame_commands.h"
 #include "ui/frm_paper.h"
+#include "ui/graph_holder.h"
 #include "ui/status_line.h"
 #include "ui/window_file_dialog.h"
 #include "ui/window_learner.h"
@@ -66,6 +67,7 @@ class FrmMain : public QMainWindow {
     void mnuExit_Click();
     void mnuSolve_Click();
     void mnuErase_Click();
+    void mnuGraph_Click();
     void mnuExp_Click();
     void mnuConvertDF_Click();
     void mnuPencil_Click();
@@ -86,6 +88,7 @@ class FrmMain : public QMainWindow {
     WindowFileDialog fileDialog{this};
     ProblemFiles files;
     FrameCommands commands{*this};
+    GraphHolder graphs{this};
     StatusLine* status = new StatusLine(this);
     FrmPaper* paper = nullptr;  ///< null before the first topic
     std::string StartFile;

@@ -72,6 +72,7 @@ void FrmPaper::MakeDesk() {
     pencil = new WritingPencil(problem, worksheet, desk);
     explanation = new FrmExplain(problem, learner, this);
     worksheet.Attach(*explanation);
+    worksheet.AttachGraph([this] { emit GraphAsked(); }, [this] { emit GraphDone(); });
 }
 
 void FrmPaper::MakeEntry() {
@@ -115,9 +116,9 @@ void FrmPaper::compute_Click() {
         numerello::compute_Click(problem, AllSolvers(), learner, worksheet);
     }
     ShowStep();
-    const int mode = problem.graph.GraphMode;
-    if (mode != 0 && problem.log.StepCount == 1) {
-        learner.MessageBox("", "Drawing the graph is not built yet.");
+    // A problem without a step is its drawing alone.
+    if (problem.graph.GraphMode != 0 && problem.log.StepCount == 1) {
+        emit GraphAsked();
     }
 }
 

@@ -55,6 +55,11 @@ class FrmPaper : public QScrollArea {
     /// Which commands are open may have changed.
     void Changed();
 
+    /// The drawing that the problem asks for is to be shown.
+    void GraphAsked();
+    /// The drawing of the last problem is to be put away.
+    void GraphDone();
+
     /// The right button asks for a pop-up, at this place of the screen.
     void PencilMenuAsked(QPoint place);
     void LightMenuAsked(QPoint place);

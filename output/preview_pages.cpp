@@ -18,7 +18,10 @@ void PreviewPages::Build(const HeadingLines& heading, std::span<const std::strin
     PrintHeading(heading, Current());
     PrintEmptyLine(Current());
     pages.front().lines.assign(heading.begin(), heading.end());
+    std::string_view above;
     for (const std::string& line : TestLines) {
+        PartFractions(above, line, Current());
+        above = line;
         DrawnPage& before = pages.back();
         const std::size_t marks = before.surface.Marks().size();
         PreviewWholeLine(line, *this, false, learner);

@@ -26,8 +26,11 @@ void PrintWorking(const WorkedProblem& worked, Surface& Printer, Learner& learne
         PrintWholeColumns(worked.problem, Printer, learner);
         return;
     }
+    std::string above = worked.line;
     for (const std::string& line : KeyLines(worked)) {
+        PartFractions(above, line, Printer);
         PrintWholeLine(Text(kIndent, line), Printer, false, learner);
+        above = line;
     }
 }
 

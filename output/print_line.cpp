@@ -28,6 +28,13 @@ void BeginAtTop(Surface& page, const TypesetVariant& variant) {
     page.CurrentY = variant.page->baseY - variant.startDrop.At(page.FontSize());
 }
 
+bool HasFraction(std::string_view text) {
+    return text.find('#') != std::string_view::npos;
+}
+
+/// What two such lines lack, and a little more to tell them apart.
+constexpr double kFractionRoom = 3;
+
 }  // namespace
 
 void PrintWholeLine(std::string_view Text, Surface& Printer, bool Blue, Learner& learner) {
@@ -44,6 +51,12 @@ void PreviewWholeLine(std::string_view Text, Sheets& Pages, bool Blue, Learner& 
         BeginAtTop(Pages.Current(), kPreviewVariant);
     }
     PreviewLine(Text, Pages, Blue, learner);
+}
+
+void PartFractions(std::string_view above, std::string_view below, Surface& page) {
+    if (HasFraction(above) && HasFraction(below)) {
+        page.CurrentY += kFractionRoom;
+    }
 }
 
 }  // namespace numerello

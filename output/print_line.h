@@ -13,4 +13,8 @@ namespace numerello {
 void PrintWholeLine(std::string_view Text, Surface& Printer, bool Blue, Learner& learner);
 void PreviewWholeLine(std::string_view Text, Sheets& Pages, bool Blue, Learner& learner);
 
+/// Moves the pen down where a line with a fraction is to follow right below another one: else the
+/// numerators would touch the denominators above them.
+void PartFractions(std::string_view above, std::string_view below, Surface& page);
+
 }  // namespace numerello

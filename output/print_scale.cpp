@@ -26,6 +26,9 @@ class InPixels {
     explicit InPixels(const PrintScale& scale) : scale(scale) {}
 
     Mark operator()(TextMark mark) const {
+        if (mark.text == "~" || mark.text == "&") {
+            mark.font.name = kSheetFace;
+        }
         mark.x = X(mark.x);
         mark.y = Y(mark.y);
         return mark;

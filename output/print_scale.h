@@ -60,7 +60,8 @@ class ScaledMetrics : public TextMetrics {
     PrintScale scale;
 };
 
-/// The marks of a print surface with their places in pixels from the paper's top left corner.
+/// The marks of a print surface with their places in pixels from the paper's top left corner. Root
+/// signs are taken from the sheets' face: that of the reasons has none.
 std::vector<Mark> MarksInPixels(std::span<const Mark> marks, const PrintScale& scale);
 
 /// The marks of each page that has any, in order.

@@ -33,6 +33,10 @@ void PrintSteps(const StepLog& log, bool withReasons, Surface& Printer, Learner&
         PrintWholeLine(log.StepText[1], Printer, false, learner);
     }
     for (int i = 2; i < log.StepCount; ++i) {
+        // Below a reason there is an empty line.
+        if (!withReasons || i == 2) {
+            PartFractions(log.StepText[i - 1], log.StepText[i], Printer);
+        }
         PrintWholeLine(log.StepText[i], Printer, false, learner);
         if (withReasons) {
             PrintReason(log.StepNote[i], Printer, learner);

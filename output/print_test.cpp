@@ -8,8 +8,11 @@ void PrintPracticeTest(const HeadingLines& heading, std::span<const std::string>
                        Surface& Printer, Learner& learner) {
     PrintHeading(heading, Printer);
     PrintEmptyLine(Printer);
+    std::string_view above;
     for (const std::string& line : TestLines) {
+        PartFractions(above, line, Printer);
         PrintWholeLine(line, Printer, false, learner);
+        above = line;
     }
 }
 

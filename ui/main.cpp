@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "ui/artwork.h"
+#include "ui/export_pdf.h"
 #include "ui/font_metrics.h"
 #include "ui/frm_logo.h"
 #include "ui/frm_main.h"
@@ -58,6 +59,7 @@ int RunWithoutSplash() {
 }  // namespace
 
 int main(int argc, char** argv) {
+    numerello::ReadyToExport(argc, argv);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Numerello"));
     QApplication::setOrganizationName(QStringLiteral("Vantrel"));
@@ -70,11 +72,19 @@ int main(int argc, char** argv) {
     const QCommandLineOption noSplash(QStringLiteral("no-splash"),
                                       QStringLiteral("Start without the splash."));
     arguments.addOption(noSplash);
+    const QCommandLineOption exports(
+        QStringLiteral("export"),
+        QStringLiteral("Write the worked solution of a problem file to a PDF file, and end."),
+        QStringLiteral("FILE.pdf"));
+    arguments.addOption(exports);
     arguments.process(app);
 
     if (!numerello::LoadSheetFont()) {
         qCritical("The font of the sheets cannot be loaded.");
         return 1;
+    }
+    if (arguments.isSet(exports)) {
+        return numerello::ExportPdf(arguments.value(exports), arguments.positionalArguments());
     }
     numerello::WatchDesktopMotion();
     QApplication::setWindowIcon(numerello::ArtworkIcon(QStringLiteral("icon")));

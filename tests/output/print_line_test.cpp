@@ -60,5 +60,27 @@ TEST(PreviewWholeLine, BeginsAFractionOnTheNextPictureWhereThePageEnds) {
     ExpectRows(pages.Page(1).Marks(), {{"1", 12, 19, 8}, {"2", 12, 33, 8}, {"_", 12, 19, 8}});
 }
 
+TEST(PartFractions, MakesRoomBetweenTwoLinesWithFractions) {
+    PlainPrinter printer;
+    PrintWholeLine("#1/2#", printer.surface, false, printer.learner);
+    PartFractions("#1/2#", "#3/4#", printer.surface);
+    PrintWholeLine("#3/4#", printer.surface, false, printer.learner);
+    // Of the first line the denominator's cell ends 14 - 5 below its base and a line lower. The
+    // numerator of the second begins 5 above its own.
+    const std::vector<Row> rows = RowsOf(printer.surface.Marks());
+    const double end = 12 - 5 + 14 + kLine;
+    ASSERT_EQ(rows.size(), 6U);
+    EXPECT_NEAR(rows[1].y + kLine, end, 1e-9);
+    EXPECT_NEAR(rows[3].y, end + 1, 1e-9);
+}
+
+TEST(PartFractions, LeavesOtherLinesAsTheyAre) {
+    PlainPrinter printer;
+    PartFractions("#1/2#", "x=1/2", printer.surface);
+    PartFractions("x", "#1/2#", printer.surface);
+    PartFractions("", "#1/2#", printer.surface);
+    EXPECT_EQ(printer.surface.CurrentY, 0);
+}
+
 }  // namespace
 }  // namespace numerello

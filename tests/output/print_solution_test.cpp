@@ -118,6 +118,21 @@ TEST_F(PrintedSolution, WrapsALongReasonWhereItsRowEnds) {
     ExpectRow(rows, 7, {std::string(70, 'y'), 15, reason + 24, 10, kReasonFace, kBlue});
 }
 
+TEST_F(PrintedSolution, TakesTheRootSignOfAReasonFromTheSheetsFace) {
+    Log(1);
+    problem.log.Write("x=2", "a ~4~ b ~#1/2#~ c");
+    Print(true);
+    int signs = 0;
+    for (const Row& row : RowsOf(MarksInPixels(printer.surface.Marks(), ScaleOfPrint(kA4)))) {
+        const bool isSign = row.text == "~" || row.text == "&" || row.text == "&~";
+        signs += isSign ? 1 : 0;
+        if (row.color == kBlue) {
+            EXPECT_EQ(row.face, isSign ? std::string(kSheetFace) : kReasonFace) << row.text;
+        }
+    }
+    EXPECT_EQ(signs, 3);
+}
+
 TEST_F(PrintedSolution, GoesOnBehindALineThatCannotBeDrawn) {
     Log(1);
     problem.log.Write("#1/2", "why 2");

@@ -17,10 +17,10 @@ struct Handler {
 constexpr std::array kHandlers{
     Handler{"solve", SolveRequest},     Handler{"columns", ColumnsRequest},
     Handler{"typeset", TypesetRequest}, Handler{"topics", TopicsRequest},
-    Handler{"type", TypeRequest},
+    Handler{"type", TypeRequest},       Handler{"example", ExampleProblemRequest},
 };
 
-constexpr std::array<std::string_view, 3> kNotBuilt{"example", "practice-test", "graph"};
+constexpr std::array<std::string_view, 2> kNotBuilt{"practice-test", "graph"};
 
 void Handle(const Json& request, Json& answer) {
     Fields fields(request);

@@ -7,7 +7,7 @@ namespace numerello {
 
 namespace {
 
-constexpr std::size_t kRoundingList = 2;
+constexpr std::size_t kRoundingIndex = 2;
 
 EntryListRows UnitRows(std::size_t list, std::string_view name, int UnitKind) {
     EntryListRows rows{list, name, {}};
@@ -27,7 +27,7 @@ std::string ListText(const EntryListRows& list, const EntryBoxes& boxes) {
     const bool isChosen = row >= 0 && row < static_cast<int>(list.rows.size());
     const std::string_view choice = isChosen ? list.rows[static_cast<std::size_t>(row)] : "?";
     // A rounding says itself what it is.
-    return list.list == kRoundingList ? std::string(choice) : Text(list.name, " ", choice);
+    return list.list == kRoundingIndex ? std::string(choice) : Text(list.name, " ", choice);
 }
 
 }  // namespace
@@ -51,7 +51,7 @@ std::vector<EntryListRows> ListsOf(int ProblemType) {
         case EntryLists::Masses:
             return {UnitRows(0, "From", 2), UnitRows(1, "To", 2)};
         case EntryLists::Roundings:
-            return {{kRoundingList, "Rounding", {RoundingRows().begin(), RoundingRows().end()}}};
+            return {{kRoundingIndex, "Rounding", {RoundingRows().begin(), RoundingRows().end()}}};
         case EntryLists::None:
             break;
     }

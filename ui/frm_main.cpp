@@ -165,6 +165,7 @@ FrmMain::FrmMain() {
     Command("mnuPencil")->setChecked(true);
     OnTrigger("mnuNew", &FrmMain::mnuNew_Click);
     OnTrigger("mnuSolve", &FrmMain::mnuSolve_Click);
+    OnTrigger("mnuExample", &FrmMain::mnuExample_Click);
     OnTrigger("mnuErase", &FrmMain::mnuErase_Click);
     OnTrigger("mnuExp", &FrmMain::mnuExp_Click);
     OnTrigger("mnuShowStep", &FrmMain::mnuShowStep_Click);
@@ -332,6 +333,7 @@ void FrmMain::UpdateCommands() {
                           QStringLiteral("mnuShowLight"), QStringLiteral("mnuPencil"),
                           QStringLiteral("mnuExit")};
     if (open) {
+        enabled.insert(QStringLiteral("mnuExample"));
         enabled.insert(QStringLiteral("mnuErase"));
         enabled.insert(QStringLiteral("mnuExp"));
     }
@@ -356,6 +358,10 @@ void FrmMain::ShowNumberForm() {
 
 void FrmMain::mnuSolve_Click() {
     paper->compute_Click();
+}
+
+void FrmMain::mnuExample_Click() {
+    paper->example_Click(clock);
 }
 
 void FrmMain::mnuErase_Click() {

@@ -41,6 +41,7 @@ class FrmMain : public QMainWindow {
     void ShowNumberForm();
 
     void mnuSolve_Click();
+    void mnuExample_Click();
     void mnuErase_Click();
     void mnuExp_Click();
     void mnuShowStep_Click();

@@ -1,3 +1,5 @@
+#include <optional>
+
 #include "catalogue/complete_line.h"
 #include "catalogue/examples/families.h"
 #include "catalogue/guided_input.h"
@@ -8,6 +10,10 @@
 namespace numerello {
 
 namespace {
+
+/// What is longer would run over the edge of the sheet, where keys are dropped: another walk
+/// begins.
+constexpr int kLongestWalk = 50;
 
 constexpr int kCalculatingWithExponents = 81;
 constexpr int kAbsoluteValues = 120;
@@ -209,13 +215,16 @@ bool HasEnded(const Walk& walk, const Family& family, int target) {
 Example WalkExample(const ExampleRequest& request, ExampleDraws& draws) {
     const Family& family = FamilyOf(request.Code());
     const int target = family.length + request.ComplexEx * family.perComplex;
-    Walk walk(request.topic);
-    while (!HasEnded(walk, family, target)) {
-        family.turn(walk, draws);
+    std::optional<Walk> walk(request.topic);
+    while (!HasEnded(*walk, family, target)) {
+        family.turn(*walk, draws);
+        if (walk->CharCount() > kLongestWalk) {
+            walk.emplace(request.topic);
+        }
     }
     Example example;
-    example.keys = walk.Typed().ProblemText;
-    example.printed = walk.Typed().DisplayLine;
+    example.keys = walk->Typed().ProblemText;
+    example.printed = walk->Typed().DisplayLine;
     return example;
 }
 

@@ -136,7 +136,6 @@ TEST(RequestErrors, WrongTypesAndRanges) {
 
 TEST(RequestErrors, WhatIsNotBuiltYetSaysSo) {
     for (const char* request : {
-             R"({"do":"example","code":53})",
              R"({"do":"practice-test","rows":[]})",
              R"({"do":"graph","code":108})",
          }) {

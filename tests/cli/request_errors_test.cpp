@@ -136,7 +136,6 @@ TEST(RequestErrors, WrongTypesAndRanges) {
 
 TEST(RequestErrors, WhatIsNotBuiltYetSaysSo) {
     for (const char* request : {
-             R"({"do":"practice-test","rows":[]})",
              R"({"do":"graph","code":108})",
          }) {
         ExpectRefused(request);

@@ -6,7 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "catalogue/topics.h"
 #include "cli/batch.h"
+#include "cli/lesson.h"
 #include "cli/people.h"
 #include "cli/requests.h"
 #include "cli/saved_request.h"
@@ -187,9 +189,13 @@ int Batch() {
     return 0;
 }
 
-int NotBuilt(const std::string& name) {
-    std::cerr << "numerello-cli: " << name << " is not built yet\n";
-    return kUnusable;
+int Learn(const std::string& topic) {
+    if (!topic.empty() && numerello::FindTopic(topic) == nullptr) {
+        std::cerr << "numerello-cli: unknown topic \"" << topic << "\"\n";
+        return kUnusable;
+    }
+    numerello::HoldLesson(topic, std::cout);
+    return 0;
 }
 
 void AddSolve(CLI::App& app, SolveArguments& arguments, int& status) {
@@ -255,11 +261,10 @@ int Run(int argc, char** argv) {
         ->check(CLI::Range(1, kMostExamples));
     example->callback([&] { status = Example(exampleArguments); });
 
-    for (const char* name : {"learn"}) {
-        CLI::App* later = app.add_subcommand(name, "Not built yet");
-        later->allow_extras();
-        later->callback([name, &status] { status = NotBuilt(name); });
-    }
+    std::string learnTopic;
+    CLI::App* learn = app.add_subcommand("learn", "The tutor in this terminal");
+    learn->add_option("--topic", learnTopic, "The topic's caption");
+    learn->callback([&] { status = Learn(learnTopic); });
 
     try {
         app.parse(argc, argv);

@@ -161,8 +161,12 @@ prints "solve"
 runs 0 --version
 prints "numerello-cli"
 runs 0 batch
-runs 2 learn
-tells "not built yet"
+runs 0 learn
+prints "Type the beginning of a topic"
+runs 0 learn --topic "Addition"
+prints "Enter numbers into both boxes."
+runs 2 learn --topic "Lengths"
+tells "unknown topic"
 runs 0 example --topic "Proportions"
 prints "First numerator = "
 runs 0 example --topic "Addition" --complex --count 3

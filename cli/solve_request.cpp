@@ -24,16 +24,12 @@ Json Lines(const StepLog& log) {
 
 /// What the topic draws beside its lines.
 Json Drawing(const Problem& problem) {
-    Json marks = Json::array();
+    const PlainMetrics metrics;
+    Surface sheet(metrics, {std::string(kSheetFace), 12});
     if (const auto& line = problem.playback.NumberLine) {
-        const PlainMetrics metrics;
-        Surface sheet(metrics, {std::string(kSheetFace), 12});
         DrawNumberLine(sheet, line->A, line->B);
-        for (const Mark& mark : sheet.Marks()) {
-            marks.push_back(MarkFields(mark));
-        }
     }
-    return marks;
+    return MarksOf(sheet);
 }
 
 /// The graph request as a playback to the end leaves it.

@@ -22,8 +22,8 @@ check() {
 
 check core ""
 check notation "core"
-check catalogue "core notation"
 check topics "core"
+check catalogue "core notation topics"
 check engine "core notation"
 check typeset "core"
 check columns "core notation typeset engine topics catalogue"

@@ -110,6 +110,7 @@ void FrmMain::ConnectCommands() {
         {"mnuExit", &FrmMain::mnuExit_Click},
 
         {"mnuSolve", &FrmMain::mnuSolve_Click},
+        {"mnuExample", &FrmMain::mnuExample_Click},
         {"mnuErase", &FrmMain::mnuErase_Click},
         {"mnuGraph", &FrmMain::mnuGraph_Click},
         {"mnuExp", &FrmMain::mnuExp_Click},
@@ -226,6 +227,10 @@ void FrmMain::ShowNumberForm() {
 
 void FrmMain::mnuSolve_Click() {
     paper->compute_Click();
+}
+
+void FrmMain::mnuExample_Click() {
+    paper->example_Click(clock);
 }
 
 void FrmMain::mnuErase_Click() {

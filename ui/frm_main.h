@@ -66,6 +66,7 @@ class FrmMain : public QMainWindow {
     void mnuLoad_Click();
     void mnuExit_Click();
     void mnuSolve_Click();
+    void mnuExample_Click();
     void mnuErase_Click();
     void mnuGraph_Click();
     void mnuExp_Click();

@@ -5,6 +5,7 @@
 #include <chrono>
 
 #include "app/solvers.h"
+#include "catalogue/examples/example_click.h"
 #include "catalogue/guided_input.h"
 #include "core/text.h"
 #include "ui/accessible_sheet.h"
@@ -124,11 +125,35 @@ void FrmPaper::compute_Click() {
 
 void FrmPaper::clear_Click() {
     if (numerello::clear_Click(problem, learner, worksheet)) {
-        Refresh();
-        horizontalScrollBar()->setValue(0);
-        verticalScrollBar()->setValue(0);
-        setFocus();
+        ShowErased();
     }
+}
+
+void FrmPaper::example_Click(const Clock& clock) {
+    class Form : public FillingForm {
+      public:
+        explicit Form(FrmPaper& paper) : paper(paper) {}
+
+        void ShowEntry() override { paper.ShowErased(); }
+        void Form_KeyPress(std::string_view key) override { paper.Form_KeyPress(key); }
+        void compute_Click() override { paper.compute_Click(); }
+
+      private:
+        FrmPaper& paper;
+    };
+    MersenneSource digits;
+    MersenneSource direct;
+    ExampleDraws draws(clock, digits, direct);
+    Form form(*this);
+    numerello::example_Click(problem, worksheet, form, draws);
+}
+
+/// A new problem begins at the top of the first sheet.
+void FrmPaper::ShowErased() {
+    Refresh();
+    horizontalScrollBar()->setValue(0);
+    verticalScrollBar()->setValue(0);
+    setFocus();
 }
 
 void FrmPaper::NextStep() {

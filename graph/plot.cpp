@@ -94,17 +94,58 @@ class CurvePlotter {
     }
 
     void Join(double x, std::optional<double> y) {
-        if (!y) {
+        if (before && y && !before->hasRoot) {
+            JoinEnd(x, before->x);
+        } else if (before && !y && before->hasRoot) {
+            JoinEnd(before->x, x);
+        }
+        before = {x, y.has_value()};
+        if (y) {
+            JoinRoot(x, *y);
+        } else {
             upper.Interrupt();
             lower.Interrupt();
-            return;
-        }
-        upper.Add({x, *y});
-        if (curve.HasTwoBranches()) {
-            lower.Add({x, -*y});
         }
     }
 
+    void JoinRoot(double x, double y) {
+        upper.Add({x, y});
+        if (curve.HasTwoBranches()) {
+            lower.Add({x, -y});
+        }
+    }
+
+    /// The curve begins or ends between two places, one with a root and one without: it is drawn to
+    /// there, where its branches meet.
+    void JoinEnd(double with, double without) {
+        constexpr int kHalvings = 60;
+        std::optional<double> y;
+        for (int i = 0; i < kHalvings; ++i) {
+            const double middle = with / 2 + without / 2;
+            const std::optional<double> root = RootAt(middle);
+            (root ? with : without) = middle;
+            y = root ? root : y;
+        }
+        if (y) {
+            JoinRoot(with, *y);
+        }
+    }
+
+    /// For drawing alone: a failure here is no root.
+    std::optional<double> RootAt(double x) const {
+        try {
+            return curve.YAt(x);
+        } catch (const Failure&) {
+            return std::nullopt;
+        }
+    }
+
+    struct Place {
+        double x;
+        bool hasRoot;
+    };
+
+    std::optional<Place> before;  ///< what was joined last
     Plot& plot;
     const Curve& curve;
     const GraphRange& range;

@@ -65,7 +65,8 @@ std::string EntryOf(const TopicText& text, const EntryLayout* layout) {
 
 /// A row of the sheet: a number in the margin, the red line, what is written.
 std::string SheetRow(std::string_view margin, std::string_view line, std::string_view reason) {
-    return Text("<tr><td class=\"margin\">", margin, "</td><td class=\"redline\"></td><td>",
+    return Text("<tr><td class=\"margin\" width=\"28\">", margin,
+                "</td><td class=\"redline\" width=\"2\"></td><td width=\"100%\">",
                 line.empty() ? "" : Text("<p class=\"line\">", line, "</p>"),
                 reason.empty() ? "" : Text("<p class=\"reason\">", reason, "</p>"), "</td></tr>\n");
 }

@@ -17,7 +17,6 @@ void PreviewPages::Build(const HeadingLines& heading, std::span<const std::strin
     previewPage = 0;
     PrintHeading(heading, Current());
     PrintEmptyLine(Current());
-    pages.front().lines.assign(heading.begin(), heading.end());
     std::string_view above;
     for (const std::string& line : TestLines) {
         PartFractions(above, line, Current());

@@ -35,7 +35,7 @@ class PreviewPages : public Sheets {
     /// Counted from 0; throws Failure(Format) beyond the last.
     const Surface& Page(int page) const;
 
-    /// The lines of math text that begin on a page, in order, the heading among them.
+    /// The lines of the test that begin on a page, in order.
     const std::vector<std::string>& LinesOn(int page) const;
 
   private:

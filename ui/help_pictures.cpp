@@ -26,9 +26,8 @@ constexpr double kLetterSize = 12;
 constexpr double kLongestRow = 560;
 /// Above the first row, for fractions and powers.
 constexpr double kHeadroom = 100;
-/// A root sign leans over the end of its cell.
-constexpr double kPad = 2;
-constexpr double kEndPad = 5;
+constexpr double kPad = 1;
+constexpr double kRootPad = 5;
 constexpr QSize kCheckPicture(36, 36);
 constexpr QSize kEntrySheet(800, 265);
 constexpr int kEntryPad = 4;
@@ -93,12 +92,20 @@ QRectF PlaceOf(const Mark& mark, const FontMetrics& metrics) {
     return {QPointF(image.x, image.y), QSizeF(kCheckPicture)};
 }
 
+/// Its sign leans over the end of its cell, and its bar too.
+bool HasRoot(const std::vector<Mark>& marks) {
+    return std::any_of(marks.begin(), marks.end(), [](const Mark& mark) {
+        const auto* text = std::get_if<TextMark>(&mark);
+        return text != nullptr && text->text == "~";
+    });
+}
+
 QRectF PlaceOf(const std::vector<Mark>& marks, const FontMetrics& metrics) {
     QRectF place;
     for (const Mark& mark : marks) {
         place |= PlaceOf(mark, metrics);
     }
-    return place.adjusted(-kPad, -kPad, kEndPad, kPad);
+    return place.adjusted(-kPad, -kPad, HasRoot(marks) ? kRootPad : kPad, kPad);
 }
 
 /// What the painter draws of this place of a sheet.
@@ -185,9 +192,10 @@ QImage HelpPictures::Mathematics(const QString& address, const Look& look) const
     QRectF place = PlaceOf(marks, metrics);
     if (end) {
         const double baseline = end->y + metrics.Ascent({std::string(kSheetFace), kLetterSize});
-        const double half = std::max(baseline - place.top(), place.bottom() - baseline);
-        place.setTop(baseline - half);
-        place.setBottom(baseline + half);
+        const double middle = baseline - look.sink / look.scale;
+        const double half = std::max(middle - place.top(), place.bottom() - middle);
+        place.setTop(middle - half);
+        place.setBottom(middle + half);
     }
     return Pictured(place, look, [&](QPainter& painter) { PaintMarks(painter, marks, metrics); });
 }

@@ -16,14 +16,15 @@ namespace numerello {
 ///   math:INK/LINE   a piece of math text in the ink "page", "black" or "blue"
 ///   entry:PAGE      the entry form of a topic, filled in with its example
 ///   working:PAGE    the finished working of a topic's example in columns
-/// The baseline of a piece of mathematics lies in the middle of its picture, where the text beside
-/// it has its own. For the thread of the window alone.
+/// The baseline of a piece of mathematics lies in the middle of its picture or a little below,
+/// where the text beside it has its own. For the thread of the window alone.
 class HelpPictures {
   public:
     struct Look {
         qreal scale;       ///< device-independent pixels of a sheet pixel
         qreal pixelRatio;  ///< of the screen
         QColor pageInk;    ///< of the text on the page
+        qreal sink = 0;    ///< how far below the middle the baseline has to be, likewise
     };
 
     /// Null for an address that names no picture.

@@ -9,6 +9,9 @@
 #include <QTextFragment>
 #include <cmath>
 
+#include "typeset/surface.h"
+#include "ui/text.h"
+
 namespace numerello {
 
 namespace {
@@ -63,6 +66,11 @@ QColor Blend(const QPalette& palette, double text) {
                             static_cast<float>(part(ink.blueF(), base.blueF())));
 }
 
+/// Both in whole pixels, so that pictures and the text around them agree.
+int SheetLetters(double text) {
+    return qRound(text * kSheetLetters);
+}
+
 /// Lengths in pixels: `text` is the height of the letters.
 QString StyleSheet(const QPalette& palette, double text) {
     const auto px = [text](double times) {
@@ -78,13 +86,12 @@ QString StyleSheet(const QPalette& palette, double text) {
                ".path { color: %5; }"
                ".red { color: #ff0000; }"
                "table.sheet { background-color: %6; margin-top: %9; }"
-               "td.margin { width: %10; color: #6b6b6b; }"
-               "td.redline { background-color: #e79a94; width: 2px; padding: 0; }"
+               "td.margin { color: #6b6b6b; }"
+               "td.redline { background-color: #e79a94; padding: 0; }"
                ".line { color: #000000; font-family: VantrelFont; font-size: %8; margin: 0; }"
                ".reason { color: #0000ff; margin: 0; }")
         .arg(px(1.8), px(1.3), LinkColor(palette).name(), Blend(palette, 0.12).name(),
-             Blend(palette, 0.75).name(), kPaper.name(), px(0.4), px(kSheetLetters), px(1.1))
-        .arg(px(1.6));
+             Blend(palette, 0.75).name(), kPaper.name(), px(0.4), px(kSheetLetters), px(1.1));
 }
 
 }  // namespace
@@ -121,8 +128,8 @@ void HelpView::SetZoom(int percent) {
 
 void HelpView::Restyle() {
     QFont font = this->font();
-    const double height = QFontInfo(font).pixelSize() * kReadingSize * zoom / 100.0;
-    font.setPixelSize(qMax(1, qRound(height)));
+    const int height = qMax(1, qRound(QFontInfo(font).pixelSize() * kReadingSize * zoom / 100.0));
+    font.setPixelSize(height);
     document()->setDefaultFont(font);
     document()->setIndentWidth(height * 2);
     document()->setDefaultStyleSheet(StyleSheet(palette(), height));
@@ -137,10 +144,17 @@ void HelpView::Restyle() {
 
 QVariant HelpView::loadResource(int type, const QUrl& name) {
     if (type == QTextDocument::ImageResource) {
-        const double letters =
-            document()->defaultFont().pixelSize() * kSheetLetters / kSheetLetterHeight;
-        return pictures.Picture(name,
-                                {letters, devicePixelRatioF(), palette().color(QPalette::Text)});
+        const int letters = SheetLetters(document()->defaultFont().pixelSize());
+        // A line of the sheet has the sheet's letters around its pictures, all else the page's.
+        QFont around = document()->defaultFont();
+        if (name.path().startsWith(QLatin1String("black"))) {
+            around.setFamily(ToQString(kSheetFace));
+            around.setPixelSize(letters);
+        }
+        // The toolkit lays the middle of a picture a quarter of a small letter above the baseline.
+        const double sink = QFontMetrics(around).xHeight() / 4.0;
+        return pictures.Picture(name, {letters / kSheetLetterHeight, devicePixelRatioF(),
+                                       palette().color(QPalette::Text), sink});
     }
     QFile file(FileOf(name.path()));
     return file.open(QIODevice::ReadOnly) ? QVariant(QString::fromUtf8(file.readAll()))

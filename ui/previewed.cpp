@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/problem_file.h"
+#include "core/text.h"
 #include "output/preview_pages.h"
 #include "output/print_test.h"
 #include "ui/text.h"
@@ -16,15 +17,43 @@ namespace {
 constexpr double kPreviewZoom = 8.0 / 12;
 constexpr double kLineSize = 12;
 
-QString InWords(const std::vector<std::string>& lines) {
-    QStringList words;
-    for (const std::string& line : lines) {
-        if (!line.empty()) {
-            words.append(ToQString(SpokenLine(line)));
+/// The number of a problem is no mathematics.
+QString InWords(const std::string& line) {
+    const std::size_t digits = line.find_first_not_of("0123456789");
+    const bool numbered =
+        digits != 0 && digits != std::string::npos && line.compare(digits, 2, ") ") == 0;
+    const std::size_t start = numbered ? digits + 2 : 0;
+    return ToQString(Text(line.substr(0, start), SpokenLine(line.substr(start))));
+}
+
+/// What is read of a page: its lines in words, on the first one below the heading.
+class Words {
+  public:
+    Words(const HeadingLines& heading, int page) {
+        if (page == 0) {
+            for (const std::string& line : heading) {
+                Add(ToQString(line));
+            }
         }
     }
-    return words.join(u'\n');
-}
+
+    void Add(const std::vector<std::string>& lines) {
+        for (const std::string& line : lines) {
+            Add(InWords(line));
+        }
+    }
+
+    QString Joined() const { return words.join(u'\n'); }
+
+  private:
+    void Add(const QString& line) {
+        if (!line.isEmpty()) {
+            words.append(line);
+        }
+    }
+
+    QStringList words;
+};
 
 ShownPages TestPages(const HeadingLines& heading, const std::vector<std::string>& TestLines,
                      PaperSize paper, const TextMetrics& faces, Learner& learner) {
@@ -33,8 +62,10 @@ ShownPages TestPages(const HeadingLines& heading, const std::vector<std::string>
     PreviewPages pages(metrics);
     pages.Build(heading, TestLines, learner);
     for (int page = 0; page <= pages.PreviewPageCount(); ++page) {
+        Words words(heading, page);
+        words.Add(pages.LinesOn(page));
         shown.pages.push_back(
-            {MarksInPixels(pages.Page(page).Marks(), shown.scale), InWords(pages.LinesOn(page))});
+            {MarksInPixels(pages.Page(page).Marks(), shown.scale), words.Joined()});
     }
     return shown;
 }
@@ -46,19 +77,15 @@ ShownPages KeyPages(const HeadingLines& heading, const std::vector<WorkedProblem
     Surface Printer(metrics, {std::string(kSheetFace), kLineSize});
     const std::vector<int> places = PrintAnswerKey(heading, problems, Printer, learner);
     for (int page = 0; page < Printer.PageCount(); ++page) {
-        std::vector<std::string> lines;
-        if (page == 0) {
-            lines.assign(heading.begin(), heading.end());
-        }
+        Words words(heading, page);
         for (std::size_t i = 0; i < problems.size(); ++i) {
             if (places[i] == page) {
-                lines.push_back(problems[i].line);
-                const std::vector<std::string> worked = KeyLines(problems[i]);
-                lines.insert(lines.end(), worked.begin(), worked.end());
+                words.Add({problems[i].line});
+                words.Add(KeyLines(problems[i]));
             }
         }
         shown.pages.push_back(
-            {MarksInPixels(Printer.PageMarks(page), shown.scale), InWords(lines)});
+            {MarksInPixels(Printer.PageMarks(page), shown.scale), words.Joined()});
     }
     return shown;
 }

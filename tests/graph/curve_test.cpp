@@ -113,6 +113,20 @@ TEST(CurvePoints, OutOfThePictureNothingIsJoined) {
     }
 }
 
+TEST(CurvePoints, BranchesMeetWhereTheCurveBeginsAndEnds) {
+    // A circle of 5 around the crossing, computed in steps of 0.2.
+    const Plot plot = DrawnCurve("y^2=25-x^2").ThePlot();
+    ASSERT_EQ(plot.lines.size(), 2U);
+    for (const auto& line : plot.lines) {
+        EXPECT_NEAR(line.front().x, -5, 1e-9);
+        EXPECT_NEAR(line.front().y, 0, 1e-4);
+        EXPECT_NEAR(line.back().x, 5, 1e-9);
+        EXPECT_NEAR(line.back().y, 0, 1e-4);
+    }
+    // Of the points themselves none is added.
+    EXPECT_EQ(plot.points.size(), 402U);
+}
+
 TEST(CurvePoints, AFailureAtTheFirstPointLeavesNone) {
     // 20 to the power 300 is beyond the largest Double, and a negative x has no square root.
     for (const char* equation :

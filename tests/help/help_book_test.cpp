@@ -123,7 +123,8 @@ TEST(HelpBook, ShowsTheSolutionOfEveryExample) {
         const bool graphAlone = topic.code == kPlotAPoint || topic.code == kLineThroughPoints;
         EXPECT_EQ(steps.empty(), graphAlone) << topic.caption;
         for (std::size_t i = 0; i < steps.size(); ++i) {
-            EXPECT_EQ(CountOf(html, Text("<td class=\"margin\">", std::to_string(i + 1), "</td>")),
+            EXPECT_EQ(CountOf(html, Text("<td class=\"margin\" width=\"28\">",
+                                         std::to_string(i + 1), "</td>")),
                       1)
                 << topic.caption;
         }

@@ -89,17 +89,23 @@ TEST_F(Help, DrawsEveryPicture) {
     EXPECT_GT(count, 105);
 }
 
-TEST_F(Help, SetsTheBaselineInTheMiddle) {
-    // A bar of a fraction lies on the line's middle axis, a letter stands on the baseline.
+/// How far below the middle of its picture a letter stands, in pixels.
+double Below(const char* address, qreal sink) {
     HelpPictures pictures;
-    const QImage letter = pictures.Picture(QUrl("math:black/x"), {4, 1, Qt::black});
+    const QImage letter = pictures.Picture(QUrl(address), {4, 1, Qt::black, sink});
     int lowest = 0;
     for (int y = 0; y < letter.height(); ++y) {
         for (int x = 0; x < letter.width(); ++x) {
-            lowest = qAlpha(letter.pixel(x, y)) > 128 ? y : lowest;
+            lowest = qAlpha(letter.pixel(x, y)) > 128 ? y + 1 : lowest;
         }
     }
-    EXPECT_NEAR(lowest, letter.height() / 2.0, 3);
+    return lowest - letter.height() / 2.0;
+}
+
+TEST_F(Help, SetsTheBaselineWhereTheTextBesideHasIt) {
+    EXPECT_NEAR(Below("math:black/x", 0), 0, 2);
+    EXPECT_NEAR(Below("math:black/x", 12), 12, 2);
+    EXPECT_NEAR(Below("math:black/x%5E2%5E", 12), 12, 2);
 }
 
 TEST_F(Help, WritesInTheInkOfThePage) {

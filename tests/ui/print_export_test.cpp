@@ -46,7 +46,7 @@ TEST_F(Export, DrawsColumns) {
     const QStringList lines = LinesOfPdf(Pdf());
     ASSERT_GE(lines.size(), 5);
     EXPECT_EQ(lines[3], "1 3 r 4");
-    EXPECT_EQ(lines[4].remove(u' '), "7)95");
+    EXPECT_EQ(QString(lines[4]).remove(u' '), "7)95");
 }
 
 TEST_F(Export, RefusesAFileThatIsNone) {

@@ -105,6 +105,8 @@ void FrmMain::ConnectCommands() {
     };
     constexpr Row kRows[] = {
         {"mnuNew", &FrmMain::mnuNew_Click},
+        {"mnuPrint", &FrmMain::mnuPrint_Click},
+        {"mnuPrintSetup", &FrmMain::mnuPrintSetup_Click},
         {"mnuSave", &FrmMain::mnuSave_Click},
         {"mnuLoad", &FrmMain::mnuLoad_Click},
         {"mnuExit", &FrmMain::mnuExit_Click},
@@ -113,6 +115,7 @@ void FrmMain::ConnectCommands() {
         {"mnuExample", &FrmMain::mnuExample_Click},
         {"mnuErase", &FrmMain::mnuErase_Click},
         {"mnuGraph", &FrmMain::mnuGraph_Click},
+        {"mnuPracticeTest", &FrmMain::mnuPracticeTest_Click},
         {"mnuExp", &FrmMain::mnuExp_Click},
         {"mnuConvertDF", &FrmMain::mnuConvertDF_Click},
 
@@ -122,6 +125,7 @@ void FrmMain::ConnectCommands() {
         {"mnuShowLight", &FrmMain::mnuShowLight_Click},
         {"mnuChange", &FrmMain::mnuChange_Click},
 
+        {"mnuHelpTopics", &FrmMain::mnuHelpTopics_Click},
         {"mnuAlgSol", &FrmMain::mnuAlgSol_Click},
         {"mnuHomePage", &FrmMain::mnuHomePage_Click},
         {"mnuOnlineSupport", &FrmMain::mnuOnlineSupport_Click},
@@ -199,7 +203,7 @@ void FrmMain::LoadPaper() {
     paper->UsePencil(IsTicked("mnuPencil"));
     connect(paper, &FrmPaper::Changed, this, &FrmMain::UpdateCommands);
     connect(paper, &FrmPaper::GraphAsked, this, &FrmMain::mnuGraph_Click);
-    connect(paper, &FrmPaper::GraphDone, &graphs, &GraphHolder::Close);
+    connect(paper, &FrmPaper::GraphDone, &windows, &FrameWindows::CloseGraph);
     connect(paper, &FrmPaper::PencilMenuAsked, this,
             [this](QPoint place) { commands.PopUp("mnuHidden2", place); });
     connect(paper, &FrmPaper::LightMenuAsked, this,
@@ -216,7 +220,7 @@ void FrmMain::LoadPaper() {
 void FrmMain::UpdateCommands() {
     const bool onSheet = paper != nullptr;
     commands.Update(problem.controls, onSheet, onSheet && paper->TakesKeys());
-    graphs.SetPrintEnabled(commands.At("mnuPrint").isEnabled());
+    windows.SetPrintEnabled(commands.At("mnuPrint").isEnabled());
 }
 
 void FrmMain::ShowNumberForm() {
@@ -238,7 +242,24 @@ void FrmMain::mnuErase_Click() {
 }
 
 void FrmMain::mnuGraph_Click() {
-    graphs.Show(problem);
+    windows.ShowGraph();
+}
+
+void FrmMain::mnuPrint_Click() {
+    windows.ShowPrintSetup();
+}
+
+void FrmMain::mnuPrintSetup_Click() {
+    windows.ShowPrinterDialog();
+}
+
+void FrmMain::mnuPracticeTest_Click() {
+    const HeldEnterGuard oneEnter;
+    windows.ShowPracticeTest();
+}
+
+void FrmMain::mnuHelpTopics_Click() {
+    windows.ShowHelp();
 }
 
 void FrmMain::mnuExp_Click() {
@@ -338,7 +359,7 @@ void FrmMain::dropEvent(QDropEvent* event) {
 }
 
 void FrmMain::closeEvent(QCloseEvent* event) {
-    graphs.Close();
+    windows.CloseAll();
     StoreSettings(CurrentSettings(), store);
     event->accept();
     emit Closed();

@@ -10,8 +10,8 @@
 #include "core/random_source.h"
 #include "core/settings.h"
 #include "ui/frame_commands.h"
+#include "ui/frame_windows.h"
 #include "ui/frm_paper.h"
-#include "ui/graph_holder.h"
 #include "ui/status_line.h"
 #include "ui/window_file_dialog.h"
 #include "ui/window_learner.h"
@@ -62,6 +62,8 @@ class FrmMain : public QMainWindow {
     void OpenPage(const QUrl& page);
 
     void mnuNew_Click();
+    void mnuPrint_Click();
+    void mnuPrintSetup_Click();
     void mnuSave_Click();
     void mnuLoad_Click();
     void mnuExit_Click();
@@ -69,6 +71,7 @@ class FrmMain : public QMainWindow {
     void mnuExample_Click();
     void mnuErase_Click();
     void mnuGraph_Click();
+    void mnuPracticeTest_Click();
     void mnuExp_Click();
     void mnuConvertDF_Click();
     void mnuPencil_Click();
@@ -76,6 +79,7 @@ class FrmMain : public QMainWindow {
     void mnuHideWiz_Click();
     void mnuShowLight_Click();
     void mnuChange_Click();
+    void mnuHelpTopics_Click();
     void mnuAlgSol_Click();
     void mnuHomePage_Click();
     void mnuOnlineSupport_Click();
@@ -89,7 +93,7 @@ class FrmMain : public QMainWindow {
     WindowFileDialog fileDialog{this};
     ProblemFiles files;
     FrameCommands commands{*this};
-    GraphHolder graphs{this};
+    FrameWindows windows{problem, clock, *this};
     StatusLine* status = new StatusLine(this);
     FrmPaper* paper = nullptr;  ///< null before the first topic
     std::string StartFile;

@@ -106,12 +106,17 @@ void FrmMain::ConnectCommands() {
     };
     constexpr auto kRows = std::to_array<Row>({
         {"mnuNew", &FrmMain::mnuNew_Click},
+        {"mnuPrint", &FrmMain::mnuPrint_Click},
+        {"mnuPrintSetup", &FrmMain::mnuPrintSetup_Click},
         {"mnuSave", &FrmMain::mnuSave_Click},
         {"mnuLoad", &FrmMain::mnuLoad_Click},
         {"mnuExit", &FrmMain::mnuExit_Click},
 
         {"mnuSolve", &FrmMain::mnuSolve_Click},
+        {"mnuExample", &FrmMain::mnuExample_Click},
         {"mnuErase", &FrmMain::mnuErase_Click},
+        {"mnuGraph", &FrmMain::mnuGraph_Click},
+        {"mnuPracticeTest", &FrmMain::mnuPracticeTest_Click},
         {"mnuExp", &FrmMain::mnuExp_Click},
         {"mnuConvertDF", &FrmMain::mnuConvertDF_Click},
 
@@ -121,6 +126,7 @@ void FrmMain::ConnectCommands() {
         {"mnuShowLight", &FrmMain::mnuShowLight_Click},
         {"mnuChange", &FrmMain::mnuChange_Click},
 
+        {"mnuHelpTopics", &FrmMain::mnuHelpTopics_Click},
         {"mnuAlgSol", &FrmMain::mnuAlgSol_Click},
         {"mnuHomePage", &FrmMain::mnuHomePage_Click},
         {"mnuOnlineSupport", &FrmMain::mnuOnlineSupport_Click},
@@ -197,6 +203,8 @@ void FrmMain::LoadPaper() {
     paper->ShowLight(IsTicked("mnuShowLight"));
     paper->UsePencil(IsTicked("mnuPencil"));
     connect(paper, &FrmPaper::Changed, this, &FrmMain::UpdateCommands);
+    connect(paper, &FrmPaper::GraphAsked, this, &FrmMain::mnuGraph_Click);
+    connect(paper, &FrmPaper::GraphDone, &windows, &FrameWindows::CloseGraph);
     connect(paper, &FrmPaper::PencilMenuAsked, this,
             [this](QPoint place) { commands.PopUp("mnuHidden2", place); });
     connect(paper, &FrmPaper::LightMenuAsked, this,
@@ -213,6 +221,7 @@ void FrmMain::LoadPaper() {
 void FrmMain::UpdateCommands() {
     const bool onSheet = paper != nullptr;
     commands.Update(problem.controls, onSheet, onSheet && paper->TakesKeys());
+    windows.SetPrintEnabled(commands.At("mnuPrint").isEnabled());
 }
 
 void FrmMain::ShowNumberForm() {
@@ -225,8 +234,33 @@ void FrmMain::mnuSolve_Click() {
     paper->compute_Click();
 }
 
+void FrmMain::mnuExample_Click() {
+    paper->example_Click(clock);
+}
+
 void FrmMain::mnuErase_Click() {
     paper->clear_Click();
+}
+
+void FrmMain::mnuGraph_Click() {
+    windows.ShowGraph();
+}
+
+void FrmMain::mnuPrint_Click() {
+    windows.ShowPrintSetup();
+}
+
+void FrmMain::mnuPrintSetup_Click() {
+    windows.ShowPrinterDialog();
+}
+
+void FrmMain::mnuPracticeTest_Click() {
+    const HeldEnterGuard oneEnter;
+    windows.ShowPracticeTest();
+}
+
+void FrmMain::mnuHelpTopics_Click() {
+    windows.ShowHelp();
 }
 
 void FrmMain::mnuExp_Click() {
@@ -327,9 +361,7 @@ void FrmMain::dropEvent(QDropEvent* event) {
 }
 
 void FrmMain::closeEvent(QCloseEvent* event) {
-    if (auto* graph = findChild<QWidget*>(QStringLiteral("frmGraph"))) {
-        graph->close();
-    }
+    windows.CloseAll();
     StoreSettings(CurrentSettings(), store);
     event->accept();
     emit Closed();

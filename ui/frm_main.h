@@ -10,6 +10,7 @@
 #include "core/random_source.h"
 #include "core/settings.h"
 #include "ui/frame_commands.h"
+#include "ui/frame_windows.h"
 #include "ui/frm_paper.h"
 #include "ui/status_line.h"
 #include "ui/window_file_dialog.h"
@@ -61,11 +62,16 @@ class FrmMain : public QMainWindow {
     void OpenPage(const QUrl& page);
 
     void mnuNew_Click();
+    void mnuPrint_Click();
+    void mnuPrintSetup_Click();
     void mnuSave_Click();
     void mnuLoad_Click();
     void mnuExit_Click();
     void mnuSolve_Click();
+    void mnuExample_Click();
     void mnuErase_Click();
+    void mnuGraph_Click();
+    void mnuPracticeTest_Click();
     void mnuExp_Click();
     void mnuConvertDF_Click();
     void mnuPencil_Click();
@@ -73,6 +79,7 @@ class FrmMain : public QMainWindow {
     void mnuHideWiz_Click();
     void mnuShowLight_Click();
     void mnuChange_Click();
+    void mnuHelpTopics_Click();
     void mnuAlgSol_Click();
     void mnuHomePage_Click();
     void mnuOnlineSupport_Click();
@@ -86,6 +93,7 @@ class FrmMain : public QMainWindow {
     WindowFileDialog fileDialog{this};
     ProblemFiles files;
     FrameCommands commands{*this};
+    FrameWindows windows{problem, clock, *this};
     StatusLine* status = new StatusLine(this);
     FrmPaper* paper = nullptr;  ///< null before the first topic
     std::string startFile;

@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "ui/artwork.h"
+#include "ui/export_pdf.h"
 #include "ui/font_metrics.h"
 #include "ui/frm_logo.h"
 #include "ui/frm_main.h"
@@ -24,7 +25,9 @@ using numerello::FrmMain;
 
 struct Arguments {
     bool splash = true;
-    std::string StartFile;  ///< what is no option, joined by blanks
+    std::string StartFile;   ///< what is no option, joined by blanks
+    QStringList positional;  ///< the same, each for itself
+    QString pdf;             ///< file to export to; empty for the window
 };
 
 /// Prints what --help and --version ask for and ends the program; so it does for unknown options.
@@ -36,11 +39,17 @@ Arguments Parse(const QCoreApplication& app) {
     const QCommandLineOption noSplash(QStringLiteral("no-splash"),
                                       QStringLiteral("Start without the splash."));
     parser.addOption(noSplash);
+    const QCommandLineOption exports(
+        QStringLiteral("export"),
+        QStringLiteral("Write the worked solution of a problem file to a PDF file, and end."),
+        QStringLiteral("FILE.pdf"));
+    parser.addOption(exports);
     parser.addPositionalArgument(QStringLiteral("file"), QStringLiteral("A problem file to open."),
                                  QStringLiteral("[file]"));
     parser.process(app);
     const QString file = parser.positionalArguments().join(u' ').trimmed();
-    return {!parser.isSet(noSplash) && file.isEmpty(), file.toStdString()};
+    return {!parser.isSet(noSplash) && file.isEmpty(), file.toStdString(),
+            parser.positionalArguments(), parser.value(exports)};
 }
 
 /// Whether the answer is a text for the terminal, which needs no screen.
@@ -108,12 +117,16 @@ int main(int argc, char** argv) {
         const QCoreApplication app(argc, argv);
         Parse(app);
     }
+    numerello::ReadyToExport(argc, argv);
 
     const QApplication app(argc, argv);
     const Arguments arguments = Parse(app);
     if (!numerello::LoadSheetFont()) {
         qCritical("The font of the sheets cannot be loaded.");
         return 1;
+    }
+    if (!arguments.pdf.isEmpty()) {
+        return numerello::ExportPdf(arguments.pdf, arguments.positional);
     }
     numerello::WatchDesktopMotion();
     QApplication::setWindowIcon(numerello::ArtworkIcon(QStringLiteral("icon")));

@@ -22,9 +22,8 @@ constexpr std::array kHandlers{
     Handler{"type", TypeRequest},
     Handler{"example", ExampleProblemRequest},
     Handler{"practice-test", PracticeTestRequest},
+    Handler{"graph", GraphingRequest},
 };
-
-constexpr std::array<std::string_view, 1> kNotBuilt{"graph"};
 
 void Handle(const Json& request, Json& answer) {
     Fields fields(request);
@@ -36,9 +35,6 @@ void Handle(const Json& request, Json& answer) {
     if (handler != kHandlers.end()) {
         handler->handle(fields, answer);
         return;
-    }
-    if (std::find(kNotBuilt.begin(), kNotBuilt.end(), name) != kNotBuilt.end()) {
-        throw BadRequest(Text("\"", name, "\" is not built yet"));
     }
     throw BadRequest(fields.Has("do") ? Text("unknown request \"", name, "\"")
                                       : "\"do\" is missing");

@@ -15,6 +15,7 @@ void ColumnsRequest(Fields& fields, Json& answer);
 void TypeRequest(Fields& fields, Json& answer);
 void TypesetRequest(Fields& fields, Json& answer);
 void TopicsRequest(Fields& fields, Json& answer);
+void GraphingRequest(Fields& fields, Json& answer);
 void ExampleProblemRequest(Fields& fields, Json& answer);
 void PracticeTestRequest(Fields& fields, Json& answer);
 

@@ -7,6 +7,7 @@
 #include "cli/setting_fields.h"
 #include "cli/topic_fields.h"
 #include "core/text.h"
+#include "graph/graph_terms.h"
 #include "worksheet/number_line.h"
 
 namespace numerello {
@@ -29,15 +30,6 @@ Json Drawing(const Problem& problem) {
         DrawNumberLine(sheet, line->A, line->B);
     }
     return MarksOf(sheet);
-}
-
-/// The equation that is to be drawn, as its cells hold it.
-std::string EquationText(const TypedProblem& typed) {
-    std::string text;
-    for (int i = 0; i <= TypedProblem::kTopCell && !typed.ExprVariants[i].empty(); ++i) {
-        text += typed.ExprVariants[i];
-    }
-    return text;
 }
 
 /// The graph request as a playback to the end leaves it.

@@ -24,5 +24,6 @@ inline constexpr int kLineThroughTwoPoints = 106;
 inline constexpr int kPointsQuadrant = 107;
 inline constexpr int kPlottingAPoint = 108;
 inline constexpr int kNegativeExponents = 150;
+inline constexpr int kFirstColumnTopic = 200;  ///< from here on a problem is drawn, not logged
 
 }  // namespace numerello

@@ -74,9 +74,9 @@ Problem Worked(const TestProblem& asked, const AnswerSettings& settings, const S
 
 }  // namespace
 
-std::vector<AnsweredProblem> AnswerKey(std::span<const TestProblem> problems,
-                                       const AnswerSettings& settings, const Solvers& solvers) {
-    std::vector<AnsweredProblem> key;
+std::vector<WorkedProblem> AnswerKey(std::span<const TestProblem> problems,
+                                     const AnswerSettings& settings, const Solvers& solvers) {
+    std::vector<WorkedProblem> key;
     for (const TestProblem& asked : problems) {
         key.push_back({asked.line, Worked(asked, settings, solvers)});
     }

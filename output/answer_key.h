@@ -11,7 +11,7 @@ namespace numerello {
 
 /// A problem of a practice test, worked: its lines stand in the log, or its columns are still asked
 /// for. What a message would have told is the last line of the log.
-struct AnsweredProblem {
+struct WorkedProblem {
     std::string line;  ///< the test's, with its number: "3) 12+5"
     Problem problem;
 };
@@ -19,7 +19,7 @@ struct AnsweredProblem {
 /// Works the problems of a test as they stand there, also where a learner could not type so many
 /// digits. A polynomial that is to be evaluated gets no values, so it is worked as far as it goes
 /// without; a linear equation is solved for y where it has one.
-std::vector<AnsweredProblem> AnswerKey(std::span<const TestProblem> problems,
-                                       const AnswerSettings& settings, const Solvers& solvers);
+std::vector<WorkedProblem> AnswerKey(std::span<const TestProblem> problems,
+                                     const AnswerSettings& settings, const Solvers& solvers);
 
 }  // namespace numerello

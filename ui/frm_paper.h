@@ -34,6 +34,9 @@ class FrmPaper : public QScrollArea {
     /// A key of the typing line: a character or a Backspace.
     void Form_KeyPress(std::string_view key);
 
+    /// Boxes and lists were filled by something else than the learner.
+    void ShowEntry();
+
     /// Whether the typing line is open for keys.
     bool TakesKeys() const;
 
@@ -54,6 +57,11 @@ class FrmPaper : public QScrollArea {
   signals:
     /// Which commands are open may have changed.
     void Changed();
+
+    /// The drawing that the problem asks for is to be shown.
+    void GraphAsked();
+    /// The drawing of the last problem is to be put away.
+    void GraphDone();
 
     /// The right button asks for a pop-up, at this place of the screen.
     void PencilMenuAsked(QPoint place);

@@ -11,14 +11,11 @@
 #include <QTabWidget>
 #include <QTreeWidget>
 #include <QVBoxLayout>
-#include <algorithm>
-#include <map>
 #include <utility>
 
-#include "catalogue/topics.h"
-#include "ui/artwork.h"
 #include "ui/double_click.h"
 #include "ui/text.h"
+#include "ui/topic_views.h"
 
 namespace numerello {
 
@@ -26,10 +23,7 @@ namespace {
 
 constexpr QSize kSmallest(440, 520);
 constexpr int kMargin = 8;
-constexpr int kPicture = 20;
-constexpr int kRowPadding = 8;
-constexpr int kUsualRow = kPicture + kRowPadding;
-constexpr int kNodeRole = Qt::UserRole;
+constexpr int kUsualRow = 28;
 
 ChooserKey KeyOf(const QKeyEvent& event) {
     switch (event.key()) {
@@ -61,27 +55,10 @@ bool MovesThroughList(const QKeyEvent& event) {
     }
 }
 
-/// Pictures grow with the interface font.
-int PictureSize(const QWidget& window) {
-    return std::max(kPicture, window.fontMetrics().height());
-}
-
-int RowHeight(const QWidget& window) {
-    return PictureSize(window) + kRowPadding;
-}
-
-int Indentation(const QWidget& window) {
-    return PictureSize(window) + kRowPadding / 2;
-}
-
 bool IsMouse(const QEvent& event) {
     return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseMove ||
            event.type() == QEvent::MouseButtonDblClick ||
            event.type() == QEvent::MouseButtonRelease;
-}
-
-int NodeOf(const QTreeWidgetItem& item) {
-    return item.data(0, kNodeRole).toInt();
 }
 
 }  // namespace
@@ -199,35 +176,8 @@ FrmSelect::FrmSelect(TopicChoice& topic, std::vector<TreeNode> nodes, const Cloc
 void FrmSelect::MakeTree() {
     treeView1 = new ForwardingView<QTreeWidget>(*this, ChooserControl::TreeView1,
                                                 &Chooser::TreeView1_KeyDown);
-    treeView1->setObjectName(QStringLiteral("TreeView1"));
-    treeView1->setAccessibleName(QStringLiteral("Topics by chapter"));
-    treeView1->setHeaderHidden(true);
-    treeView1->setIconSize({PictureSize(*this), PictureSize(*this)});
-    treeView1->setIndentation(Indentation(*this));
-    treeView1->setUniformRowHeights(true);
-    // A double click on a folder opens it by its first half.
-    treeView1->setExpandsOnDoubleClick(false);
-    treeView1->setEditTriggers(QAbstractItemView::NoEditTriggers);
-
-    std::map<std::string_view, QTreeWidgetItem*> folders;
-    for (const TreeNode& node : chooser.Nodes()) {
-        QTreeWidgetItem* item =
-            MakeItem(node, node.parent.empty() ? nullptr : folders.at(node.parent));
-        item->setData(0, kNodeRole, static_cast<int>(items.size()));
-        items.push_back(item);
-        if (!node.key.empty()) {
-            folders[node.key] = item;
-        }
-    }
+    items = FillTopicTree(*treeView1, chooser.Nodes());
     ConnectTree();
-}
-
-QTreeWidgetItem* FrmSelect::MakeItem(const TreeNode& node, QTreeWidgetItem* folder) {
-    auto* item = folder == nullptr ? new QTreeWidgetItem(treeView1) : new QTreeWidgetItem(folder);
-    item->setText(0, ToQString(node.caption));
-    item->setIcon(0, ArtworkIcon(ToQString(node.image)));
-    item->setSizeHint(0, {0, RowHeight(*this)});
-    return item;
 }
 
 void FrmSelect::ConnectTree() {
@@ -257,7 +207,7 @@ void FrmSelect::MakeIndex() {
     text1->setAccessibleName(QStringLiteral("Search"));
     text1->setPlaceholderText(QStringLiteral("Search"));
     text1->setClearButtonEnabled(true);
-    text1->setMinimumHeight(RowHeight(*this));
+    text1->setMinimumHeight(TopicRowHeight(*this));
     text1->setTextMargins(kMargin / 2, 0, kMargin / 2, 0);
     connect(text1, &QLineEdit::textChanged, this, [this](const QString& text) {
         if (!mirroring) {
@@ -269,16 +219,7 @@ void FrmSelect::MakeIndex() {
 
     indexList = new ForwardingView<QListWidget>(
         *this, ChooserControl::IndexList, &Chooser::IndexList_KeyDown, &Chooser::IndexList_MouseUp);
-    indexList->setObjectName(QStringLiteral("IndexList"));
-    indexList->setAccessibleName(QStringLiteral("Topics in alphabetic order"));
-    indexList->setUniformItemSizes(true);
-    indexList->setIconSize(treeView1->iconSize());
-    indexList->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    const QIcon topicPicture = ArtworkIcon(QStringLiteral("book2"));
-    for (const std::string_view caption : IndexRows()) {
-        auto* row = new QListWidgetItem(topicPicture, ToQString(caption), indexList);
-        row->setSizeHint({0, RowHeight(*this)});
-    }
+    FillTopicIndex(*indexList);
     connect(indexList, &QListWidget::currentRowChanged, this,
             [this](int row) { Forward([&] { chooser.IndexList_Moved(row); }); });
     connect(indexList, &QListWidget::itemDoubleClicked, this,
@@ -316,12 +257,8 @@ void FrmSelect::MakeTabs() {
 
 /// Room for the longest caption three folders deep, and for the rows of a larger interface font.
 QSize FrmSelect::PreferredSize() const {
-    int widest = 0;
-    for (const std::string_view caption : IndexRows()) {
-        widest = std::max(widest, fontMetrics().horizontalAdvance(ToQString(caption)));
-    }
-    const QSize needed(widest + 4 * Indentation(*this) + 7 * kMargin,
-                       kSmallest.height() * RowHeight(*this) / kUsualRow);
+    const QSize needed(WidestTopic(*this) + 4 * TopicIndentation(*this) + 7 * kMargin,
+                       kSmallest.height() * TopicRowHeight(*this) / kUsualRow);
     return needed.expandedTo(kSmallest).boundedTo(screen()->availableSize() * 0.9);
 }
 

@@ -42,7 +42,6 @@ class FrmSelect : public QDialog {
     void MakeTree();
     void MakeIndex();
     void MakeTabs();
-    QTreeWidgetItem* MakeItem(const TreeNode& node, QTreeWidgetItem* folder);
     void ConnectTree();
     QSize PreferredSize() const;
 

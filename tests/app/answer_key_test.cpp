@@ -10,15 +10,15 @@
 namespace numerello {
 namespace {
 
-std::vector<AnsweredProblem> KeyOf(const std::vector<TestRow>& rows, int moment,
-                                   std::uint32_t seed = 0) {
+std::vector<WorkedProblem> KeyOf(const std::vector<TestRow>& rows, int moment,
+                                 std::uint32_t seed = 0) {
     MomentDraws draws(moment, seed);
     PracticeTest test;
     CreatePracticeTest(rows, test, *draws);
     return AnswerKey(test.problems, AnswerSettings(), AllSolvers());
 }
 
-std::string LastLine(const AnsweredProblem& answered) {
+std::string LastLine(const WorkedProblem& answered) {
     const Log log = LogOf(answered.problem);
     return log.empty() ? "" : log.back().first;
 }
@@ -75,7 +75,7 @@ TEST(AnswerKey, HasAnAnswerForEveryTopic) {
         for (const bool complex : {false, true}) {
             const auto key = KeyOf({{std::string(topic.caption), 20, complex}}, 2317, 3);
             ASSERT_EQ(key.size(), 20U);
-            for (const AnsweredProblem& answered : key) {
+            for (const WorkedProblem& answered : key) {
                 const Problem& problem = answered.problem;
                 EXPECT_EQ(problem.topic.ProblemType, topic.code);
                 const bool answers = problem.columns.Any() || problem.log.StepCount > 1 ||

@@ -1,0 +1,63 @@
+#include "output/print_key.h"
+
+#include "core/text.h"
+#include "core/topic_codes.h"
+#include "output/print_columns.h"
+#include "output/print_line.h"
+
+namespace numerello {
+
+namespace {
+
+constexpr std::string_view kIndent = "        ";
+
+bool IsWorkedInColumns(const WorkedProblem& worked) {
+    return worked.problem.topic.ProblemType >= kFirstColumnTopic;
+}
+
+/// Whether the first worked line only says again what the test asks.
+bool RepeatsProblem(const WorkedProblem& worked) {
+    const StepLog& log = worked.problem.log;
+    return log.StepCount > 1 && worked.line.ends_with(Text(") ", log.StepText[1]));
+}
+
+void PrintWorking(const WorkedProblem& worked, Surface& Printer, Learner& learner) {
+    if (IsWorkedInColumns(worked)) {
+        PrintWholeColumns(worked.problem, Printer, learner);
+        return;
+    }
+    std::string above = worked.line;
+    for (const std::string& line : KeyLines(worked)) {
+        PartFractions(above, line, Printer);
+        PrintWholeLine(Text(kIndent, line), Printer, false, learner);
+        above = line;
+    }
+}
+
+}  // namespace
+
+std::vector<std::string> KeyLines(const WorkedProblem& worked) {
+    std::vector<std::string> lines;
+    const StepLog& log = worked.problem.log;
+    for (int i = RepeatsProblem(worked) ? 2 : 1; i < log.StepCount; ++i) {
+        lines.push_back(log.StepText[i]);
+    }
+    return lines;
+}
+
+std::vector<int> PrintAnswerKey(const HeadingLines& heading,
+                                std::span<const WorkedProblem> problems, Surface& Printer,
+                                Learner& learner) {
+    PrintHeading(heading, Printer);
+    PrintEmptyLine(Printer);
+    std::vector<int> pages;
+    for (const WorkedProblem& worked : problems) {
+        PrintWholeLine(worked.line, Printer, false, learner);
+        pages.push_back(Printer.PageCount() - 1);
+        PrintWorking(worked, Printer, learner);
+        PrintEmptyLine(Printer);
+    }
+    return pages;
+}
+
+}  // namespace numerello

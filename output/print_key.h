@@ -1,0 +1,24 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+#include "core/learner.h"
+#include "output/answer_key.h"
+#include "output/print_heading.h"
+
+namespace numerello {
+
+/// Prints what a practice test's problems come to: each with its number, its worked lines below it.
+/// `Printer` is an empty print surface in the sheets' face at 12 points. Gives the page, from 0,
+/// that each problem begins on.
+std::vector<int> PrintAnswerKey(const HeadingLines& heading,
+                                std::span<const WorkedProblem> problems, Surface& Printer,
+                                Learner& learner);
+
+/// The worked lines that the key prints below a problem: all but one that only says again what the
+/// test asks. None for a column problem, which is drawn.
+std::vector<std::string> KeyLines(const WorkedProblem& worked);
+
+}  // namespace numerello

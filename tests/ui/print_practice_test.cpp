@@ -1,0 +1,254 @@
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTreeWidget>
+
+#include "tests/ui/printed_forms.h"
+#include "ui/frm_practice_test.h"
+
+namespace numerello {
+namespace {
+
+const FixedClock kClock(0, {.year = 2026, .month = 3, .day = 9});
+
+class PracticeTest : public testing::Test {
+  protected:
+    PracticeTest() { Open(); }
+
+    void Open() {
+        form = std::make_unique<FrmPracticeTest>(
+            [this](std::span<const TestRow> rows) {
+                asked.assign(rows.begin(), rows.end());
+                ++made;
+                return MadeTest{{"", "Add:", "1) 4 + 5"}, {}};
+            },
+            heading, device, kClock);
+        ShowActive(*form);
+    }
+
+    QLineEdit& Text4(int row) { return Find<QLineEdit>(*form, Name("Text4", row)); }
+    QComboBox& Combo1(int row) { return Find<QComboBox>(*form, Name("Combo1", row)); }
+    QCheckBox& Check1(int row) { return Find<QCheckBox>(*form, Name("Check1", row)); }
+    QTreeWidget& TreeView1() { return Find<QTreeWidget>(*form, "TreeView1"); }
+    QListWidget& IndexList() { return Find<QListWidget>(*form, "IndexList"); }
+    QPushButton& Button(const char* name) { return Find<QPushButton>(*form, QLatin1String(name)); }
+
+    QModelIndex Row(const QString& caption) {
+        const auto found = TreeView1().findItems(caption, Qt::MatchExactly | Qt::MatchRecursive);
+        EXPECT_EQ(found.size(), 1) << caption.toStdString();
+        return TreeView1().indexFromItem(found.front());
+    }
+
+    void OpenFolderOf(const QString& caption) {
+        for (QModelIndex folder = Row(caption).parent(); folder.isValid();
+             folder = folder.parent()) {
+            TreeView1().expand(folder);
+        }
+    }
+
+    void ChooseInTree(const QString& caption) {
+        OpenFolderOf(caption);
+        DoubleClickRow(TreeView1(), Row(caption));
+    }
+
+    void ChooseInIndex(const QString& caption) {
+        Find<QTabWidget>(*form, "SSTab1").setCurrentIndex(1);
+        const auto found = IndexList().findItems(caption, Qt::MatchExactly);
+        ASSERT_EQ(found.size(), 1);
+        DoubleClickRow(IndexList(), IndexList().model()->index(IndexList().row(found.front()), 0));
+    }
+
+    void Create() {
+        const WhenDialogOpens preview("frmPrintPreview",
+                                      [](QWidget& window) { PressKey(window, Qt::Key_Escape); });
+        Click(Button("Command2"));
+    }
+
+    static QString Name(const char* control, int row) {
+        return QStringLiteral("%1(%2)").arg(QLatin1String(control)).arg(row);
+    }
+
+    std::optional<HeadingLines> heading;
+    std::vector<TestRow> asked;
+    int made = 0;
+    PrintDevice device;
+    std::unique_ptr<FrmPracticeTest> form;
+};
+
+TEST_F(PracticeTest, OpensWithTenEmptyRowsAndTheDocumentedTexts) {
+    EXPECT_EQ(form->objectName(), "frmPracticeTest");
+    EXPECT_EQ(form->windowTitle(), "Practice Test");
+    for (int row = 0; row < 10; ++row) {
+        EXPECT_EQ(Text4(row).text(), "");
+        ASSERT_EQ(Combo1(row).count(), 18);
+        EXPECT_EQ(Combo1(row).itemText(0), "1");
+        EXPECT_EQ(Combo1(row).itemText(17), "18");
+        EXPECT_FALSE(Check1(row).isChecked());
+    }
+    EXPECT_EQ(Button("Command1").text(), "Cancel");
+    EXPECT_EQ(Button("Command2").text(), "Create Practice Test");
+    EXPECT_EQ(Find<QLineEdit>(*form, "Text1").text(), "Vantrel Numerello");
+    EXPECT_EQ(Find<QLineEdit>(*form, "Text2").text(), "Practice Test");
+    EXPECT_EQ(Find<QLineEdit>(*form, "Text3").text(), "03/09/2026");
+    EXPECT_EQ(Find<QGroupBox>(*form, "").title(), "Print Heading");
+    QStringList labels;
+    for (const QLabel* label : form->findChildren<QLabel*>()) {
+        labels.append(label->text());
+    }
+    for (const char* text : {"Problem Type", "Number of Problems ", "Complex"}) {
+        EXPECT_TRUE(labels.contains(QLatin1String(text))) << text;
+    }
+}
+
+TEST_F(PracticeTest, PutsAChosenTopicIntoTheFirstFreeRow) {
+    ChooseInTree("Rounding");
+    ChooseInIndex("Medians");
+    ChooseInIndex("Medians");
+    EXPECT_EQ(Text4(0).text(), "Rounding");
+    EXPECT_EQ(Text4(1).text(), "Medians");
+    EXPECT_EQ(Text4(2).text(), "Medians");
+    EXPECT_EQ(Text4(3).text(), "");
+    EXPECT_EQ(Combo1(0).currentText(), "5");
+    PressKey(*form, Qt::Key_Escape);
+}
+
+TEST_F(PracticeTest, ChoosesByEnter) {
+    OpenFolderOf("Rounding");
+    TreeView1().setCurrentIndex(Row("Rounding"));
+    TreeView1().setFocus();
+    PressKey(*form, Qt::Key_Return);
+    EXPECT_EQ(Text4(0).text(), "Rounding");
+    Find<QTabWidget>(*form, "SSTab1").setCurrentIndex(1);
+    IndexList().setFocus();
+    IndexList().setCurrentRow(0);
+    PressKey(*form, Qt::Key_Enter);
+    EXPECT_EQ(Text4(1).text(), IndexList().item(0)->text());
+    EXPECT_EQ(made, 0);
+}
+
+TEST_F(PracticeTest, SingleClickOnlySelects) {
+    OpenFolderOf("Rounding");
+    ClickRow(TreeView1(), Row("Rounding"));
+    EXPECT_EQ(TreeView1().currentIndex(), Row("Rounding"));
+    EXPECT_EQ(Text4(0).text(), "");
+}
+
+TEST_F(PracticeTest, ClickOpensAFolderAndEnterToo) {
+    const QModelIndex folder = TreeView1().model()->index(0, 0);
+    ClickRow(TreeView1(), folder);
+    EXPECT_TRUE(TreeView1().isExpanded(folder));
+    DoubleClickRow(TreeView1(), TreeView1().model()->index(1, 0));
+    EXPECT_TRUE(TreeView1().isExpanded(TreeView1().model()->index(1, 0)));
+    TreeView1().setCurrentIndex(TreeView1().model()->index(2, 0));
+    TreeView1().setFocus();
+    PressKey(*form, Qt::Key_Return);
+    EXPECT_TRUE(TreeView1().isExpanded(TreeView1().model()->index(2, 0)));
+    EXPECT_EQ(Text4(0).text(), "");
+}
+
+TEST_F(PracticeTest, TakesNoEleventhTopic) {
+    for (int i = 0; i < 11; ++i) {
+        ChooseInIndex(i == 10 ? "Medians" : "Rounding");
+    }
+    for (int row = 0; row < 10; ++row) {
+        EXPECT_EQ(Text4(row).text(), "Rounding");
+    }
+}
+
+TEST_F(PracticeTest, EmptiesARowByDeleteOrBackspaceAndFillsTheGapNext) {
+    for (const char* topic : {"Rounding", "Medians", "Modes"}) {
+        ChooseInIndex(topic);
+    }
+    Combo1(1).setCurrentIndex(11);
+    Check1(1).setChecked(true);
+    Text4(1).setFocus();
+    TypeText(*form, "x7");
+    EXPECT_EQ(Text4(1).text(), "Medians");
+    PressKey(*form, Qt::Key_Delete);
+    EXPECT_EQ(Text4(1).text(), "");
+    EXPECT_EQ(Text4(2).text(), "Modes");
+    Text4(2).setFocus();
+    PressKey(*form, Qt::Key_Backspace);
+    EXPECT_EQ(Text4(2).text(), "");
+    ChooseInIndex("Ratios");
+    EXPECT_EQ(Text4(1).text(), "Ratios");
+    EXPECT_EQ(Combo1(1).currentText(), "5");
+    EXPECT_FALSE(Check1(1).isChecked());
+}
+
+TEST_F(PracticeTest, MakesATestOfTheFilledRows) {
+    ChooseInIndex("Rounding");
+    ChooseInIndex("Medians");
+    ChooseInIndex("Modes");
+    Combo1(0).setCurrentIndex(17);
+    Check1(2).setChecked(true);
+    Text4(1).setFocus();
+    PressKey(*form, Qt::Key_Delete);
+    Create();
+    ASSERT_EQ(asked.size(), 2U);
+    EXPECT_EQ(asked[0].topic, "Rounding");
+    EXPECT_EQ(asked[0].count, 18);
+    EXPECT_FALSE(asked[0].complex);
+    EXPECT_EQ(asked[1].topic, "Modes");
+    EXPECT_EQ(asked[1].count, 5);
+    EXPECT_TRUE(asked[1].complex);
+}
+
+TEST_F(PracticeTest, StaysOpenBehindThePreviewAndMakesANewTestEachTime) {
+    ChooseInIndex("Rounding");
+    Create();
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(Text4(0).text(), "Rounding");
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    Create();
+    EXPECT_EQ(made, 2);
+}
+
+TEST_F(PracticeTest, OfNoRowsIsTheHeadingAlone) {
+    Create();
+    EXPECT_EQ(made, 1);
+    EXPECT_TRUE(asked.empty());
+}
+
+TEST_F(PracticeTest, PrintsTheHeadingThatWasTyped) {
+    Find<QLineEdit>(*form, "Text2").setText("Class 4b");
+    QString words;
+    const WhenDialogOpens preview("frmPrintPreview", [&](QWidget& window) {
+        words = Find<QWidget>(window, "Picture1(0)").accessibleDescription();
+        PressKey(window, Qt::Key_Escape);
+    });
+    Click(Button("Command2"));
+    EXPECT_TRUE(words.startsWith("Vantrel Numerello\nClass 4b\n03/09/2026\n"))
+        << words.toStdString();
+}
+
+TEST_F(PracticeTest, KeepsTheHeadingForTheNextTime) {
+    Find<QLineEdit>(*form, "Text1").setText("Miss Bell");
+    ChooseInIndex("Rounding");
+    Click(Button("Command1"));
+    EXPECT_FALSE(form->isVisible());
+    Open();
+    EXPECT_EQ(Find<QLineEdit>(*form, "Text1").text(), "Miss Bell");
+    EXPECT_EQ(Text4(0).text(), "");
+}
+
+TEST_F(PracticeTest, NamesEveryControl) {
+    for (const QWidget* control : form->findChildren<QWidget*>()) {
+        if (control->focusPolicy() != Qt::NoFocus && control->isVisible()) {
+            const auto* button = qobject_cast<const QAbstractButton*>(control);
+            const bool hasText = button != nullptr && !button->text().isEmpty();
+            EXPECT_TRUE(hasText || !control->accessibleName().isEmpty())
+                << control->objectName().toStdString() << control->metaObject()->className();
+        }
+    }
+}
+
+}  // namespace
+}  // namespace numerello

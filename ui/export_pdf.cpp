@@ -1,0 +1,147 @@
+#include "ui/export_pdf.h"
+
+#include <QStringList>
+#include <QtGlobal>
+#include <cstdio>
+#include <optional>
+#include <string_view>
+
+#include "app/solvers.h"
+#include "catalogue/guided_input.h"
+#include "catalogue/saved_problem.h"
+#include "core/clock.h"
+#include "core/random_source.h"
+#include "core/text.h"
+#include "output/print_choices.h"
+#include "output/print_solution.h"
+
+namespace numerello {
+
+namespace {
+
+/// Nobody is there to read or to answer; what was said last is why nothing more came.
+class AbsentLearner : public Learner {
+  public:
+    std::string said;
+
+    void MessageBox(std::string_view, std::string_view text) override { said = text; }
+    bool Confirm(std::string_view, std::string_view) override { return false; }
+    std::optional<std::string> InputBox(std::string_view, std::string_view prompt) override {
+        said = Text("asks: ", prompt);
+        return {};
+    }
+};
+
+/// The entry form without a window.
+class UnseenForm : public LoadingForm {
+  public:
+    UnseenForm(Problem& problem, Learner& learner) : problem(problem), learner(learner) {}
+
+    bool solved = false;
+    std::optional<FailureKind> failure;
+
+    void Open() override { EraseProblem(problem, stage); }
+    void ShowEntry() override {}
+    void Form_KeyPress(std::string_view key) override { numerello::Form_KeyPress(problem, key); }
+    void compute_Click() override {
+        failure = numerello::compute_Click(problem, AllSolvers(), learner, stage);
+        solved = true;
+    }
+    void TellStatus(std::string_view) override {}
+
+  private:
+    Problem& problem;
+    Learner& learner;
+    Stage stage;
+};
+
+/// The reason why a file's problem could not be worked, empty when it was.
+std::string Work(const SavedProblem& saved, Problem& problem) {
+    MersenneSource random;
+    AbsentLearner learner;
+    UnseenForm form(problem, learner);
+    LoadSavedProblem(saved, problem, form, SystemClock(), random);
+    if (!form.solved) {
+        return "is not a finished problem";
+    }
+    return form.failure ? Text("cannot be worked: ", learner.said) : "";
+}
+
+PrintOrder OrderOf(const Problem& problem, bool hasGraph) {
+    const PrintChoices choices = ChoicesAtOpening(problem.topic.ProblemType, hasGraph);
+    return {HeadingAtOpening(problem.topic.TopicTitle, SystemClock().Today()),
+            choices.Problem.ticked, choices.Explanation.enabled, choices.Graph.ticked};
+}
+
+bool HasPages(const Problem& problem, const GraphPainter& graph) {
+    const PrintOrder order = OrderOf(problem, static_cast<bool>(graph));
+    return CanPrint(order.Problem, order.Graph);
+}
+
+void Write(const QString& pdf, const Problem& problem, const GraphPainter& graph) {
+    const PrintOrder order = OrderOf(problem, static_cast<bool>(graph));
+    const PrintJob job{
+        .name = problem.topic.TopicTitle,
+        .compose = [&](Surface& Printer,
+                       Learner& learner) { PrintSolution(problem, order, Printer, learner); },
+        .graph = graph};
+    AbsentLearner learner;
+    const ComposedJob composed(job, PaperOf(UsualLayout()), learner);
+    const QByteArray content = PdfOf(composed, UsualLayout(), job.name);
+    WriteFile(pdf.toStdString(), {content.constData(), static_cast<std::size_t>(content.size())});
+}
+
+}  // namespace
+
+bool ReadyToExport(int argc, char** argv) {
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view argument = argv[i];
+        if (argument == "--export" || argument.starts_with("--export=")) {
+            if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+                qputenv("QT_QPA_PLATFORM", "offscreen");
+            }
+            return true;
+        }
+    }
+    return false;
+}
+
+int ExportPdf(const QString& pdf, const QString& problemFile, std::string& message,
+              const GraphOf& graphOf) {
+    const std::string path = problemFile.toStdString();
+    std::string subject = path;
+    try {
+        Problem problem;
+        message = Work(ReadSavedProblem(ReadFile(path, kLongestProblemFile)), problem);
+        const GraphPainter graph = graphOf ? graphOf(problem) : GraphPainter();
+        if (message.empty() && !HasPages(problem, graph)) {
+            message = "has nothing to print but its graph";
+        }
+        if (message.empty()) {
+            subject = pdf.toStdString();
+            Write(pdf, problem, graph);
+        }
+    } catch (const FileError& error) {
+        message = error.what();
+    }
+    if (!message.empty()) {
+        message = Text(subject, ": ", message);
+        return 1;
+    }
+    return 0;
+}
+
+int ExportPdf(const QString& pdf, const QStringList& arguments, const GraphOf& graphOf) {
+    if (pdf.isEmpty() || arguments.size() != 1) {
+        std::fputs("numerello: --export FILE.pdf needs one problem file\n", stderr);
+        return 2;
+    }
+    std::string message;
+    const int status = ExportPdf(pdf, arguments.front(), message, graphOf);
+    if (!message.empty()) {
+        std::fputs(Text("numerello: ", message, "\n").c_str(), stderr);
+    }
+    return status;
+}
+
+}  // namespace numerello

@@ -1,0 +1,295 @@
+#include "ui/frm_practice_test.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+#include <memory>
+#include <utility>
+
+#include "catalogue/topics.h"
+#include "ui/frm_print_preview.h"
+#include "ui/pointer.h"
+#include "ui/text.h"
+#include "ui/topic_views.h"
+
+namespace numerello {
+
+namespace {
+
+constexpr int kMargin = 8;
+constexpr int kMostProblems = 18;
+constexpr int kUsualChoice = 4;  ///< 5 problems
+constexpr double kScreenShare = 0.9;
+constexpr QSize kSmallest(860, 560);
+
+std::vector<TreeNode> AllNodes() {
+    TopicChoice none;
+    return BuildTopicTree(none, false);
+}
+
+bool IsEnter(int key) {
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+HeadingLines FreshHeading(const Date& today) {
+    return HeadingAtOpening("Practice Test", today);
+}
+
+}  // namespace
+
+FrmPracticeTest::FrmPracticeTest(TestMaker makeTest, std::optional<HeadingLines>& heading,
+                                 PrintDevice& device, const Clock& clock, QWidget* parent)
+    : QDialog(parent),
+      makeTest(std::move(makeTest)),
+      keptHeading(heading),
+      device(device),
+      clock(clock),
+      nodes(AllNodes()) {
+    setObjectName(QStringLiteral("frmPracticeTest"));
+    setWindowTitle(QStringLiteral("Practice Test"));
+    setModal(true);
+    childrenTimer.setSingleShot(true);
+    connect(&childrenTimer, &QTimer::timeout, this, &FrmPracticeTest::ShowChildren);
+
+    MakeTabs();
+    auto* right = new QVBoxLayout;
+    right->addWidget(MakeOutline(), 1);
+    this->heading = MakeHeadingGroup(keptHeading.value_or(FreshHeading(clock.Today())), this);
+    right->addWidget(this->heading.group);
+    right->addLayout(MakeButtons());
+    auto* row = new QHBoxLayout(this);
+    row->addWidget(ssTab1, 2);
+    row->addLayout(right, 3);
+    resize(PreferredSize());
+    treeView1->setFocus();
+}
+
+void FrmPracticeTest::MakeTabs() {
+    ssTab1 = new QTabWidget(this);
+    ssTab1->setObjectName(QStringLiteral("SSTab1"));
+    ssTab1->setAccessibleName(QStringLiteral("Topics"));
+    ssTab1->tabBar()->setAccessibleName(QStringLiteral("Topic or index"));
+
+    treeView1 = new QTreeWidget;
+    FillTopicTree(*treeView1, nodes);
+    treeView1->setToolTip(QStringLiteral("Enter or a double click puts a topic into the test"));
+    treeView1->setCurrentItem(treeView1->topLevelItem(0));
+    connect(treeView1, &QTreeWidget::itemClicked, this,
+            [this](QTreeWidgetItem* item) { ClickNode(*item); });
+    connect(treeView1, &QTreeWidget::itemDoubleClicked, this,
+            [this](QTreeWidgetItem* item) { ChooseNode(*item); });
+
+    indexList = new QListWidget;
+    FillTopicIndex(*indexList);
+    indexList->setToolTip(treeView1->toolTip());
+    indexList->setCurrentRow(0);
+    connect(indexList, &QListWidget::itemDoubleClicked, this,
+            [this](QListWidgetItem* item) { Choose(item->text().toStdString()); });
+
+    for (QAbstractItemView* view :
+         {static_cast<QAbstractItemView*>(treeView1), static_cast<QAbstractItemView*>(indexList)}) {
+        view->installEventFilter(this);
+        auto* page = new QWidget;
+        auto* column = new QVBoxLayout(page);
+        column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+        column->addWidget(view);
+        ssTab1->addTab(page, view == treeView1 ? QStringLiteral("Topic") : QStringLiteral("Index"));
+    }
+}
+
+QWidget* FrmPracticeTest::MakeOutline() {
+    auto* outline = new QWidget;
+    auto* grid = new QGridLayout(outline);
+    grid->setContentsMargins({});
+    grid->setVerticalSpacing(kMargin / 2);
+    grid->setColumnStretch(0, 1);
+    int column = 0;
+    for (const char* caption : {"Problem Type", "Number of Problems ", "Complex"}) {
+        grid->addWidget(new QLabel(QString::fromLatin1(caption), outline), 0, column++);
+    }
+    for (int i = 0; i < kRows; ++i) {
+        const Row row = MakeRow(i, outline);
+        grid->addWidget(row.Text4, i + 1, 0);
+        grid->addWidget(row.Combo1, i + 1, 1);
+        grid->addWidget(row.Check1, i + 1, 2, Qt::AlignHCenter);
+        rows[static_cast<std::size_t>(i)] = row;
+    }
+    grid->setRowStretch(kRows + 1, 1);
+
+    // On a small screen the rows scroll, so that heading and buttons stay in sight.
+    auto* scrolled = new QScrollArea(this);
+    scrolled->setWidget(outline);
+    scrolled->setWidgetResizable(true);
+    scrolled->setFrameShape(QFrame::NoFrame);
+    scrolled->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scrolled->setFocusPolicy(Qt::NoFocus);
+    scrolled->setMinimumWidth(outline->minimumSizeHint().width());
+    return scrolled;
+}
+
+FrmPracticeTest::Row FrmPracticeTest::MakeRow(int index, QWidget* parent) {
+    const QString number = QString::number(index + 1);
+    Row row{new QLineEdit(parent), new QComboBox(parent), new QCheckBox(parent)};
+    row.Text4->setObjectName(QStringLiteral("Text4(%1)").arg(index));
+    row.Text4->setAccessibleName(QStringLiteral("Problem type of row %1").arg(number));
+    row.Text4->setToolTip(QStringLiteral("Delete or Backspace empties the row"));
+    row.Text4->setReadOnly(true);
+    row.Text4->setMinimumWidth(WidestTopic(*this) + 2 * kMargin);
+    row.Text4->installEventFilter(this);
+
+    row.Combo1->setObjectName(QStringLiteral("Combo1(%1)").arg(index));
+    row.Combo1->setAccessibleName(QStringLiteral("Number of problems of row %1").arg(number));
+    row.Combo1->setToolTip(QStringLiteral("How many problems of this topic"));
+    for (int count = 1; count <= kMostProblems; ++count) {
+        row.Combo1->addItem(QString::number(count));
+    }
+    row.Check1->setObjectName(QStringLiteral("Check1(%1)").arg(index));
+    row.Check1->setAccessibleName(QStringLiteral("Complex problems in row %1").arg(number));
+    row.Check1->setToolTip(QStringLiteral("Longer numbers and expressions"));
+    Fill(row, QString());
+    return row;
+}
+
+QLayout* FrmPracticeTest::MakeButtons() {
+    auto* command2 = MakeButton(QStringLiteral("Command2"), QStringLiteral("Create Practice Test"),
+                                QStringLiteral("Make the test up and show it"), this);
+    command2->setDefault(true);
+    auto* command1 = MakeButton(QStringLiteral("Command1"), QStringLiteral("Cancel"),
+                                QStringLiteral("Close without a test"), this);
+    connect(command2, &QPushButton::clicked, this, &FrmPracticeTest::Command2_Click);
+    connect(command1, &QPushButton::clicked, this, &FrmPracticeTest::reject);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(command2);
+    buttons->addWidget(command1);
+    return buttons;
+}
+
+QSize FrmPracticeTest::PreferredSize() const {
+    return sizeHint().expandedTo(kSmallest).boundedTo(screen()->availableSize() * kScreenShare);
+}
+
+/// The heading is kept however the form closes.
+void FrmPracticeTest::done(int result) {
+    keptHeading = heading.Texts();
+    QDialog::done(result);
+}
+
+bool FrmPracticeTest::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (KeyInTopics(watched, key) || KeyInRow(watched, key)) {
+            return true;
+        }
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+bool FrmPracticeTest::KeyInTopics(QObject* watched, int key) {
+    if (!IsEnter(key)) {
+        return false;
+    }
+    if (watched == treeView1 && treeView1->currentItem() != nullptr) {
+        treeView1->currentItem()->setExpanded(true);
+        ChooseNode(*treeView1->currentItem());
+        return true;
+    }
+    if (watched == indexList && indexList->currentItem() != nullptr) {
+        Choose(indexList->currentItem()->text().toStdString());
+        return true;
+    }
+    return false;
+}
+
+bool FrmPracticeTest::KeyInRow(QObject* watched, int key) {
+    if (key != Qt::Key_Delete && key != Qt::Key_Backspace) {
+        return false;
+    }
+    for (Row& row : rows) {
+        if (watched == row.Text4) {
+            Fill(row, QString());
+            return true;
+        }
+    }
+    return false;
+}
+
+void FrmPracticeTest::ClickNode(QTreeWidgetItem& item) {
+    if (item.childCount() > 0) {
+        item.setExpanded(!item.isExpanded());
+        // A row must not be scrolled away between the halves of a double click.
+        childrenTimer.start(QApplication::doubleClickInterval());
+    }
+}
+
+void FrmPracticeTest::ChooseNode(QTreeWidgetItem& item) {
+    const TreeNode& node = nodes[static_cast<std::size_t>(NodeOf(item))];
+    if (node.key.empty()) {
+        Choose(node.caption);
+    }
+}
+
+/// Into the first free row. A full outline takes nothing more.
+void FrmPracticeTest::Choose(std::string_view caption) {
+    for (Row& row : rows) {
+        if (row.Text4->text().isEmpty()) {
+            Fill(row, ToQString(caption));
+            return;
+        }
+    }
+}
+
+void FrmPracticeTest::Fill(Row& row, const QString& caption) {
+    const bool filled = !caption.isEmpty();
+    row.Text4->setText(caption);
+    row.Text4->setCursorPosition(0);
+    row.Combo1->setCurrentIndex(filled ? kUsualChoice : -1);
+    row.Combo1->setEnabled(filled);
+    row.Check1->setChecked(false);
+    row.Check1->setEnabled(filled);
+}
+
+/// A folder opened at the lower edge would else seem to do nothing.
+void FrmPracticeTest::ShowChildren() {
+    QTreeWidgetItem* folder = treeView1->currentItem();
+    if (folder != nullptr && folder->isExpanded()) {
+        treeView1->scrollToItem(folder->child(folder->childCount() - 1));
+        treeView1->scrollToItem(folder);
+    }
+}
+
+std::vector<TestRow> FrmPracticeTest::Outline() const {
+    std::vector<TestRow> outline;
+    for (const Row& row : rows) {
+        if (!row.Text4->text().isEmpty()) {
+            outline.push_back({row.Text4->text().toStdString(), row.Combo1->currentText().toInt(),
+                               row.Check1->isChecked()});
+        }
+    }
+    return outline;
+}
+
+void FrmPracticeTest::Command2_Click() {
+    std::unique_ptr<FrmPrintPreview> preview;
+    {
+        const PointerGuard busy(Qt::WaitCursor);
+        preview = std::make_unique<FrmPrintPreview>(
+            PreviewOfTest(heading.Texts(), makeTest(Outline()), clock.Today()), device, this);
+    }
+    preview->exec();
+}
+
+}  // namespace numerello

@@ -93,7 +93,8 @@ Example ListExample(const ExampleRequest& request, ExampleDraws& draws) {
     const int count = draws.RandIntMod(2) + request.ComplexEx + 4;
     std::string list;
     for (int i = 0; i < count; ++i) {
-        list += Text(i == 0 ? "" : ",", WholeText(draws.RandInt() * factor));
+        const int number = draws.RandInt() * factor;
+        list += Text(i == 0 ? "" : ",", WholeText(number));
     }
     return Line(std::move(list));
 }

@@ -122,6 +122,12 @@ void FormFilter(Problem& problem, std::string_view key) {
     }
 }
 
+void StoreUnjudged(Problem& problem, std::string_view character) {
+    problem.input.InputError.clear();
+    Store(problem, character);
+    SetOutLine(problem);
+}
+
 bool CheckKey(Problem& problem, std::string_view character) {
     const int code = problem.topic.ProblemType;
     const TypingPoint point = ReadLine(problem.typed.ProblemText, code);

@@ -24,6 +24,9 @@ void Form_KeyPress(Problem& problem, std::string_view key);
 /// accepted one. For a line of at most kLongestLine characters.
 void FormFilter(Problem& problem, std::string_view key);
 
+/// Stores a character as an accepted one without judging it.
+void StoreUnjudged(Problem& problem, std::string_view character);
+
 /// The grammar: true to accept the character, a letter in lower case, behind ProblemText, whose
 /// letters stand in VarNames; else InputError says why not.
 bool CheckKey(Problem& problem, std::string_view character);

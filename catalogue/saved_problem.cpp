@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <optional>
 
-#include "catalogue/box_keys.h"
 #include "catalogue/chooser.h"
 #include "catalogue/entry_layouts.h"
 #include "catalogue/guided_input.h"
@@ -82,19 +81,7 @@ void LoadSavedProblem(const SavedProblem& saved, Problem& problem, LoadingForm& 
     ResetProblem(problem, true);
     ChooseSavedTopic(saved, problem.topic, clock, random);
     form.Open();
-
-    problem.boxes = SavedBoxes(saved, problem.topic.ProblemType);
-    CheckBoxesReady(problem);
-    form.ShowEntry();
-
-    if (IsTypedOnLine(problem.topic.ProblemType)) {
-        for (const std::string& key : SavedKeys(saved)) {
-            form.Form_KeyPress(key);
-        }
-    }
-    if (problem.controls.SolveEnabled) {
-        form.compute_Click();
-    }
+    EnterAndSolve({SavedKeys(saved), SavedBoxes(saved, problem.topic.ProblemType)}, problem, form);
 }
 
 bool mnuLoad_Click(std::string_view StartFile, ProblemFiles& files, Problem& problem,

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "catalogue/entering.h"
 #include "core/clock.h"
 #include "core/problem_file.h"
 #include "core/problem_files.h"
@@ -30,18 +31,10 @@ EntryBoxes SavedBoxes(const SavedProblem& saved, int ProblemType);
 std::vector<std::string> SavedKeys(const SavedProblem& saved);
 
 /// The entry form while a problem is loaded into it.
-class LoadingForm {
+class LoadingForm : public FillingForm {
   public:
-    virtual ~LoadingForm() = default;
-
     /// Unloads the form that stands, and loads and shows that of the chosen topic, erased.
     virtual void Open() = 0;
-
-    /// Boxes and lists have been filled.
-    virtual void ShowEntry() = 0;
-
-    virtual void Form_KeyPress(std::string_view key) = 0;
-    virtual void compute_Click() = 0;
 
     /// A short word to the learner that needs no answer.
     virtual void TellStatus(std::string_view text) = 0;

@@ -41,13 +41,9 @@ class FilmedColumns {
 
   private:
     Json Frame() const {
-        Json marks = Json::array();
-        for (const Mark& mark : stage.Page().Marks()) {
-            marks.push_back(MarkFields(mark));
-        }
         const Playback& playback = problem.playback;
         return {{"note", std::as_const(problem.log).StepNote[playback.ShownStep]},
-                {"marks", std::move(marks)},
+                {"marks", MarksOf(stage.Page())},
                 {"end", {Rounded(playback.LineEndX), Rounded(playback.LineEndY)}},
                 {"finished", stage.Finished()}};
     }

@@ -123,6 +123,19 @@ std::vector<long> Fields::Integers(std::string_view name, std::size_t most, long
     return integers;
 }
 
+std::vector<const Json*> Fields::Objects(std::string_view name, std::size_t most) {
+    std::vector<const Json*> objects;
+    if (const Json* array = FindArray(name, most)) {
+        for (const Json& entry : *array) {
+            if (!entry.is_object()) {
+                WrongType(name, "an array of objects");
+            }
+            objects.push_back(&entry);
+        }
+    }
+    return objects;
+}
+
 const Json* Fields::Object(std::string_view name) {
     const Json* value = Find(name);
     if (value != nullptr && !value->is_object()) {

@@ -32,6 +32,9 @@ class Fields {
     std::vector<std::string> Strings(std::string_view name, std::optional<std::size_t> most);
     std::vector<long> Integers(std::string_view name, std::size_t most, long least, long highest);
 
+    /// The entries of an array of objects.
+    std::vector<const Json*> Objects(std::string_view name, std::size_t most);
+
     /// The value of an object field, null when missing.
     const Json* Object(std::string_view name);
 

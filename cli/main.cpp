@@ -6,10 +6,13 @@
 #include <string>
 #include <vector>
 
+#include "catalogue/topics.h"
 #include "cli/batch.h"
+#include "cli/lesson.h"
 #include "cli/people.h"
 #include "cli/requests.h"
 #include "cli/saved_request.h"
+#include "core/clock.h"
 
 namespace {
 
@@ -17,6 +20,7 @@ using numerello::Json;
 
 constexpr int kNotWorked = 1;
 constexpr int kUnusable = 2;
+constexpr int kMostExamples = 1000000;
 
 /// Arguments that CLI11 took but that make no sense; what() says why.
 using BadArgument = CLI::ValidationError;
@@ -142,14 +146,56 @@ int Topics(bool json) {
                 : numerello::PrintTopics(answer, std::cout, std::cerr);
 }
 
+struct ExampleArguments {
+    std::string topic;
+    bool complex = false;
+    int count = 1;
+};
+
+/// "mmss" for a second of the hour; they go round.
+std::string Moment(int second) {
+    constexpr int kHour = 3600;
+    const int moment = second % kHour / 60 * 100 + second % 60;
+    return std::to_string(10000 + moment).substr(1);
+}
+
+/// Examples made within one second have the same digits, so each is made as if a second after the
+/// one before.
+int Example(const ExampleArguments& arguments) {
+    constexpr int kProgressEvery = 1000;
+    const bool tellsProgress = isatty(STDERR_FILENO) != 0 && isatty(STDOUT_FILENO) == 0;
+    const int now = numerello::SystemClock().MinutesAndSeconds();
+    const int first = now / 100 * 60 + now % 100;
+    int status = 0;
+    for (int i = 0; i < arguments.count && status == 0 && std::cout; ++i) {
+        const Json request{{"do", "example"},
+                           {"topic", arguments.topic},
+                           {"complex", arguments.complex},
+                           {"clock", Moment(first + i)},
+                           {"seed", first + i}};
+        status = numerello::PrintExample(numerello::Answer(request, nullptr), std::cout, std::cerr);
+        if (tellsProgress && (i + 1) % kProgressEvery == 0) {
+            std::cerr << '\r' << i + 1 << " examples made" << std::flush;
+        }
+    }
+    if (tellsProgress && arguments.count >= kProgressEvery) {
+        std::cerr << '\n';
+    }
+    return status;
+}
+
 int Batch() {
     numerello::RunBatch(std::cin, std::cout, isatty(STDERR_FILENO) != 0 ? &std::cerr : nullptr);
     return 0;
 }
 
-int NotBuilt(const std::string& name) {
-    std::cerr << "numerello-cli: " << name << " is not built yet\n";
-    return kUnusable;
+int Learn(const std::string& topic) {
+    if (!topic.empty() && numerello::FindTopic(topic) == nullptr) {
+        std::cerr << "numerello-cli: unknown topic \"" << topic << "\"\n";
+        return kUnusable;
+    }
+    numerello::HoldLesson(topic, std::cout);
+    return 0;
 }
 
 void AddSolve(CLI::App& app, SolveArguments& arguments, int& status) {
@@ -207,11 +253,18 @@ int Run(int argc, char** argv) {
     CLI::App* batch = app.add_subcommand("batch", "Answer requests, one JSON object a line");
     batch->callback([&] { status = Batch(); });
 
-    for (const char* name : {"example", "learn"}) {
-        CLI::App* later = app.add_subcommand(name, "Not built yet");
-        later->allow_extras();
-        later->callback([name, &status] { status = NotBuilt(name); });
-    }
+    ExampleArguments exampleArguments;
+    CLI::App* example = app.add_subcommand("example", "Make up problems of a topic");
+    example->add_option("--topic", exampleArguments.topic, "The topic's caption")->required();
+    example->add_flag("--complex", exampleArguments.complex, "Longer numbers, larger expressions");
+    example->add_option("--count", exampleArguments.count, "How many, 1 if not given")
+        ->check(CLI::Range(1, kMostExamples));
+    example->callback([&] { status = Example(exampleArguments); });
+
+    std::string learnTopic;
+    CLI::App* learn = app.add_subcommand("learn", "The tutor in this terminal");
+    learn->add_option("--topic", learnTopic, "The topic's caption");
+    learn->callback([&] { status = Learn(learnTopic); });
 
     try {
         app.parse(argc, argv);

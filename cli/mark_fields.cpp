@@ -40,4 +40,12 @@ Json MarkFields(const Mark& mark) {
     return std::visit([](const auto& each) { return Fields(each); }, mark);
 }
 
+Json MarksOf(const Surface& surface) {
+    Json marks = Json::array();
+    for (const Mark& mark : surface.Marks()) {
+        marks.push_back(MarkFields(mark));
+    }
+    return marks;
+}
+
 }  // namespace numerello

@@ -14,4 +14,7 @@ Json Rounded(double value);
 /// A mark as the answers write it; null for a picture, which is no mark of the protocol.
 Json MarkFields(const Mark& mark);
 
+/// All marks of a surface as the answers write them.
+Json MarksOf(const Surface& surface);
+
 }  // namespace numerello

@@ -4,6 +4,7 @@
 #include <ostream>
 #include <string>
 
+#include "catalogue/entry_text.h"
 #include "catalogue/topics.h"
 #include "cli/column_picture.h"
 
@@ -131,6 +132,17 @@ int PrintTyped(const Json& answer, std::ostream& out, std::ostream& err) {
         out << '\n';
     }
     out << (answer.at("solvable").get<bool>() ? "Solve! is on.\n" : "Solve! is off.\n");
+    return kWorked;
+}
+
+int PrintExample(const Json& answer, std::ostream& out, std::ostream& err) {
+    if (!Usable(answer)) {
+        return TellUnusable(answer, err);
+    }
+    EntryBoxes boxes;
+    boxes.Text = answer.at("boxes").get<decltype(boxes.Text)>();
+    boxes.ListIndex = answer.at("lists").get<decltype(boxes.ListIndex)>();
+    out << EntryText(answer.at("code").get<int>(), String(answer, "problem"), boxes) << '\n';
     return kWorked;
 }
 

@@ -13,6 +13,8 @@ int PrintSolved(const Json& answer, bool asJson, std::ostream& out, std::ostream
 /// The reason of every step of a column problem, and the finished working drawn in characters.
 int PrintWorkedColumns(const Json& answer, std::ostream& out, std::ostream& err);
 int PrintTyped(const Json& answer, std::ostream& out, std::ostream& err);
+/// What the example asks for, in one line.
+int PrintExample(const Json& answer, std::ostream& out, std::ostream& err);
 int PrintTopics(const Json& answer, std::ostream& out, std::ostream& err);
 
 /// The answer as one line of JSON, with the same exit status.

@@ -15,12 +15,15 @@ struct Handler {
 };
 
 constexpr std::array kHandlers{
-    Handler{"solve", SolveRequest},     Handler{"columns", ColumnsRequest},
-    Handler{"typeset", TypesetRequest}, Handler{"topics", TopicsRequest},
+    Handler{"solve", SolveRequest},
+    Handler{"columns", ColumnsRequest},
+    Handler{"typeset", TypesetRequest},
+    Handler{"topics", TopicsRequest},
     Handler{"type", TypeRequest},
+    Handler{"example", ExampleProblemRequest},
+    Handler{"practice-test", PracticeTestRequest},
+    Handler{"graph", GraphingRequest},
 };
-
-constexpr std::array<std::string_view, 3> kNotBuilt{"example", "practice-test", "graph"};
 
 void Handle(const Json& request, Json& answer) {
     Fields fields(request);
@@ -32,9 +35,6 @@ void Handle(const Json& request, Json& answer) {
     if (handler != kHandlers.end()) {
         handler->handle(fields, answer);
         return;
-    }
-    if (std::find(kNotBuilt.begin(), kNotBuilt.end(), name) != kNotBuilt.end()) {
-        throw BadRequest(Text("\"", name, "\" is not built yet"));
     }
     throw BadRequest(fields.Has("do") ? Text("unknown request \"", name, "\"")
                                       : "\"do\" is missing");

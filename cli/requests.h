@@ -15,6 +15,9 @@ void ColumnsRequest(Fields& fields, Json& answer);
 void TypeRequest(Fields& fields, Json& answer);
 void TypesetRequest(Fields& fields, Json& answer);
 void TopicsRequest(Fields& fields, Json& answer);
+void GraphingRequest(Fields& fields, Json& answer);
+void ExampleProblemRequest(Fields& fields, Json& answer);
+void PracticeTestRequest(Fields& fields, Json& answer);
 
 /// The whole answer to a request object, "id" and "ok" included; never throws for a bad request.
 Json Answer(const Json& request, const Json& id);

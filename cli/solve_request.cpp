@@ -7,6 +7,7 @@
 #include "cli/setting_fields.h"
 #include "cli/topic_fields.h"
 #include "core/text.h"
+#include "graph/graph_terms.h"
 #include "worksheet/number_line.h"
 
 namespace numerello {
@@ -23,25 +24,12 @@ Json Lines(const StepLog& log) {
 
 /// What the topic draws beside its lines.
 Json Drawing(const Problem& problem) {
-    Json marks = Json::array();
+    const PlainMetrics metrics;
+    Surface sheet(metrics, {std::string(kSheetFace), 12});
     if (const auto& line = problem.playback.NumberLine) {
-        const PlainMetrics metrics;
-        Surface sheet(metrics, {std::string(kSheetFace), 12});
         DrawNumberLine(sheet, line->A, line->B);
-        for (const Mark& mark : sheet.Marks()) {
-            marks.push_back(MarkFields(mark));
-        }
     }
-    return marks;
-}
-
-/// The equation that is to be drawn, as its cells hold it.
-std::string EquationText(const TypedProblem& typed) {
-    std::string text;
-    for (int i = 0; i <= TypedProblem::kTopCell && !typed.ExprVariants[i].empty(); ++i) {
-        text += typed.ExprVariants[i];
-    }
-    return text;
+    return MarksOf(sheet);
 }
 
 /// The graph request as a playback to the end leaves it.

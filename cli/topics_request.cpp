@@ -1,26 +1,12 @@
 #include "catalogue/instructions.h"
 #include "catalogue/topics.h"
+#include "cli/draw_fields.h"
 #include "cli/requests.h"
 #include "cli/setting_fields.h"
-#include "core/text.h"
 
 namespace numerello {
 
 namespace {
-
-/// Four digits "mmss" as a number; each half from 00 to 59.
-int ReadMoment(const std::string& text) {
-    int moment = 0;
-    bool usable = text.size() == 4;
-    for (std::size_t i = 0; usable && i < text.size(); ++i) {
-        usable = IsDigit(text.substr(i, 1)) && (i % 2 == 1 || text[i] < '6');
-        moment = moment * 10 + (text[i] - '0');
-    }
-    if (!usable) {
-        throw BadRequest("\"clock\" must be four digits, minutes and seconds");
-    }
-    return moment;
-}
 
 Json Describe(const Topic& topic, const Clock& clock, RandomSource& random) {
     return {{"caption", topic.caption},
@@ -35,8 +21,7 @@ Json Describe(const Topic& topic, const Clock& clock, RandomSource& random) {
 }  // namespace
 
 void TopicsRequest(Fields& fields, Json& answer) {
-    const int moment = fields.Has("clock") ? ReadMoment(fields.String("clock", ""))
-                                           : SystemClock().MinutesAndSeconds();
+    const int moment = ReadMoment(fields).value_or(SystemClock().MinutesAndSeconds());
     AnswerSettings unused;
     ApplySettings(fields, unused);
     fields.RejectOthers();

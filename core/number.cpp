@@ -172,6 +172,15 @@ Integer ToInteger(double value) {
 }  // namespace
 
 double ToNumber(std::string_view text) {
+    // Most are short and whole.
+    constexpr std::size_t kExactDigits = 15;
+    if (text.size() <= kExactDigits && OnlyDigits(text)) {
+        std::int64_t value = 0;
+        for (const char digit : text) {
+            value = 10 * value + (digit - '0');
+        }
+        return static_cast<double>(value);
+    }
     const std::string_view number = Trimmed(text);
     if (number.empty()) {
         return 0;
@@ -211,6 +220,11 @@ std::optional<std::int16_t> LeadingInteger16(std::string_view text) {
 }
 
 std::string NumberText(double value) {
+    // Most are whole; those need no digits weighed.
+    constexpr double kSixteenDigits = 1e15;
+    if (std::abs(value) < kSixteenDigits && value == std::trunc(value)) {
+        return WholeText(static_cast<std::int64_t>(value));
+    }
     return FloatText(value, 15);
 }
 

@@ -54,13 +54,4 @@ std::string_view Trimmed(std::string_view text) {
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
-bool IsDigit(std::string_view character) {
-    return character.size() == 1 && character[0] >= '0' && character[0] <= '9';
-}
-
-bool IsLetter(std::string_view character) {
-    return character.size() == 1 && ((character[0] >= 'A' && character[0] <= 'Z') ||
-                                     (character[0] >= 'a' && character[0] <= 'z'));
-}
-
 }  // namespace numerello

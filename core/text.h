@@ -25,9 +25,14 @@ std::string Replace(std::string_view text, std::string_view from, std::string_vi
 /// The text less the blanks at its ends.
 std::string_view Trimmed(std::string_view text);
 
-bool IsDigit(std::string_view character);
+inline bool IsDigit(std::string_view character) {
+    return character.size() == 1 && character[0] >= '0' && character[0] <= '9';
+}
 
 /// True for "A".."Z" and "a".."z".
-bool IsLetter(std::string_view character);
+inline bool IsLetter(std::string_view character) {
+    return character.size() == 1 && ((character[0] >= 'A' && character[0] <= 'Z') ||
+                                     (character[0] >= 'a' && character[0] <= 'z'));
+}
 
 }  // namespace numerello

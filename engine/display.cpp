@@ -1,5 +1,7 @@
 #include "engine/display.h"
 
+#include <utility>
+
 #include "core/text.h"
 #include "notation/line_setter.h"
 
@@ -13,15 +15,16 @@ class VisibleTokens {
     explicit VisibleTokens(const Tokens& tokens) : in(tokens) {}
 
     Tokens Read() {
+        out.reserve(2 * in.size());  // a root and its coefficient are two
         for (at = 0; at < in.size(); ++at) {
             const std::string& token = in[at];
-            if (token == "|") {
+            if (IsMark(token, '|')) {
                 barOpen = !barOpen;
             }
-            if (token == "1" && IsHiddenOne()) {
+            if (IsMark(token, '1') && IsHiddenOne()) {
                 continue;
             }
-            if (token == "+" && IsHiddenPlus()) {
+            if (IsMark(token, '+') && IsHiddenPlus()) {
                 continue;
             }
             if (const std::size_t root = token.find('~'); root != std::string::npos) {
@@ -30,17 +33,21 @@ class VisibleTokens {
                 out.push_back(token);
             }
         }
-        return out;
+        return std::move(out);
     }
 
   private:
-    std::string Last() const { return out.empty() ? "" : out.back(); }
+    std::string_view Last() const {
+        return out.empty() ? std::string_view() : std::string_view(out.back());
+    }
 
-    std::string Next() const { return at + 1 < in.size() ? in[at + 1] : ""; }
+    std::string_view Next() const {
+        return at + 1 < in.size() ? std::string_view(in[at + 1]) : std::string_view();
+    }
 
     /// An exponent of 1 goes with its caret; a coefficient of 1 stands before a letter.
     bool IsHiddenOne() {
-        if (Last() == "^") {
+        if (IsMark(Last(), '^')) {
             out.pop_back();
             return true;
         }
@@ -48,8 +55,9 @@ class VisibleTokens {
     }
 
     bool IsHiddenPlus() const {
-        const std::string last = Last();
-        return last.empty() || last == "=" || last == "(" || (last == "|" && barOpen);
+        const std::string_view last = Last();
+        return last.empty() || IsMark(last, '=') || IsMark(last, '(') ||
+               (IsMark(last, '|') && barOpen);
     }
 
     void TakeRoot(const std::string& token, std::size_t root) {
@@ -71,14 +79,15 @@ class VisibleTokens {
 }  // namespace
 
 std::string DisplayText(const Tokens& tokens, int ProblemType) {
-    LineSetter setter(ProblemType);
-    for (const std::string& token : VisibleTokens(tokens).Read()) {
+    const Tokens visible = VisibleTokens(tokens).Read();
+    LineSetter setter(ProblemType, visible.size());
+    for (const std::string& token : visible) {
         setter.Add(token);
     }
     setter.CloseAll();
     std::string text;
     for (const MarkedToken& token : setter.Line()) {
-        text += token.before + token.text + token.after;
+        text.append(token.before).append(token.text).append(token.after);
     }
     return text;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -156,6 +157,7 @@ class Engine {
     void Because(std::string reason, int level);
 
     void ReadLine();
+    const std::string& ShownLine();
     void CleanReason();
     bool IsStored(const std::string& line) const;
 
@@ -233,10 +235,10 @@ class Engine {
     Problem& problem;
     Tokens tokens;
     TermTables tables;
-    bool isRead = false;    ///< the tables are those of the tokens
-    int readSide = 0;       ///< and of this side
-    std::string lineText;   ///< the tokens joined, once they are read
-    std::string shownLine;  ///< the line as the learner sees it
+    bool isRead = false;   ///< the tables are those of the tokens
+    int readSide = 0;      ///< and of this side
+    std::string lineText;  ///< the tokens joined, once they are read
+    std::optional<std::string> shownLine;
     /// What the last combining left as it was.
     struct Settled {
         std::string text;

@@ -1,5 +1,7 @@
 #include "engine/normalise.h"
 
+#include <utility>
+
 #include "core/text.h"
 
 namespace numerello {
@@ -10,7 +12,7 @@ namespace {
 std::size_t BeforeLastParens(const Tokens& tokens, std::size_t close) {
     int depth = 0;
     for (std::size_t at = close; at > 0; --at) {
-        depth += tokens[at] == ")" ? 1 : tokens[at] == "(" ? -1 : 0;
+        depth += IsMark(tokens[at], ')') ? 1 : IsMark(tokens[at], '(') ? -1 : 0;
         if (depth == 0) {
             return at - 1;
         }
@@ -23,19 +25,20 @@ class Normaliser {
     explicit Normaliser(const Tokens& tokens) : in(tokens) {}
 
     Tokens Read() {
+        out.reserve(2 * in.size());  // a sign for each token at most
         for (at = 0; at < in.size(); ++at) {
             const std::string& token = in[at];
             if (token.empty()) {
                 continue;
             }
-            if (token == "^" && at + 1 < in.size() && in[at + 1] == "1") {
+            if (IsMark(token, '^') && at + 1 < in.size() && IsMark(in[at + 1], '1')) {
                 ++at;
                 continue;
             }
             if (NeedsSign(token)) {
                 out.emplace_back("+");
             }
-            if (BeginsParens() && !out.empty() && out.back() == "*") {
+            if (BeginsParens() && !out.empty() && IsMark(out.back(), '*')) {
                 DropStar();
             }
             if (IsSign(token) && !out.empty() && IsOperator(out.back())) {
@@ -44,21 +47,21 @@ class Normaliser {
                 Take(token);
             }
         }
-        return out;
+        return std::move(out);
     }
 
   private:
     /// At the start of the line, of a side, of parentheses and of bars.
     bool NeedsSign(const std::string& token) const {
-        if (IsSign(token) || token == "[" || token == ")" || token == "|") {
-            return token == "|" && out.empty();
+        if (IsSign(token) || IsMark(token, '[') || IsMark(token, ')') || IsMark(token, '|')) {
+            return IsMark(token, '|') && out.empty();
         }
-        return out.empty() || out.back() == "=" || out.back() == "(" ||
-               (out.back() == "|" && barOpen);
+        return out.empty() || IsMark(out.back(), '=') || IsMark(out.back(), '(') ||
+               (IsMark(out.back(), '|') && barOpen);
     }
 
     void Take(const std::string& token) {
-        if (token == "|") {
+        if (IsMark(token, '|')) {
             barOpen = !barOpen;
         }
         out.push_back(token);
@@ -66,7 +69,7 @@ class Normaliser {
 
     /// A sign behind a sign or an operator.
     void MergeSign(const std::string& token) {
-        if (token == "+") {
+        if (IsMark(token, '+')) {
             return;
         }
         if (IsSign(out.back())) {
@@ -74,12 +77,12 @@ class Normaliser {
             return;
         }
         for (std::size_t i = out.size(); i-- > 0;) {
-            if (out[i] == ")") {
+            if (IsMark(out[i], ')')) {
                 i = BeforeLastParens(out, i) + 1;
-            } else if (out[i] == "|" && !barOpen) {
+            } else if (IsMark(out[i], '|') && !barOpen) {
                 do {
                     --i;
-                } while (i > 0 && out[i] != "|");
+                } while (i > 0 && !IsMark(out[i], '|'));
             } else if (IsSign(out[i]) && !IsExponentSign(out, i)) {
                 TurnSign(out[i]);
                 return;
@@ -87,15 +90,15 @@ class Normaliser {
         }
     }
 
-    static void TurnSign(std::string& sign) { sign = sign == "-" ? "+" : "-"; }
+    static void TurnSign(std::string& sign) { sign = IsMark(sign, '-') ? "+" : "-"; }
 
     /// Whether parentheses begin here, emphasised or not.
     bool BeginsParens() const {
         std::size_t next = at;
-        while (next < in.size() && in[next] == "[") {
+        while (next < in.size() && IsMark(in[next], '[')) {
             ++next;
         }
-        return next < in.size() && in[next] == "(";
+        return next < in.size() && IsMark(in[next], '(');
     }
 
     void DropStar() {
@@ -108,11 +111,11 @@ class Normaliser {
     /// Whether the factor at the end of `out` would take parentheses behind it for its own: it ends
     /// in a power, is a fraction, stands under a "/", or ends in a bar.
     bool BindsParens() const {
-        if (out.empty() || out.back() == "|" || IsFraction(out.back())) {
+        if (out.empty() || IsMark(out.back(), '|') || IsFraction(out.back())) {
             return true;
         }
         std::size_t before = out.size() - 1;
-        if (out.back() == ")") {
+        if (IsMark(out.back(), ')')) {
             before = BeforeLastParens(out, before);
         } else {
             while (before > 0 && IsLetter(out[before])) {
@@ -122,7 +125,7 @@ class Normaliser {
                 --before;
             }
         }
-        return out[before] == "^" || out[before] == "/" || IsExponentSign(out, before);
+        return IsMark(out[before], '^') || IsMark(out[before], '/') || IsExponentSign(out, before);
     }
 
     const Tokens& in;

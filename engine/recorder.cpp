@@ -13,10 +13,11 @@ namespace {
 
 /// A sign behind "/" and an exponent of 1 go; numbers beside them are put together then.
 bool LeavesNumbersToJoin(const Tokens& tokens) {
-    return std::adjacent_find(
-               tokens.begin(), tokens.end(), [](const std::string& one, const std::string& next) {
-                   return (one == "/" && IsSign(next)) || (one == "^" && next == "1");
-               }) != tokens.end();
+    return std::adjacent_find(tokens.begin(), tokens.end(),
+                              [](const std::string& one, const std::string& next) {
+                                  return (IsMark(one, '/') && IsSign(next)) ||
+                                         (IsMark(one, '^') && IsMark(next, '1'));
+                              }) != tokens.end();
 }
 
 auto Parens(const std::string& line) {
@@ -24,10 +25,12 @@ auto Parens(const std::string& line) {
 }
 
 /// " 1x" becomes " x", and so on.
-std::string WithoutUnit(const std::string& reason, std::string_view before,
-                        std::string_view letter) {
-    const std::string shown = Replace(reason, Text(before, "1", letter), Text(before, letter));
-    return Replace(shown, Text(before, "-1", letter), Text(before, "-", letter));
+void DropUnit(std::string& reason, std::string_view before, std::string_view letter) {
+    if (reason.find(Text("1", letter)) == std::string::npos) {
+        return;
+    }
+    reason = Replace(reason, Text(before, "1", letter), Text(before, letter));
+    reason = Replace(reason, Text(before, "-1", letter), Text(before, "-", letter));
 }
 
 std::size_t TermCount(const TermTables& tables) {
@@ -63,7 +66,7 @@ void Engine::ReadLine() {
             tokens = MergeNumberTokens(TextToTokens(TokensToText(tokens)), code);
         }
         lineText = TokensToText(tokens);
-        shownLine = DisplayText(tokens, code);
+        shownLine.reset();
     }
     tables = BreakIntoTerms(tokens, Side);
     if (ReadsFirstExponents) {
@@ -73,18 +76,27 @@ void Engine::ReadLine() {
     readSide = Side;
 }
 
+/// The line that was read, as the learner sees it. Set out when it is first asked for: most lines
+/// are passed over.
+const std::string& Engine::ShownLine() {
+    if (!shownLine) {
+        shownLine = DisplayText(tokens, problem.topic.ProblemType);
+    }
+    return *shownLine;
+}
+
 void Engine::RecordStep(Record record) {
     ReadLine();
     StepLog& log = problem.log;
     const bool sameTerms = TermCount(tables) == lastTermCount && !TermsChanged;
-    if ((record == Record::OnlyIfChanged && sameTerms) || shownLine == log.LastStepLine) {
+    if ((record == Record::OnlyIfChanged && sameTerms) || ShownLine() == log.LastStepLine) {
         log.StepUnchanged = true;
-    } else if (record != Record::Refresh && IsStored(shownLine)) {
+    } else if (record != Record::Refresh && IsStored(ShownLine())) {
         CleanReason();
         log.StepLevels[log.StepCount] = log.StepLevel;
-        log.LastStepLine = shownLine;
+        log.LastStepLine = ShownLine();
         log.StepUnchanged = false;
-        log.Write(shownLine, log.StepReason);
+        log.Write(ShownLine(), log.StepReason);
     }
     lastTermCount = TermCount(tables);
 }
@@ -99,10 +111,10 @@ void Engine::CleanReason() {
         if (reason.find(letter) == std::string::npos) {
             continue;
         }
-        reason = WithoutUnit(reason, " ", letter);
-        reason = WithoutUnit(reason, "(", letter);
+        DropUnit(reason, " ", letter);
+        DropUnit(reason, "(", letter);
         // Behind "#" the second letter keeps its 1: kept as it is.
-        reason = WithoutUnit(reason, "#", first);
+        DropUnit(reason, "#", first);
     }
 }
 

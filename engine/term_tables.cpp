@@ -1,6 +1,7 @@
 #include "engine/term_tables.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/bounds.h"
 #include "core/failure.h"
@@ -13,7 +14,7 @@ namespace {
 
 /// A "+", "-" or "*" that begins a term.
 bool BeginsTerm(const Tokens& tokens, std::size_t at) {
-    return (IsSign(tokens[at]) && !IsExponentSign(tokens, at)) || tokens[at] == "*";
+    return (IsSign(tokens[at]) && !IsExponentSign(tokens, at)) || IsMark(tokens[at], '*');
 }
 
 /// Reads the tokens of a term; emphasis is passed over.
@@ -28,22 +29,22 @@ class TermReader {
     Term Read() {
         if (at < end && BeginsTerm(tokens, at)) {
             term.OpMark = tokens[at];
-            sign = tokens[at] == "-" ? -1.0F : 1.0F;
+            sign = IsMark(tokens[at], '-') ? -1.0F : 1.0F;
             ++at;
         }
         for (; at < end; ++at) {
             TakeToken(tokens[at]);
         }
         term.Num *= sign;
-        return term;
+        return std::move(term);
     }
 
   private:
     void TakeToken(const std::string& token) {
-        if (token == "/") {
+        if (IsMark(token, '/')) {
             under = true;
             term.DivideMark = true;
-        } else if (token == "^") {
+        } else if (IsMark(token, '^')) {
             TakeExponent();
         } else if (IsLetter(token)) {
             Text() += token;
@@ -84,7 +85,7 @@ class TermReader {
     /// The exponent's number, with its sign, goes to the number or the letter before it.
     void TakeExponent() {
         std::string exponent;
-        if (at + 1 < end && tokens[at + 1] == "-") {
+        if (at + 1 < end && IsMark(tokens[at + 1], '-')) {
             exponent = "-";
             ++at;
         }
@@ -123,7 +124,7 @@ class TableReader {
             Group whole;
             whole.begin = side.begin;
             whole.end = whole.tail = side.end;
-            tables.groups.push_back(whole);
+            tables.groups.push_back(std::move(whole));
         } else {
             FindGroups();
         }
@@ -141,10 +142,10 @@ class TableReader {
         int level = 0;
         bool barOpen = false;
         for (std::size_t at = side.begin; at < side.end; ++at) {
-            const bool bar = tokens[at] == "|";
-            if (tokens[at] == "(" || (bar && !barOpen)) {
+            const bool bar = IsMark(tokens[at], '|');
+            if (IsMark(tokens[at], '(') || (bar && !barOpen)) {
                 visit(at, ++level, true);
-            } else if (tokens[at] == ")" || bar) {
+            } else if (IsMark(tokens[at], ')') || bar) {
                 visit(at, level--, false);
             }
             barOpen = bar ? !barOpen : barOpen;
@@ -178,10 +179,11 @@ class TableReader {
     void Open(std::size_t at) {
         Group group;
         group.begin = at + 1;
-        group.IsAbsolute = tokens[at] == "|";
+        group.IsAbsolute = IsMark(tokens[at], '|');
         const std::size_t start = FrontStart(at);
         // A bare minus is a factor of -1.
-        const bool bare = start + 1 == at && (tokens[start] == "+" || tokens[start] == "*");
+        const bool bare =
+            start + 1 == at && (IsMark(tokens[start], '+') || IsMark(tokens[start], '*'));
         if (start < at && !bare) {
             group.front = TermReader(tokens, start, at).Read();
         }
@@ -192,10 +194,10 @@ class TableReader {
         Group& group = tables.groups.back();
         group.end = at;
         group.tail = at + 1;
-        if (group.tail < side.end && tokens[group.tail] == "^") {
+        if (group.tail < side.end && IsMark(tokens[group.tail], '^')) {
             ReadPower(group);
         }
-        if (group.tail == at + 1 && group.tail < side.end && tokens[group.tail] == "(") {
+        if (group.tail == at + 1 && group.tail < side.end && IsMark(tokens[group.tail], '(')) {
             group.NextGroup = static_cast<int>(tables.groups.size());
         }
     }
@@ -203,7 +205,7 @@ class TableReader {
     void ReadPower(Group& group) {
         ++group.tail;
         std::string power;
-        if (tokens[group.tail] == "-") {
+        if (IsMark(tokens[group.tail], '-')) {
             power = "-";
             ++group.tail;
         }
@@ -217,7 +219,7 @@ class TableReader {
         std::size_t at = open;
         while (at > side.begin) {
             const std::string& before = tokens[at - 1];
-            const bool divides = before == "/" && at == open;
+            const bool divides = IsMark(before, '/') && at == open;
             if (divides || kStops.find(before) != std::string_view::npos) {
                 return BehindExponent(at, open);
             }
@@ -231,14 +233,16 @@ class TableReader {
 
     /// The exponent of the pair before is no factor.
     std::size_t BehindExponent(std::size_t at, std::size_t open) const {
-        if (at >= open || tokens[at] != "^") {
+        if (at >= open || !IsMark(tokens[at], '^')) {
             return at;
         }
-        at += tokens[at + 1] == "-" ? 3 : 2;
+        at += IsMark(tokens[at + 1], '-') ? 3 : 2;
         return std::min(at, open);
     }
 
     void ReadTerms(Group& group) {
+        constexpr std::size_t kMostHaveNoMore = 4;
+        group.terms.reserve(kMostHaveNoMore);
         std::size_t at = group.begin;
         while (at < group.end) {
             const std::size_t start = at++;
@@ -248,7 +252,7 @@ class TableReader {
             CheckIndex(static_cast<int>(group.terms.size()),
                        static_cast<int>(TermTables::kTopTerm) - 1);
             group.terms.push_back(TermReader(tokens, start, at).Read());
-            group.ProductMark = group.ProductMark || tokens[start] == "*";
+            group.ProductMark = group.ProductMark || IsMark(tokens[start], '*');
         }
     }
 

@@ -1,6 +1,7 @@
 #include "engine/tokens.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/failure.h"
 #include "core/text.h"
@@ -14,11 +15,12 @@ namespace {
 constexpr int kCellPitch = 4;
 
 bool IsNumeric(std::string_view token) {
-    return IsDigit(token) || token == ".";
+    return IsDigit(token) || IsMark(token, '.');
 }
 
 bool IsOneOf(std::string_view token, std::string_view set) {
-    return token.size() == 1 && set.find(token) != std::string_view::npos;
+    return token.size() == 1 &&
+           std::any_of(set.begin(), set.end(), [&token](char each) { return each == token[0]; });
 }
 
 /// Reads numbers out of single characters.
@@ -27,14 +29,15 @@ class NumberMerger {
     NumberMerger(const Tokens& tokens, int ProblemType) : in(tokens), code(ProblemType) {}
 
     Tokens Merge() {
+        out.reserve(in.size());
         while (at < in.size()) {
-            if (IsNumeric(in[at]) || in[at] == "~") {
+            if (IsNumeric(in[at]) || IsMark(in[at], '~')) {
                 TakeNumber();
             } else {
                 out.push_back(in[at++]);
             }
         }
-        return out;
+        return std::move(out);
     }
 
   private:
@@ -43,15 +46,17 @@ class NumberMerger {
         return index < in.size() ? in[index] : kNone;
     }
 
-    std::string Behind(std::size_t back) const {
-        return out.size() < back ? "" : out[out.size() - back];
+    std::string_view Behind(std::size_t back) const {
+        return out.size() < back ? std::string_view() : out[out.size() - back];
     }
 
-    bool IsExponent() const { return Behind(1) == "^" || (Behind(1) == "-" && Behind(2) == "^"); }
+    bool IsExponent() const {
+        return IsMark(Behind(1), '^') || (IsMark(Behind(1), '-') && IsMark(Behind(2), '^'));
+    }
 
     /// Behind a lone "/" a number takes no other one, but between two fractions.
     bool TakesSlash(bool isExponent) const {
-        const bool behindSlash = Behind(1) == "/" && code != kFractionArithmetic;
+        const bool behindSlash = IsMark(Behind(1), '/') && code != kFractionArithmetic;
         return !isExponent && !behindSlash;
     }
 
@@ -62,8 +67,9 @@ class NumberMerger {
         while (at < in.size()) {
             const std::string& token = in[at];
             const bool digits = IsNumeric(token) || IsPowerOfTen(number);
-            const bool root = token == "~" && !isExponent && number.find('~') == std::string::npos;
-            const bool slash = token == "/" && joins && NumberFollows();
+            const bool root =
+                IsMark(token, '~') && !isExponent && number.find('~') == std::string::npos;
+            const bool slash = IsMark(token, '/') && joins && NumberFollows();
             if (!digits && !root && !slash) {
                 break;
             }
@@ -71,12 +77,12 @@ class NumberMerger {
             number += token;
             ++at;
         }
-        out.push_back(number);
+        out.push_back(std::move(number));
     }
 
     /// The "E" of a power of ten and the sign behind it.
     bool IsPowerOfTen(const std::string& number) const {
-        return (Token(at) == "E" && !number.empty()) ||
+        return (IsMark(Token(at), 'E') && !number.empty()) ||
                (IsSign(Token(at)) && number.ends_with('E'));
     }
 
@@ -114,16 +120,8 @@ bool DividesByZero(const std::string& text) {
 
 }  // namespace
 
-bool IsOperator(std::string_view token) {
-    return IsOneOf(token, "+-*/");
-}
-
-bool IsSign(std::string_view token) {
-    return IsOneOf(token, "+-");
-}
-
 bool IsExponentSign(const Tokens& tokens, std::size_t at) {
-    return at > 0 && tokens[at - 1] == "^";
+    return at > 0 && IsMark(tokens[at - 1], '^');
 }
 
 bool IsFraction(std::string_view token) {
@@ -141,12 +139,8 @@ bool IsNumberToken(std::string_view token) {
 }
 
 Tokens TextToTokens(std::string_view text) {
-    Tokens tokens;
-    for (std::string& character : Characters(text)) {
-        if (character != " ") {
-            tokens.push_back(std::move(character));
-        }
-    }
+    Tokens tokens = Characters(text);
+    tokens.erase(std::remove(tokens.begin(), tokens.end(), " "), tokens.end());
     return tokens;
 }
 
@@ -155,7 +149,12 @@ std::string TokensToText(const Tokens& tokens) {
 }
 
 std::string TextBetween(const Tokens& tokens, std::size_t begin, std::size_t end) {
+    std::size_t length = 0;
+    for (std::size_t i = begin; i < end; ++i) {
+        length += tokens[i].size();
+    }
     std::string text;
+    text.reserve(length);
     for (std::size_t i = begin; i < end; ++i) {
         text += tokens[i];
     }
@@ -163,7 +162,11 @@ std::string TextBetween(const Tokens& tokens, std::size_t begin, std::size_t end
 }
 
 std::string WithoutEmphasis(std::string_view text) {
-    return Replace(Replace(text, "[", ""), "]", "");
+    std::string plain(text);
+    plain.erase(std::remove_if(plain.begin(), plain.end(),
+                               [](char each) { return each == '[' || each == ']'; }),
+                plain.end());
+    return plain;
 }
 
 Tokens MergeNumberTokens(const Tokens& tokens, int ProblemType) {
@@ -173,12 +176,12 @@ Tokens MergeNumberTokens(const Tokens& tokens, int ProblemType) {
 Tokens CellsToTokens(TypedProblem& typed) {
     CollectVariables(typed);
     Tokens tokens;
-    if (typed.ExprCells[kCellPitch] != "-") {
+    if (!IsMark(typed.ExprCells[kCellPitch], '-')) {
         tokens.emplace_back("+");
     }
     for (int cell = kCellPitch; cell <= typed.ExprCellCount; cell += kCellPitch) {
         const std::string& token = typed.ExprCells[cell];
-        tokens.push_back(token == "{" ? "/" : token);
+        tokens.push_back(IsMark(token, '{') ? "/" : token);
     }
     if (DividesByZero(TokensToText(tokens))) {
         throw Failure(FailureKind::DivisionByZero);

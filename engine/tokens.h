@@ -12,8 +12,18 @@ namespace numerello {
 
 using Tokens = std::vector<std::string>;
 
-bool IsOperator(std::string_view token);
-bool IsSign(std::string_view token);
+/// Whether the token is this character alone.
+inline bool IsMark(std::string_view token, char mark) {
+    return token.size() == 1 && token[0] == mark;
+}
+
+inline bool IsSign(std::string_view token) {
+    return IsMark(token, '+') || IsMark(token, '-');
+}
+
+inline bool IsOperator(std::string_view token) {
+    return IsSign(token) || IsMark(token, '*') || IsMark(token, '/');
+}
 
 /// Whether the token stands right behind a "^": a sign there belongs to the exponent.
 bool IsExponentSign(const Tokens& tokens, std::size_t at);

@@ -20,7 +20,10 @@ struct MarkedToken {
 /// "]" go around what is emphasised and are no tokens.
 class LineSetter {
   public:
-    explicit LineSetter(int ProblemType) : code(ProblemType) {}
+    /// `expected` is how many tokens will about be added.
+    explicit LineSetter(int ProblemType, std::size_t expected = 0) : code(ProblemType) {
+        line.reserve(expected);
+    }
 
     void Add(const std::string& token);
     void CloseAll();

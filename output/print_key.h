@@ -5,16 +5,10 @@
 #include <vector>
 
 #include "core/learner.h"
-#include "core/problem.h"
+#include "output/answer_key.h"
 #include "output/print_heading.h"
 
 namespace numerello {
-
-/// A problem of a practice test, worked.
-struct WorkedProblem {
-    std::string line;  ///< the test's, with its number: "3) 12+5"
-    Problem problem;
-};
 
 /// Prints what a practice test's problems come to: each with its number, its worked lines below it.
 /// `Printer` is an empty print surface in the sheets' face at 12 points. Gives the page, from 0,

@@ -3,7 +3,10 @@
 BUILD_PACKAGES="g++ cmake ninja-build nlohmann-json3-dev libcli11-dev
     qt6-base-dev qt6-svg-dev python3-fonttools fonts-texgyre fonts-liberation"
 TEST_PACKAGES="libgtest-dev libbenchmark-dev clang libclang-rt-dev
-    poppler-utils xvfb openbox xdotool xsel x11-utils scrot dbus at-spi2-core python3-gi gir1.2-atspi-2.0"
+    xvfb openbox xdotool xsel x11-utils scrot dbus at-spi2-core python3-gi gir1.2-atspi-2.0
+    poppler-utils desktop-file-utils appstream shared-mime-info man-db"
+PACKAGE_PACKAGES="dpkg-dev fakeroot gzip"
+TRY_PACKAGES="debootstrap xvfb openbox xdotool x11-utils scrot"
 
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then

@@ -22,19 +22,20 @@ check() {
 
 check core ""
 check notation "core"
-check catalogue "core notation"
 check topics "core"
+check catalogue "core notation topics"
 check engine "core notation"
 check typeset "core"
 check columns "core notation typeset engine topics catalogue"
 check worksheet "core notation typeset engine topics catalogue"
 check output "core notation typeset engine topics catalogue columns"
-check graph "core notation typeset engine topics catalogue"
+check graph "core typeset"
 check app "core notation catalogue topics engine typeset columns worksheet output graph"
+check help "core notation catalogue topics engine typeset columns worksheet output graph app"
 check cli "core notation catalogue topics engine typeset columns worksheet output graph app"
 
 if grep -rnE '^#include <Q' core notation catalogue topics engine typeset columns worksheet output graph \
-    app cli --include=*.h --include=*.cpp 2>/dev/null; then
+    app help cli --include=*.h --include=*.cpp 2>/dev/null; then
     echo "the files above include Qt below ui/"
     status=1
 fi

@@ -5,6 +5,7 @@
 #include <chrono>
 
 #include "app/solvers.h"
+#include "catalogue/examples/example_click.h"
 #include "catalogue/guided_input.h"
 #include "core/text.h"
 #include "ui/accessible_sheet.h"
@@ -12,6 +13,8 @@
 #include "ui/motion.h"
 #include "ui/pointer.h"
 #include "ui/text.h"
+#include "ui/typed_key.h"
+#include "worksheet/sheet_rows.h"
 #include "worksheet/shown_note.h"
 #include "worksheet/spoken_line.h"
 
@@ -27,29 +30,6 @@ constexpr int kLightMargin = 8;
 constexpr int kAroundField = 16;
 /// The light may cover the sheet, but not where anything is written.
 constexpr int kLightLeftOnSheet = 752;
-
-bool IsShortcut(const QKeyEvent& event) {
-    return (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
-}
-
-/// What a key types on the line. A dead accent counts as its character at once.
-QString TypedBy(const QKeyEvent& event) {
-    switch (event.key()) {
-        case Qt::Key_Backspace:
-            return ToQString(kBackspace);
-        case Qt::Key_Dead_Circumflex:
-            return QStringLiteral("^");
-        case Qt::Key_Dead_Tilde:
-            return QStringLiteral("~");
-        case Qt::Key_Tab:
-        case Qt::Key_Backtab:
-        case Qt::Key_Escape:
-        case Qt::Key_Delete:
-            return {};
-        default:
-            return event.text();
-    }
-}
 
 }  // namespace
 
@@ -93,6 +73,7 @@ void FrmPaper::MakeDesk() {
     pencil = new WritingPencil(problem, worksheet, desk);
     explanation = new FrmExplain(problem, learner, this);
     worksheet.Attach(*explanation);
+    worksheet.AttachGraph([this] { emit GraphAsked(); }, [this] { emit GraphDone(); });
 }
 
 void FrmPaper::MakeEntry() {
@@ -136,19 +117,43 @@ void FrmPaper::compute_Click() {
         numerello::compute_Click(problem, AllSolvers(), learner, worksheet);
     }
     ShowStep();
-    const int mode = problem.graph.GraphMode;
-    if (mode != 0 && problem.log.StepCount == 1) {
-        learner.MessageBox("", "Drawing the graph is not built yet.");
+    // A problem without a step is its drawing alone.
+    if (problem.graph.GraphMode != 0 && problem.log.StepCount == 1) {
+        emit GraphAsked();
     }
 }
 
 void FrmPaper::clear_Click() {
     if (numerello::clear_Click(problem, learner, worksheet)) {
-        Refresh();
-        horizontalScrollBar()->setValue(0);
-        verticalScrollBar()->setValue(0);
-        setFocus();
+        ShowErased();
     }
+}
+
+void FrmPaper::example_Click(const Clock& clock) {
+    class Form : public FillingForm {
+      public:
+        explicit Form(FrmPaper& paper) : paper(paper) {}
+
+        void ShowEntry() override { paper.ShowErased(); }
+        void Form_KeyPress(std::string_view key) override { paper.Form_KeyPress(key); }
+        void compute_Click() override { paper.compute_Click(); }
+
+      private:
+        FrmPaper& paper;
+    };
+    MersenneSource digits;
+    MersenneSource direct;
+    ExampleDraws draws(clock, digits, direct);
+    Form form(*this);
+    numerello::example_Click(problem, worksheet, form, draws);
+}
+
+/// A new problem begins at the top of the first sheet.
+void FrmPaper::ShowErased() {
+    Refresh();
+    horizontalScrollBar()->setValue(0);
+    verticalScrollBar()->setValue(0);
+    setFocus();
 }
 
 void FrmPaper::NextStep() {
@@ -172,12 +177,14 @@ void FrmPaper::ShowStep() {
     }
 }
 
-/// Brings the arrow or the check mark behind the last line into view.
+/// Brings the arrow or the check mark behind the last line into view, and before it what was
+/// written lowest: a long division goes on below the arrow.
 void FrmPaper::ScrollToLineEnd() {
     constexpr int kAround = 48;
     const Sheet& sheet = worksheet.SheetAt(problem.playback.CurrentPage);
-    ensureVisible(qRound(sheet.left + problem.playback.LineEndX),
-                  qRound(sheet.top + problem.playback.LineEndY), kAround, kAround);
+    const int lineEndX = qRound(sheet.left + problem.playback.LineEndX);
+    ensureVisible(lineEndX, qRound(sheet.top + LowestRow(sheet)), kAround, kAround);
+    ensureVisible(lineEndX, qRound(sheet.top + problem.playback.LineEndY), kAround, kAround);
 }
 
 void FrmPaper::mnuShowStep_Click(bool ticked) {
@@ -218,7 +225,7 @@ void FrmPaper::ShowLight(bool shown) {
 
 void FrmPaper::UsePencil(bool used) {
     pencil->Use(used);
-    pencil->Show(viewport()->height());
+    pencil->Show(viewport()->size());
 }
 
 bool FrmPaper::TakesKeys() const {
@@ -227,6 +234,10 @@ bool FrmPaper::TakesKeys() const {
 
 void FrmPaper::Form_KeyPress(std::string_view key) {
     TypeText(ToQString(key));
+}
+
+void FrmPaper::ShowEntry() {
+    Refresh();
 }
 
 void FrmPaper::TypeKey(std::string_view key) {
@@ -271,7 +282,7 @@ void FrmPaper::keyPressEvent(QKeyEvent* event) {
         TypeText(PastedText());
         return;
     }
-    const QString typed = IsShortcut(*event) ? QString() : TypedBy(*event);
+    const QString typed = TypedBy(*event);
     if (typed.isEmpty()) {
         QScrollArea::keyPressEvent(event);
         return;
@@ -340,7 +351,7 @@ void FrmPaper::Refresh() {
     ShowSheets();
     entry->Show();
     light->Show(problem.controls);
-    pencil->Show(viewport()->height());
+    pencil->Show(viewport()->size());
     FitDesk();
     KeepTimer();
     desk->update();

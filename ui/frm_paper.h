@@ -3,6 +3,7 @@
 #include <QScrollArea>
 #include <QTimer>
 
+#include "core/clock.h"
 #include "core/problem.h"
 #include "ui/entry_form.h"
 #include "ui/font_metrics.h"
@@ -27,9 +28,14 @@ class FrmPaper : public QScrollArea {
 
     void compute_Click();
     void clear_Click();
+    /// Makes up a problem of the topic, enters it and solves it.
+    void example_Click(const Clock& clock);
 
     /// A key of the typing line: a character or a Backspace.
     void Form_KeyPress(std::string_view key);
+
+    /// Boxes and lists were filled by something else than the learner.
+    void ShowEntry();
 
     /// Whether the typing line is open for keys.
     bool TakesKeys() const;
@@ -51,6 +57,11 @@ class FrmPaper : public QScrollArea {
   signals:
     /// Which commands are open may have changed.
     void Changed();
+
+    /// The drawing that the problem asks for is to be shown.
+    void GraphAsked();
+    /// The drawing of the last problem is to be put away.
+    void GraphDone();
 
     /// The right button asks for a pop-up, at this place of the screen.
     void PencilMenuAsked(QPoint place);
@@ -78,6 +89,7 @@ class FrmPaper : public QScrollArea {
     void ReleaseSheet(int index);
     void RaiseNeighbour(int direction);
     void OpenExplanation();
+    void ShowErased();
     ArrowButton& CurrentArrow();
     void FitDesk();
     void PlaceFigures();

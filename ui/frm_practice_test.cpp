@@ -281,8 +281,8 @@ void FrmPracticeTest::ShowChildren() {
     }
 }
 
-std::vector<OutlineRow> FrmPracticeTest::Outline() const {
-    std::vector<OutlineRow> outline;
+std::vector<TestRow> FrmPracticeTest::Outline() const {
+    std::vector<TestRow> outline;
     for (const Row& row : rows) {
         if (!row.Text4->text().isEmpty()) {
             outline.push_back({row.Text4->text().toStdString(), row.Combo1->currentText().toInt(),

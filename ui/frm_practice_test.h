@@ -62,7 +62,7 @@ class FrmPracticeTest : public QDialog {
     static void Fill(Row& row, const QString& caption);
     void ShowChildren();
 
-    std::vector<OutlineRow> Outline() const;
+    std::vector<TestRow> Outline() const;
     void Command2_Click();
 
     TestMaker makeTest;

@@ -8,17 +8,11 @@
 #include <vector>
 
 #include "core/clock.h"
+#include "output/practice_test.h"
 #include "output/print_key.h"
 #include "ui/print_job.h"
 
 namespace numerello {
-
-/// A row of the outline of a practice test.
-struct OutlineRow {
-    std::string topic;
-    int count = 0;
-    bool complex = false;
-};
 
 /// A practice test that was made up: its lines, and how to work its problems.
 struct MadeTest {
@@ -27,7 +21,7 @@ struct MadeTest {
 };
 
 /// Makes a test up.
-using TestMaker = std::function<MadeTest(std::span<const OutlineRow> rows)>;
+using TestMaker = std::function<MadeTest(std::span<const TestRow> rows)>;
 
 /// A page as the preview shows it: its marks, in pixels from the paper's corner, and its lines in
 /// words.

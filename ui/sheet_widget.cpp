@@ -21,6 +21,9 @@ constexpr QSize kArrowSize(36, 36);
 constexpr QSize kArrowPicture(33, 33);
 constexpr QSize kCheckPicture(36, 36);
 
+/// The white strip on every sheet but the first.
+constexpr QRect kTitleStrip(60, 1, 685, 57);
+
 /// The title strip begins at 60; its text stands in line with the lines below.
 constexpr double kTitleX = 67;
 constexpr double kTitleY = 8;
@@ -78,7 +81,7 @@ void ArrowButton::paintEvent(QPaintEvent* /*event*/) {
 }
 
 SheetWidget::SheetWidget(int index, const FontMetrics& metrics, QWidget* desk)
-    : QWidget(desk), metrics(metrics), arrow(new ArrowButton(this)) {
+    : QWidget(desk), metrics(metrics), hasTitleStrip(index > 0), arrow(new ArrowButton(this)) {
     setObjectName(QStringLiteral("Paper%1").arg(index));
     arrow->setObjectName(QStringLiteral("blinker%1").arg(index));
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -151,6 +154,9 @@ QPixmap SheetWidget::Painted() const {
     PaintPaper(painter, height(), ratio);
     if (shown == nullptr) {
         return picture;
+    }
+    if (hasTitleStrip) {
+        painter.fillRect(kTitleStrip, Qt::white);
     }
     PaintTitle(painter, shown->title, metrics);
     PaintMarks(painter, shown->surface.Marks(), metrics,

@@ -77,6 +77,7 @@ class SheetWidget : public QWidget {
     void TellChange();
 
     const FontMetrics& metrics;
+    bool hasTitleStrip;
     const Sheet* shown = nullptr;
     ArrowButton* arrow;
     DrawingState state;  ///< of what is retained

@@ -54,7 +54,7 @@ void WritingPencil::KeyTyped() {
     worksheet.MovePencil(MotionWanted());
 }
 
-void WritingPencil::Show(int viewHeight) {
+void WritingPencil::Show(QSize view) {
     using Picture = EntryControls::PencilPicture;
     const qreal ratio = desk->devicePixelRatioF();
     const bool erases = problem.controls.Pencil == Picture::Eraser;
@@ -62,10 +62,10 @@ void WritingPencil::Show(int viewHeight) {
     pencil->setPixmap(Artwork(key, kSize, ratio));
     deskPencil->setPixmap(Artwork(QStringLiteral("pencil1"), kSize, ratio));
 
-    const int deskWidth = qRound(worksheet.SheetAt(0).left);
+    const int deskWidth = Worksheet::CentredLeft(view.width());
     const bool roomAtItsPlace = deskWidth >= kDeskLeft + kSize.width();
     deskPencil->move(roomAtItsPlace ? kDeskLeft : (deskWidth - kSize.width()) / 2,
-                     viewHeight - kAboveBottom - kSize.height());
+                     view.height() - kAboveBottom - kSize.height());
     pencil->setVisible(used);
     deskPencil->setVisible(!used && deskWidth >= kNarrowestDesk);
     Place();

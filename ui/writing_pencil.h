@@ -23,8 +23,8 @@ class WritingPencil : public QObject {
     /// After each key of the typed line.
     void KeyTyped();
 
-    /// Shows pictures and places in a view of this height.
-    void Show(int viewHeight);
+    /// Shows pictures and places in a view of this size.
+    void Show(QSize view);
 
     /// Puts it where the model has it.
     void Place();

@@ -162,7 +162,7 @@ bool Assistant::Wizard_MouseUp() {
     // Measured before the edges push the figure back: a drag against an edge is no click.
     const double distance = std::max(std::abs(left - pressLeft), std::abs(top - pressTop));
     pressed = false;
-    dragged = dragged || distance > 0;
+    dragged = dragged || distance >= kDragThreshold;
     left = Left();
     top = Top();
     return distance < kDragThreshold && !ShownNote(problem).empty();

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 
 #include "worksheet/worksheet.h"
 
@@ -9,6 +10,9 @@ namespace {
 /// What is seen of a dragged sheet at least, at its upper edge.
 constexpr double kGripWidth = 60;
 constexpr double kGripHeight = 40;
+
+/// A hand that shakes while it presses a button does not mean to move the sheet for good.
+constexpr double kDragThreshold = 10;
 
 double Within(double lowest, double value, double highest) {
     return std::max(lowest, std::min(value, highest));
@@ -30,17 +34,19 @@ void Worksheet::Paper_MouseDown(int Index, bool leftButton, int X, int Y) {
     if (leftButton) {
         stack.Raise(Index);
     }
-    HoldSheet(X, Y);
+    HoldSheet(Index, X, Y);
 }
 
 void Worksheet::Picture3_MouseDown(int X, int Y) {
     stack.SendToBack(1);
-    HoldSheet(X, Y);
+    HoldSheet(0, X, Y);
 }
 
-void Worksheet::HoldSheet(int X, int Y) {
+void Worksheet::HoldSheet(int Index, int X, int Y) {
     dragStartX = X;
     dragStartY = Y;
+    heldLeft = stack[Index].left;
+    heldTop = stack[Index].top;
     movedSincePress = false;
     Changed();
 }
@@ -55,10 +61,13 @@ void Worksheet::Paper_MouseMove(int Index, bool leftButton, int X, int Y) {
     if (!leftButton || (X == dragStartX && Y == dragStartY)) {
         return;
     }
-    stack[Index].left += X - dragStartX;
-    stack[Index].top += Y - dragStartY;
+    Sheet& sheet = stack[Index];
+    sheet.left += X - dragStartX;
+    sheet.top += Y - dragStartY;
     movedSincePress = true;
-    sheetsDragged = true;
+    const double distance =
+        std::max(std::abs(sheet.left - heldLeft), std::abs(sheet.top - heldTop));
+    sheetsDragged = sheetsDragged || distance >= kDragThreshold;
     Changed();
 }
 

@@ -50,7 +50,6 @@ double MarkTop(const Playback& playback, MarkOffset offset) {
 }  // namespace
 
 void Worksheet::ShowNextStep() {
-    RestorePointer();
     TakeRequests();
     const Playback& playback = problem.playback;
     if (playback.ShownStep == 0) {
@@ -60,7 +59,6 @@ void Worksheet::ShowNextStep() {
     } else {
         ShowLastLine();
     }
-    ClearExpression();
     Changed();
 }
 

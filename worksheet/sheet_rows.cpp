@@ -97,4 +97,12 @@ std::vector<std::string> SheetRows(const Sheet& sheet) {
     return rows;
 }
 
+double LowestRow(const Sheet& sheet) {
+    double lowest = 0;
+    for (const TextMark& piece : PiecesOf(sheet.surface)) {
+        lowest = std::max(lowest, piece.y);
+    }
+    return lowest;
+}
+
 }  // namespace numerello

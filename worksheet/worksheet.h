@@ -122,12 +122,6 @@ class Worksheet : public Stage, public PaperSheets {
     void OnChange(std::function<void()> listener) { onChange = std::move(listener); }
 
   protected:
-    /// The busy pointer of solving ends here.
-    virtual void RestorePointer() {}
-
-    /// Clears the tables of the expression engine; the step log stays.
-    virtual void ClearExpression() {}
-
     /// Shows the graph that GraphMode asks for.
     virtual void OpenGraph() {}
 
@@ -141,7 +135,7 @@ class Worksheet : public Stage, public PaperSheets {
     void FinishWork();
     void TakeRequests();
 
-    void HoldSheet(int X, int Y);
+    void HoldSheet(int Index, int X, int Y);
     void ClearTo(int lastSheet);
     void HideArrow();
     Sheet& CurrentSheet();
@@ -155,6 +149,8 @@ class Worksheet : public Stage, public PaperSheets {
     int lastViewWidth = 0;
     int dragStartX = 0;  ///< the place of the mouse on its sheet at the last press
     int dragStartY = 0;
+    double heldLeft = 0;  ///< the place of the pressed sheet then
+    double heldTop = 0;
     bool movedSincePress = false;
     bool sheetsDragged = false;  ///< since the sheets were last laid out
     bool timer2Enabled = false;

@@ -161,10 +161,23 @@ prints "solve"
 runs 0 --version
 prints "numerello-cli"
 runs 0 batch
-runs 2 learn
-tells "not built yet"
-runs 2 example --topic "Addition" --complex
-tells "not built yet"
+runs 0 learn
+prints "Type the beginning of a topic"
+runs 0 learn --topic "Addition"
+prints "Enter numbers into both boxes."
+runs 2 learn --topic "Lengths"
+tells "unknown topic"
+runs 0 example --topic "Proportions"
+prints "First numerator = "
+runs 0 example --topic "Addition" --complex --count 3
+if ! awk '!/^Top box = [0-9][0-9], Lower box = [0-9][0-9]$/ { exit 1 } END { exit NR != 3 }' "$out"; then
+    echo "not three complex additions"
+    failed=1
+fi
+runs 2 example --topic "Addition" --count 0
+runs 2 example --topic "Lengths"
+tells "unknown topic"
+runs 2 example
 
 if "$cli" topics --json >/dev/full 2>"$err"; then
     echo "a full disk was not noticed"

@@ -134,18 +134,5 @@ TEST(RequestErrors, WrongTypesAndRanges) {
     }
 }
 
-TEST(RequestErrors, WhatIsNotBuiltYetSaysSo) {
-    for (const char* request : {
-             R"({"do":"example","code":53})",
-             R"({"do":"practice-test","rows":[]})",
-             R"({"do":"graph","code":108})",
-         }) {
-        ExpectRefused(request);
-        EXPECT_NE(Ask(request).at("error").get<std::string>().find("not built yet"),
-                  std::string::npos)
-            << request;
-    }
-}
-
 }  // namespace
 }  // namespace numerello

@@ -3,7 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QTemporaryDir>
 
+#include "core/settings_store.h"
 #include "tests/ui/window.h"
 #include "ui/font_metrics.h"
 #include "ui/frm_main.h"
@@ -18,6 +20,8 @@ class Window : public testing::Test {
         LoadSheetFont();
         ShowActive(frame);
     }
+
+    std::string Documents() const { return documents.path().toStdString(); }
 
     QAction& Command(const char* name) { return Find<QAction>(frame, QString::fromUtf8(name)); }
 
@@ -68,7 +72,9 @@ class Window : public testing::Test {
 
     const Problem& Now() { return frame.CurrentProblem(); }
 
-    FrmMain frame;
+    MemorySettingsStore store;
+    QTemporaryDir documents;
+    FrmMain frame{store, Documents()};
 };
 
 }  // namespace numerello

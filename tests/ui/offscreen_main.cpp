@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QTemporaryDir>
 
 #include "ui/font_metrics.h"
 
@@ -8,6 +9,11 @@
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Nothing is read from the home of whoever runs the tests, or written there.
+    const QTemporaryDir home;
+    for (const char* folder : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"}) {
+        qputenv(folder, home.path().toUtf8());
+    }
     const QApplication application(argc, argv);
     if (!numerello::LoadSheetFont()) {
         qCritical("VantrelFont cannot be used");

@@ -118,6 +118,19 @@ TEST_F(PencilInUse, NeedsRoomToLieOnTheDesk) {
     EXPECT_LT(DeskPencil().geometry().right(), Sheet().x());
 }
 
+TEST_F(PencilInUse, StaysAtItsPlaceOnTheDeskWhereverTheSheetIsDragged) {
+    Choose(QStringLiteral("Converting Feet To Yards"));
+    Command("mnuPencil").trigger();
+    const QPoint place = DeskPencil().pos();
+    const QPoint start = Sheet().mapTo(&frame, QPoint(400, 600));
+    QTest::mousePress(frame.windowHandle(), Qt::LeftButton, {}, start);
+    QTest::mouseMove(frame.windowHandle(), start - QPoint(120, 0));
+    QTest::mouseRelease(frame.windowHandle(), Qt::LeftButton, {}, start - QPoint(120, 0));
+    ASSERT_LT(Sheet().x(), 40);
+    EXPECT_TRUE(DeskPencil().isVisible());
+    EXPECT_EQ(DeskPencil().pos(), place);
+}
+
 TEST_F(PencilInUse, TheRightButtonOpensItsMenuAndNothingElseDoes) {
     Choose(QStringLiteral("Converting Feet To Yards"));
     const QPoint low(7, 200);

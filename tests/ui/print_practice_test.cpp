@@ -24,7 +24,7 @@ class PracticeTest : public testing::Test {
 
     void Open() {
         form = std::make_unique<FrmPracticeTest>(
-            [this](std::span<const OutlineRow> rows) {
+            [this](std::span<const TestRow> rows) {
                 asked.assign(rows.begin(), rows.end());
                 ++made;
                 return MadeTest{{"", "Add:", "1) 4 + 5"}, {}};
@@ -76,7 +76,7 @@ class PracticeTest : public testing::Test {
     }
 
     std::optional<HeadingLines> heading;
-    std::vector<OutlineRow> asked;
+    std::vector<TestRow> asked;
     int made = 0;
     PrintDevice device;
     std::unique_ptr<FrmPracticeTest> form;

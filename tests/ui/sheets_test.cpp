@@ -43,6 +43,19 @@ class SheetsOnTheDesk : public Window {
         return order;
     }
 
+    /// Where the lowest dark stroke of the first sheet is.
+    int LowestInk() {
+        const QImage image = Paper(0).grab().toImage();
+        for (int y = image.height() - 1; y > 0; --y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (qGray(image.pixel(x, y)) < 110) {
+                    return y;
+                }
+            }
+        }
+        return 0;
+    }
+
     void Drag(QWidget& widget, QPoint from, QPoint way) {
         const QPoint start = widget.mapTo(&frame, from);
         QTest::mousePress(frame.windowHandle(), Qt::LeftButton, {}, start);
@@ -64,6 +77,36 @@ TEST_F(SheetsOnTheDesk, LieFannedAndComeToTheFrontByAPress) {
     EXPECT_EQ(Order(), (std::vector<int>{1, 2, 0}));
     Click(Paper(1), QPoint(10, 650));
     EXPECT_EQ(Order(), (std::vector<int>{2, 0, 1}));
+}
+
+TEST_F(SheetsOnTheDesk, HaveAWhiteStripForTheTitleButTheFirst) {
+    PlayThreeSheets();
+    // At the ends of the strip, where no title reaches.
+    for (const QPoint place : {QPoint(61, 2), QPoint(743, 56)}) {
+        EXPECT_EQ(Paper(2).grab().toImage().pixelColor(place), QColor(Qt::white)) << place.x();
+        EXPECT_NE(Paper(0).grab().toImage().pixelColor(place), QColor(Qt::white)) << place.x();
+    }
+    EXPECT_NE(Paper(2).grab().toImage().pixelColor(746, 30), QColor(Qt::white));
+}
+
+TEST_F(SheetsOnTheDesk, ALongDivisionStaysInViewWhereItGoesOn) {
+    frame.resize(1100, 480);
+    QTest::qWait(20);
+    Choose(QStringLiteral("Division"));
+    Type(QStringLiteral("7"));
+    PressKey(frame, Qt::Key_Tab);
+    Type(QStringLiteral("123456789"));
+    Enter();
+    const QScrollArea& form = Form();
+    for (int step = 0; Arrow().isVisible(); ++step) {
+        SCOPED_TRACE(step);
+        Enter();
+        EXPECT_LT(Paper(0).mapTo(form.viewport(), QPoint(0, LowestInk())).y(),
+                  form.viewport()->height());
+        EXPECT_TRUE(!Arrow().isVisible() || !Arrow().visibleRegion().isEmpty());
+        ASSERT_LT(step, 200);
+    }
+    EXPECT_GT(form.verticalScrollBar()->value(), 0);
 }
 
 TEST_F(SheetsOnTheDesk, FollowTheMouse) {

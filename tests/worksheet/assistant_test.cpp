@@ -183,6 +183,16 @@ TEST_F(AssistantTest, ADraggedFigureStaysWhereItIsButInSight) {
     ExpectAt(1116, 160);
 }
 
+TEST_F(AssistantTest, AShakingHandDoesNotTakeItFromItsPlace) {
+    Grow();
+    EXPECT_TRUE(DragBy(9, -9));
+    wiz.PlaceBeside(300, 1400, 690);
+    ExpectAt(1116, 160);
+    DragBy(10, 0);
+    wiz.PlaceBeside(150, 1300, 690);
+    ExpectAt(1126, 160);
+}
+
 TEST_F(AssistantTest, TheNoticeFlashesFromWhenTheFigureStands) {
     EXPECT_FALSE(wiz.ClickMeEnabled());
     Grow();

@@ -103,8 +103,6 @@ class RecordingSheet : public Worksheet {
     std::function<void()> stepColumns = [] {};
 
   protected:
-    void RestorePointer() override { calls.emplace_back("RestorePointer"); }
-    void ClearExpression() override { calls.emplace_back("ClearExpression"); }
     void OpenGraph() override { calls.emplace_back("OpenGraph"); }
     void StepColumns() override {
         calls.emplace_back("StepColumns");

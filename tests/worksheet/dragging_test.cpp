@@ -112,6 +112,15 @@ TEST_F(DraggedSheets, ResizingLeavesDraggedSheetsAlone) {
     ExpectAt(2, 250, 50);
 }
 
+TEST_F(DraggedSheets, AShakingHandIsNoDrag) {
+    Drag(0, 9, -9);
+    sheet.Centre(1000);
+    EXPECT_EQ(sheet.SheetAt(0).left, 100);
+    Drag(0, 10, 0);
+    sheet.Centre(1200);
+    EXPECT_EQ(sheet.SheetAt(0).left, 110);
+}
+
 TEST_F(DraggedSheets, TheNextSheetLiesWhereTheLastWasDragged) {
     EraseProblem(problem, sheet);
     Type("7");

@@ -81,5 +81,13 @@ TEST_F(SheetRowsTest, ReadTheCrossOfAProductAsItsSign) {
     EXPECT_EQ(SheetRows(sheet), Rows{"*4"});
 }
 
+TEST_F(SheetRowsTest, KnowsWhereTheLowestStands) {
+    EXPECT_EQ(LowestRow(sheet), 0);
+    PrintAt(100, 300, "4");
+    PrintAt(120, 317.5, "7");
+    PrintAt(99, 283.4, "1");
+    EXPECT_EQ(LowestRow(sheet), 317.5);
+}
+
 }  // namespace
 }  // namespace numerello

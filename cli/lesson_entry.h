@@ -1,0 +1,38 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "cli/terminal.h"
+#include "core/problem.h"
+
+/// What the tutor in the terminal asks the learner to enter.
+///
+/// The letters e (example), t (another topic) and q (leave) are commands where no letter is
+/// awaited: between steps, and at the beginning of a line or box of a topic without letters. Their
+/// control keys are commands anywhere.
+namespace numerello {
+
+/// What comes next in a lesson.
+enum class Next { Solve, Problem, Example, Topic, Leave };
+
+/// The caption of a topic, of which the beginning is enough; nothing when the learner leaves.
+std::optional<std::string> AskForTopic(Terminal& terminal);
+
+/// Any line; nothing when the learner leaves.
+std::optional<std::string> AskLine(Terminal& terminal, const std::string& prompt);
+
+/// What to enter for the topic, and the commands.
+void SayHowToEnter(Terminal& terminal, const Problem& problem);
+
+/// Lets the learner fill the open form: lists, boxes, line. Solve when there is a problem to solve.
+Next EnterProblem(Terminal& terminal, Problem& problem);
+
+/// Shows what has been entered for the learner.
+void SayEntry(Terminal& terminal, const Problem& problem);
+
+/// Waits for Enter, which means `onEnter`, or a command; n asks for a new problem.
+Next AskNext(Terminal& terminal, std::string_view whatEnterBrings, Next onEnter);
+
+}  // namespace numerello

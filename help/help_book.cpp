@@ -1,0 +1,112 @@
+#include "help/help_book.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "core/number.h"
+#include "core/text.h"
+#include "help/help_error.h"
+#include "help/page_text.h"
+#include "help/set_text.h"
+#include "help/topic_page.h"
+#include "help/topic_texts.h"
+
+namespace numerello {
+
+namespace {
+
+constexpr std::string_view kScheme = "help:";
+
+void AddPage(HelpBook& book, std::string name, std::string_view body) {
+    const std::string title = TitleOf(body);
+    if (title.empty()) {
+        throw HelpError(Text("the page \"", name, "\" has no heading"));
+    }
+    std::string html = Text("<!DOCTYPE html>\n<html><head><meta charset=\"utf-8\"><title>",
+                            Escaped(title), "</title></head>\n<body>\n", body, "</body></html>\n");
+    book.pages.push_back({std::move(name), title, std::move(html)});
+}
+
+std::vector<std::string> LinesOf(std::string_view file) {
+    std::vector<std::string> lines;
+    while (!file.empty()) {
+        const std::size_t end = std::min(file.find('\n'), file.size());
+        if (const std::string_view line = Trimmed(file.substr(0, end)); !line.empty()) {
+            lines.emplace_back(line);
+        }
+        file.remove_prefix(std::min(end + 1, file.size()));
+    }
+    return lines;
+}
+
+void AddGuide(HelpBook& book, const HelpSource& source) {
+    book.contents.push_back({0, "", "Using Numerello"});
+    for (const std::string& name : LinesOf(source("pages/contents.txt"))) {
+        AddPage(book, name, WithMath(source(Text("pages/", name, ".html"))));
+        book.contents.push_back({1, name, book.pages.back().title});
+    }
+}
+
+const TopicText& TextOf(const std::vector<TopicText>& texts, std::string_view caption) {
+    const auto text = std::find_if(texts.begin(), texts.end(), [caption](const TopicText& each) {
+        return each.caption == caption;
+    });
+    if (text == texts.end() || text->about.empty()) {
+        throw HelpError(Text("\"", caption, "\" has no text"));
+    }
+    return *text;
+}
+
+void AddTopics(HelpBook& book, const HelpSource& source) {
+    const std::vector<TopicText> texts = ReadTopicTexts(source("topics.txt"));
+    for (const TopicText& text : texts) {
+        if (FindTopic(text.caption) == nullptr) {
+            throw HelpError(Text("there is a text for no topic: ", text.caption));
+        }
+    }
+    for (const Topic& topic : Topics()) {
+        AddPage(book, PageName(topic.caption), TopicPage(topic, TextOf(texts, topic.caption)));
+    }
+    const std::vector<ContentsRow> rows = TopicRows();
+    book.contents.insert(book.contents.end(), rows.begin(), rows.end());
+}
+
+const HelpPage* Find(const HelpBook& book, std::string_view name) {
+    const auto page = std::find_if(book.pages.begin(), book.pages.end(),
+                                   [name](const HelpPage& each) { return each.name == name; });
+    return page == book.pages.end() ? nullptr : &*page;
+}
+
+void RequireLinks(const HelpBook& book) {
+    for (const HelpPage& page : book.pages) {
+        for (const std::string& link : LinksOf(page.html)) {
+            if (!link.starts_with(kScheme) ||
+                Find(book, std::string_view(link).substr(kScheme.size())) == nullptr) {
+                throw HelpError(Text("the page \"", page.name, "\" has a dead link: ", link));
+            }
+        }
+    }
+}
+
+}  // namespace
+
+HelpBook MakeHelpBook(const HelpSource& source) {
+    HelpBook book;
+    AddGuide(book, source);
+    AddTopics(book, source);
+    RequireLinks(book);
+    return book;
+}
+
+std::string ContentsFile(const HelpBook& book) {
+    std::string file;
+    for (const ContentsRow& row : book.contents) {
+        const HelpPage* page = Find(book, row.page);
+        const std::string_view html = page != nullptr ? page->html : std::string_view();
+        file += Text(WholeText(row.depth), "\t", row.page, "\t", row.title, "\t",
+                     PlainText(html.substr(0, html.find(kSeeAlso))), "\n");
+    }
+    return file;
+}
+
+}  // namespace numerello

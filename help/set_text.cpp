@@ -1,0 +1,183 @@
+#include "help/set_text.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+#include "core/text.h"
+#include "help/help_error.h"
+#include "worksheet/spoken_line.h"
+
+namespace numerello {
+
+namespace {
+
+/// Characters of math text that stand for a sign no keyboard has.
+struct Sign {
+    std::string_view mark;
+    std::string_view shown;
+};
+
+constexpr std::array kSigns{
+    Sign{"{", "\u00f7"}, Sign{"`", "\u03c0"}, Sign{"$", "\u2260"}, Sign{"\\", "\u00b1"},
+    Sign{"&", "&amp;"},  Sign{"<", "&lt;"},   Sign{">", "&gt;"},   Sign{"\"", "&quot;"},
+};
+
+constexpr std::string_view kRedBegins = "<span class=\"red\">";
+constexpr std::string_view kRedEnds = "</span>";
+
+bool IsConstruct(std::string_view character) {
+    return character == "#" || character == "^" || character == "~";
+}
+
+std::string_view NameOf(Ink ink) {
+    switch (ink) {
+        case Ink::Black:
+            return "black";
+        case Ink::Blue:
+            return "blue";
+        case Ink::Page:
+            break;
+    }
+    return "page";
+}
+
+std::string PercentEncoded(std::string_view text) {
+    constexpr std::string_view kHex = "0123456789ABCDEF";
+    std::string encoded;
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (IsDigit(std::string_view(&c, 1)) || IsLetter(std::string_view(&c, 1))) {
+            encoded += c;
+        } else {
+            encoded += '%';
+            encoded += kHex[byte / 16];
+            encoded += kHex[byte % 16];
+        }
+    }
+    return encoded;
+}
+
+using Word = std::vector<std::string>;
+
+/// Cuts at the blanks, but not at those within a construct. A mark without partner is a character
+/// like any other.
+std::vector<Word> WordsOf(const std::vector<std::string>& characters) {
+    std::vector<Word> words(1);
+    for (auto at = characters.begin(); at != characters.end(); ++at) {
+        if (*at == " ") {
+            words.emplace_back();
+            continue;
+        }
+        auto last = at;
+        if (IsConstruct(*at)) {
+            const auto partner = std::find(at + 1, characters.end(), *at);
+            last = partner != characters.end() ? partner : at;
+        }
+        words.back().insert(words.back().end(), at, last + 1);
+        at = last;
+    }
+    return words;
+}
+
+bool HasConstruct(const Word& word) {
+    return std::any_of(word.begin(), word.end(), [&word](const std::string& each) {
+        return IsConstruct(each) && std::count(word.begin(), word.end(), each) > 1;
+    });
+}
+
+std::string Joined(const Word& word) {
+    std::string text;
+    for (const std::string& character : word) {
+        text += character;
+    }
+    return text;
+}
+
+/// Whether what follows the word is emphasised.
+bool RedBehind(const Word& word, bool red) {
+    for (const std::string& character : word) {
+        red = character == "[" || (red && character != "]");
+    }
+    return red;
+}
+
+std::string AsText(const Word& word, bool red) {
+    std::string text;
+    text += red ? kRedBegins : "";
+    for (const std::string& character : word) {
+        const auto* const sign =
+            std::find_if(kSigns.begin(), kSigns.end(),
+                         [&character](const Sign& each) { return each.mark == character; });
+        if (character == "[" || character == "]") {
+            text += character == "[" ? kRedBegins : kRedEnds;
+        } else {
+            text += sign == kSigns.end() ? std::string_view(character) : sign->shown;
+        }
+    }
+    return text + std::string(RedBehind(word, red) ? kRedEnds : "");
+}
+
+std::string AsPicture(const Word& word, bool red, Ink ink) {
+    return MathPicture(Text(red ? "[" : "", Joined(word), RedBehind(word, red) ? "]" : ""), ink);
+}
+
+}  // namespace
+
+std::string Escaped(std::string_view text) {
+    return Replace(Replace(Replace(Replace(text, "&", "&amp;"), "<", "&lt;"), ">", "&gt;"), "\"",
+                   "&quot;");
+}
+
+std::string MathPicture(std::string_view line, Ink ink) {
+    return Text("<img class=\"math\" src=\"math:", NameOf(ink), "/", PercentEncoded(line),
+                "\" alt=\"", Escaped(SpokenLine(line)), "\">");
+}
+
+bool HasWords(std::string_view line) {
+    int letters = 0;
+    for (const std::string& character : Characters(line)) {
+        letters = IsLetter(character) ? letters + 1 : 0;
+        if (letters == 3) {
+            return true;
+        }
+    }
+    return false;
+}
+
+std::string MathSentence(std::string_view sentence, Ink ink) {
+    std::string html;
+    bool red = false;
+    for (const Word& word : WordsOf(Characters(sentence))) {
+        html += html.empty() ? "" : " ";
+        html += HasConstruct(word) ? AsPicture(word, red, ink) : AsText(word, red);
+        red = RedBehind(word, red);
+    }
+    return html;
+}
+
+std::string MathLine(std::string_view line, Ink ink) {
+    return HasWords(line) ? MathSentence(line, ink) : MathPicture(line, ink);
+}
+
+std::string WithMath(std::string_view html) {
+    constexpr std::string_view kBegins = "<m>";
+    constexpr std::string_view kEnds = "</m>";
+    std::string whole;
+    while (true) {
+        const std::size_t begin = html.find(kBegins);
+        whole += html.substr(0, begin);
+        if (begin == std::string_view::npos) {
+            return whole;
+        }
+        html.remove_prefix(begin + kBegins.size());
+        const std::size_t end = html.find(kEnds);
+        if (end == std::string_view::npos) {
+            throw HelpError(Text("<m> without its end before: ", html));
+        }
+        whole += MathPicture(html.substr(0, end), Ink::Page);
+        html.remove_prefix(end + kEnds.size());
+    }
+}
+
+}  // namespace numerello

@@ -1,0 +1,102 @@
+#include "output/practice_test.h"
+
+#include <algorithm>
+
+#include "catalogue/examples/example.h"
+#include "catalogue/topics.h"
+#include "core/number.h"
+#include "core/text.h"
+#include "output/test_headings.h"
+
+namespace numerello {
+
+namespace {
+
+struct Letters {
+    std::string_view caption;
+    int MaxVariables;
+    bool linearGraph = false;
+};
+
+/// The topics with letters. The others never ask for their number.
+constexpr auto kLetters = std::to_array<Letters>({
+    {"Arithmetic Principles", 1},
+    {"Solving Equations", 1},
+    {"Simplifying Polynomials", 1},
+    {"Evaluating Polynomials", 3},
+    {"Graphing A Linear Equation", 2, true},
+});
+
+void WriteLine(PracticeTest& test, std::string line) {
+    test.TestLines[test.TestLineCount] = std::move(line);
+    ++test.TestLineCount;
+}
+
+void WriteProblem(PracticeTest& test, bool complex, ExampleDraws& draws) {
+    const Example example = GenerateExample(test.topic, true, complex ? 2 : 0, draws);
+    const auto number = static_cast<std::int64_t>(test.problems.size()) + 1;
+    const std::string line =
+        Text(WholeText(number), ") ", example.printed, example.suffix, test.TestSuffix);
+    WriteLine(test, line);
+    test.problems.push_back({line, test.topic, example.keys, example.boxes});
+}
+
+}  // namespace
+
+bool ChooseTestTopic(TestOutline& outline, std::string_view topic, int count) {
+    const auto free = std::find_if(outline.begin(), outline.end(),
+                                   [](const TestRow& row) { return row.topic.empty(); });
+    if (free == outline.end()) {
+        return false;
+    }
+    *free = {std::string(topic), count, false};
+    return true;
+}
+
+std::vector<std::string> PracticeTest::Lines() const {
+    std::vector<std::string> lines;
+    for (int i = 0; i < TestLineCount; ++i) {
+        lines.push_back(TestLines[i]);
+    }
+    return lines;
+}
+
+void SetTestTopic(std::string_view Name, PracticeTest& test) {
+    test.topic.MaxDigits = 5;
+    const TestTopic* found = FindTestTopic(Name);
+    if (found == nullptr) {
+        return;
+    }
+    test.topic.TopicTitle = found->caption;
+    test.topic.ProblemType = found->code;
+    test.TestHeading = found->heading;
+    test.TestSuffix = found->suffix;
+    if (!found->mask.empty()) {
+        test.topic.InputMask = BinaryFlagValue(found->mask);
+    }
+    for (const Letters& row : kLetters) {
+        if (row.caption == Name) {
+            test.topic.MaxVariables = row.MaxVariables;
+            test.topic.LinearGraphTopic = row.linearGraph ? 1 : test.topic.LinearGraphTopic;
+        }
+    }
+}
+
+void CreatePracticeTest(std::span<const TestRow> rows, PracticeTest& test, ExampleDraws& draws) {
+    test = PracticeTest();
+    for (const TestRow& row : rows) {
+        if (row.topic.empty()) {
+            continue;
+        }
+        test.TestSuffix.clear();
+        SetTestTopic(row.topic, test);
+        WriteLine(test, "");
+        WriteLine(test, test.TestHeading);
+        test.TestHeading.clear();
+        for (int i = 0; i < row.count; ++i) {
+            WriteProblem(test, row.complex, draws);
+        }
+    }
+}
+
+}  // namespace numerello

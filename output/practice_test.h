@@ -1,0 +1,59 @@
+#pragma once
+
+#include <array>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "catalogue/examples/draws.h"
+#include "core/bounds.h"
+#include "core/problem.h"
+
+/// A sheet of made-up problems over chosen topics.
+namespace numerello {
+
+/// A row of the outline; it is free while it has no topic.
+struct TestRow {
+    std::string topic;
+    int count = 0;
+    bool complex = false;
+};
+
+using TestOutline = std::array<TestRow, 10>;
+
+/// Puts the topic into the first free row. False when there is none.
+bool ChooseTestTopic(TestOutline& outline, std::string_view topic, int count);
+
+/// A problem of a test: its line, and what somebody would enter for it.
+struct TestProblem {
+    std::string line;
+    TopicChoice topic;
+    std::string keys;  ///< as in Example
+    EntryBoxes boxes;
+};
+
+struct PracticeTest {
+    static constexpr int kTopLine = 200;
+
+    BoundedArray<std::string, kTopLine> TestLines;
+    int TestLineCount = 0;              ///< next free index
+    std::string TestHeading;            ///< waits to be written
+    std::string TestSuffix;             ///< behind every problem of the topic
+    TopicChoice topic;                  ///< whose problems are being made
+    std::vector<TestProblem> problems;  ///< number n at n - 1
+
+    /// The lines written so far, math text.
+    std::vector<std::string> Lines() const;
+};
+
+/// Chooses a topic for the test: its code and limits, heading and suffix. Any other text than a
+/// topic's caption leaves all but MaxDigits as it was.
+void SetTestTopic(std::string_view Name, PracticeTest& test);
+
+/// Makes the test of the rows, the free ones left out: for each topic an empty line, its heading
+/// and its problems, numbered through the whole test. Throws Failure(Format) at the line that finds
+/// no room; the lines before it stand.
+void CreatePracticeTest(std::span<const TestRow> rows, PracticeTest& test, ExampleDraws& draws);
+
+}  // namespace numerello

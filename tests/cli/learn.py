@@ -1,0 +1,222 @@
+#!/usr/bin/env python3
+"""The tutor in a terminal: keys through a pseudo terminal, and lines through a pipe.
+
+    learn.py NUMERELLO-CLI
+"""
+
+import os
+import pty
+import select
+import signal
+import subprocess
+import sys
+import termios
+import time
+
+CLI = sys.argv[1]
+TOPIC = "--topic"
+failures = []
+
+
+def check(condition, what):
+    if not condition:
+        failures.append(what)
+        print("FAILED:", what)
+
+
+class Lesson:
+    """A lesson on a pseudo terminal."""
+
+    def __init__(self, *arguments, term="xterm"):
+        self.master, self.slave = pty.openpty()
+        self.before = termios.tcgetattr(self.slave)
+        self.process = subprocess.Popen(
+            [CLI, "learn", *arguments], stdin=self.slave, stdout=self.slave, stderr=self.slave,
+            env={**os.environ, "TERM": term}, start_new_session=True)
+        self.seen = ""
+
+    def read(self, seconds):
+        ready, _, _ = select.select([self.master], [], [], seconds)
+        if ready:
+            self.seen += os.read(self.master, 65536).decode(errors="replace")
+        return bool(ready)
+
+    def await_text(self, text):
+        """Waits until the text stands behind what was awaited before."""
+        end = time.monotonic() + 5
+        while text not in self.seen and time.monotonic() < end:
+            self.read(0.1)
+        check(text in self.seen, f"{text!r} does not come; there is {self.seen[-300:]!r}")
+        self.seen = self.seen.partition(text)[2]
+
+    def press(self, keys):
+        os.write(self.master, keys.encode())
+
+    def end(self):
+        """How the process ended, once it has."""
+        end = time.monotonic() + 5
+        while self.process.poll() is None and time.monotonic() < end:
+            self.read(0.05)
+        status = self.process.poll()
+        check(status is not None, "the lesson does not end")
+        if status is None:
+            self.process.kill()
+            self.process.wait()
+        check(termios.tcgetattr(self.slave) == self.before, "the terminal is not as it was")
+        os.close(self.master)
+        os.close(self.slave)
+        return status
+
+
+def types_and_plays():
+    lesson = Lesson(TOPIC, "Calculating With Exponents")
+    lesson.await_text("q: leave")
+    lesson.await_text("Problem: ")
+    lesson.press("3^2+")
+    lesson.await_text("Problem: 3²+")
+    lesson.press("+")
+    lesson.await_text("You can't type a '+' after a '+' in 'Calculating With Exponents'.")
+    lesson.await_text("Problem: 3²+")
+    lesson.press("4\x7f5")
+    lesson.await_text("Problem: 3²+5")
+    lesson.press("\x1b[A\x1bOP")  # an arrow and a function key are no keys of a problem
+    lesson.press("\n")
+    lesson.await_text("3²+5")
+    lesson.await_text("-- Enter: next step")
+    lesson.press("x\n")
+    lesson.await_text(" 1. ")
+    lesson.press("\n\n")
+    lesson.await_text("14")
+    lesson.await_text("-- Enter: another problem")
+    lesson.press("q")
+    check(lesson.end() == 0, "q does not leave with status 0")
+
+
+def chooses_by_the_beginning():
+    lesson = Lesson()
+    lesson.await_text("Topic: ")
+    lesson.press("conv")
+    lesson.await_text("conv  > Converting Celsius To Fahrenheit")
+    lesson.press("\x7f" * 4 + "xyz\n")
+    lesson.await_text('No topic begins with "xyz".')
+    lesson.press("?\n")
+    lesson.await_text("    Work = Rate * Time")
+    lesson.press("solving equations\n")
+    lesson.await_text('No topic begins with "solving equations".')
+    lesson.press("Solving Equations\n")
+    lesson.await_text("Ctrl+D: leave")
+    # Letters are keys of this problem.
+    lesson.press("q")
+    lesson.await_text("Problem: q")
+    lesson.press("\x05")
+    lesson.await_text("Example: ")
+    lesson.press("t")
+    lesson.await_text("Topic: ")
+    lesson.press("q")
+    check(lesson.end() == 0, "q does not leave at the topic")
+
+
+def works_in_columns():
+    lesson = Lesson(TOPIC, "Subtraction")
+    lesson.await_text("Top box = ")
+    lesson.press("5x2")
+    lesson.await_text("Top box = 52")
+    lesson.press("\n\n")
+    lesson.await_text("Enter numbers into both boxes.")
+    lesson.press("\x7f3\n")
+    lesson.await_text("Lower box = ")
+    lesson.press("17\n")
+    lesson.await_text("- 1 7")
+    lesson.press("\n\n")
+    lesson.await_text("-- Enter: another problem")
+    lesson.press("\x04")
+    check(lesson.end() == 0, "Ctrl+D does not leave")
+
+
+def asks_for_values():
+    lesson = Lesson(TOPIC, "Evaluating Polynomials")
+    lesson.await_text("Problem: ")
+    lesson.press("3x+4\n")
+    lesson.await_text("x = ?")
+    lesson.press("5\n")
+    lesson.await_text("-- Enter: next step")
+    for _ in range(6):
+        lesson.press("\n")
+    lesson.await_text("19")
+    lesson.press("\x03")
+    check(lesson.end() == 0, "Ctrl+C does not leave")
+
+
+def leaves_in_the_middle_of_a_line():
+    for key in "\x03\x04":
+        lesson = Lesson(TOPIC, "Simplifying Polynomials")
+        lesson.await_text("Problem: ")
+        lesson.press("3x")
+        lesson.await_text("Problem: 3x")
+        lesson.press(key)
+        check(lesson.end() == 0, f"{key!r} does not leave")
+
+
+def restores_the_terminal_on_signals():
+    for ending in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP, signal.SIGQUIT):
+        lesson = Lesson(TOPIC, "Arithmetic")
+        lesson.await_text("Problem: ")
+        check(termios.tcgetattr(lesson.slave) != lesson.before, "keys do not come one by one")
+        lesson.process.send_signal(ending)
+        check(lesson.end() == -ending, f"{ending.name} does not end the lesson")
+
+
+def reads_lines_where_the_terminal_cannot_draw():
+    lesson = Lesson(TOPIC, "Arithmetic", term="dumb")
+    lesson.await_text("q: leave")
+    lesson.press("3+4\n")
+    lesson.await_text("Problem: 3+4")
+    lesson.press("\n")
+    lesson.await_text(" 1. 7")
+    lesson.press("q\n")
+    check("\x1b" not in lesson.seen, "a dumb terminal gets escapes")
+    check(lesson.end() == 0, "q does not leave a dumb terminal")
+
+
+def piped(text, *arguments):
+    done = subprocess.run([CLI, "learn", *arguments], input=text, text=True, timeout=10,
+                          stdout=subprocess.PIPE, stderr=subprocess.PIPE, check=False)
+    check(done.returncode == 0, f"{text!r} ends with {done.returncode}")
+    check("\x1b" not in done.stdout, "a pipe gets escapes")
+    return done.stdout
+
+
+def reads_lines_from_a_pipe():
+    out = piped("pyth\n\n3\n4\n\nwhat?\n\n\n\n\n\n\n\n\n\n\nt\nexp n\nExpanded\nquit\n")
+    check("Topic: pyth  > Pythagorean Theorem\n" in out, "the topic is not told")
+    check("c = \na = 3\nb = 4\n" in out, "the boxes are not told")
+    check(" 1. " in out and "5 = c" in out, "the problem is not worked")
+    check('No topic begins with "exp n".' in out, "an unknown topic is not told")
+    check(out.endswith("q: leave\n\n") or out.endswith("q: leave\n"), "quit does not leave")
+
+
+def leaves_at_the_end_of_the_input():
+    check("Problem: 3+4" in piped("3+4\n", TOPIC, "Arithmetic"), "the problem is not told")
+    check(piped("") != "", "an empty input gets no word")
+    check("Topic: " not in piped("3+", TOPIC, "Arithmetic"), "half a line is taken")
+
+
+def gives_examples_of_every_topic():
+    topics = subprocess.run([CLI, "topics"], stdout=subprocess.PIPE, text=True, check=True).stdout
+    captions = [line.strip() for line in topics.splitlines() if line.startswith("    ")]
+    check(len(captions) == 105, "not all topics are listed")
+    for caption in captions:
+        # The answers are for prompts, the others step on.
+        out = piped("\x05\n" + "2\n" * 3 + "\n" * 60, TOPIC, caption)
+        check("Example: " in out, f"{caption} has no example")
+        check("!" not in out.partition("Example: ")[2], f"{caption} fails: {out[-300:]}")
+
+
+for scene in (types_and_plays, chooses_by_the_beginning, works_in_columns, asks_for_values,
+              leaves_in_the_middle_of_a_line, restores_the_terminal_on_signals,
+              reads_lines_where_the_terminal_cannot_draw, reads_lines_from_a_pipe,
+              leaves_at_the_end_of_the_input, gives_examples_of_every_topic):
+    started = time.monotonic()
+    scene()
+    print(f"{scene.__name__}: {time.monotonic() - started:.2f} s")
+sys.exit(1 if failures else 0)

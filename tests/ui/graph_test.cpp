@@ -1,0 +1,576 @@
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QColorDialog>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "catalogue/chooser.h"
+#include "core/topic_codes.h"
+#include "graph/coordinate_list.h"
+#include "tests/ui/frm_main_fixture.h"
+#include "ui/frm_graph.h"
+
+namespace numerello {
+namespace {
+
+Problem Asked(const char* equation) {
+    Problem problem;
+    problem.topic.ProblemType = kGraphingAnEquation;
+    problem.topic.TopicTitle = "Graphing A Linear Equation";
+    problem.graph.GraphMode = kEquationGraph;
+    problem.typed.ExprVariants[0] = equation;
+    return problem;
+}
+
+Problem AskedPoint(int code) {
+    Problem problem;
+    problem.topic.ProblemType = code;
+    problem.topic.TopicTitle = "Plotting A Point";
+    problem.graph = {kOnePointGraph, 4, -8, 0, 0};
+    return problem;
+}
+
+/// The graph's window alone on the screen.
+class GraphWindow : public testing::Test {
+  protected:
+    ~GraphWindow() override { delete form; }
+
+    FrmGraph& Open(const Problem& problem) {
+        form = new FrmGraph(problem, settings, nullptr);
+        form->Open();
+        ShowActive(*form);
+        return *form;
+    }
+    FrmGraph& OpenLine() { return Open(Asked("+1/1y^+1=+2/1x+3/1")); }
+
+    QAction& Command(const char* name) { return Find<QAction>(*form, QString::fromUtf8(name)); }
+    bool Ticked(const char* name) { return Command(name).isChecked(); }
+    GraphView& Picture() { return Find<GraphView>(*form, QStringLiteral("Picture1")); }
+    ZoomButton& In() { return *form->findChild<ZoomButton*>(QStringLiteral("Command1")); }
+    ZoomButton& Out() { return *form->findChild<ZoomButton*>(QStringLiteral("Command2")); }
+    CoordinateView& List() { return Find<CoordinateView>(*form, QStringLiteral("List1")); }
+    double Edge() { return form->Shown().Range().GraphXMax; }
+    QString EntryAt(int row) { return List().model()->index(row, 0).data().toString(); }
+
+    /// The color of the drawing at a place of the graph.
+    QColor ColorAt(double x, double y) {
+        QImage image(400, 400, QImage::Format_RGB32);
+        QPainter painter(&image);
+        form->Paint(painter, QRectF(0, 0, 400, 400));
+        painter.end();
+        const double edge = Edge();
+        return image.pixelColor(qRound((x + edge) / (2 * edge) * 399),
+                                qRound((edge - y) / (2 * edge) * 399));
+    }
+
+    GraphSettings settings;
+    QPointer<FrmGraph> form;
+};
+
+TEST_F(GraphWindow, HasEveryMenuEntryUnderItsName) {
+    OpenLine();
+    const std::vector<std::pair<const char*, std::vector<std::pair<const char*, const char*>>>>
+        menus{{"mnuGraphFile|&File",
+               {{"mnuGraphPrint", "&Print"},
+                {"mnuGraphPrintSetup", "Print &Setup"},
+                {"mnuGraphExit", "&Exit"}}},
+              {"mnuGraphOptions|&Options",
+               {{"mnuToggleZoomButtons", "Toggle &Zoom Buttons"},
+                {"mnuToggleCoordinates", "Toggle &Coordinates"},
+                {"mnuGraphQuadrant", "Toggle &Quadrants"},
+                {"mnuGraphHighQuality", "Highest &Quality"},
+                {"mnuGraphHighSpeed", "Highest &Speed"}}},
+              {"mnuGraphSettings|&Change Colors",
+               {{"mnuGraphColor", "&Line Color"},
+                {"mnuGraphGridColor", "&Grid Color"},
+                {"mnuGraphDefault", "&Default Colors"}}},
+              {"mnuGraphWindow|&Window",
+               {{"mnuGraphSmall", "&Small"},
+                {"mnuGraphNormal", "&Normal"},
+                {"mnuGraphMax", "&Large"},
+                {"mnuGraphZoomIn", "Zoom &In"},
+                {"mnuGraphZoomOut", "Zoom &Out"}}}};
+    for (const auto& [named, entries] : menus) {
+        const QStringList parts = QString::fromUtf8(named).split(u'|');
+        const auto& menu = Find<QMenu>(*form, parts[0]);
+        EXPECT_EQ(menu.title(), parts[1]);
+        QStringList shown;
+        for (const QAction* action : menu.actions()) {
+            if (!action->isSeparator()) {
+                shown << action->objectName();
+            }
+        }
+        QStringList expected;
+        for (const auto& [name, text] : entries) {
+            expected << QString::fromUtf8(name);
+            EXPECT_EQ(Command(name).text().toStdString(), text);
+        }
+        EXPECT_EQ(shown, expected);
+    }
+}
+
+TEST_F(GraphWindow, OpensWithTheDefaults) {
+    OpenLine();
+    EXPECT_EQ(form->objectName(), "frmGraph");
+    EXPECT_EQ(form->windowTitle(), "Graphing A Linear Equation");
+    // 8000 twips, 15 to a pixel.
+    EXPECT_EQ(Picture().size(), QSize(533, 533));
+    EXPECT_EQ(Edge(), 20);
+    EXPECT_EQ(form->Shown().GraphStep(), 0.2);
+    EXPECT_TRUE(Ticked("mnuToggleZoomButtons"));
+    EXPECT_TRUE(Ticked("mnuToggleCoordinates"));
+    EXPECT_FALSE(Ticked("mnuGraphQuadrant"));
+    EXPECT_FALSE(Ticked("mnuGraphHighQuality"));
+    EXPECT_TRUE(Ticked("mnuGraphHighSpeed"));
+    EXPECT_TRUE(In().isVisible());
+    EXPECT_TRUE(Out().isVisible());
+    EXPECT_TRUE(List().isVisible());
+    EXPECT_EQ(In().size(), QSize(48, 48));
+    EXPECT_EQ(In().toolTip(), "Zoom In");
+    EXPECT_EQ(Out().size(), QSize(48, 48));
+    EXPECT_EQ(Out().toolTip(), "Zoom Out");
+}
+
+TEST_F(GraphWindow, QuadrantsAreTickedForTheTopicThatAsksForOne) {
+    Open(AskedPoint(kPointsQuadrant));
+    EXPECT_TRUE(Ticked("mnuGraphQuadrant"));
+    EXPECT_TRUE(form->Shown().ShowsQuadrants());
+    Command("mnuGraphQuadrant").trigger();
+    EXPECT_FALSE(Ticked("mnuGraphQuadrant"));
+    EXPECT_FALSE(form->Shown().ShowsQuadrants());
+}
+
+TEST_F(GraphWindow, ExactlyOneOfQualityAndSpeedIsTicked) {
+    OpenLine();
+    EXPECT_EQ(List().model()->rowCount(), 201);
+    Command("mnuGraphHighQuality").trigger();
+    EXPECT_TRUE(Ticked("mnuGraphHighQuality"));
+    EXPECT_FALSE(Ticked("mnuGraphHighSpeed"));
+    EXPECT_EQ(settings.GraphQuality, 1);
+    EXPECT_EQ(List().model()->rowCount(), 4000);
+    Command("mnuGraphHighQuality").trigger();
+    EXPECT_TRUE(Ticked("mnuGraphHighQuality"));
+    Command("mnuGraphHighSpeed").trigger();
+    EXPECT_FALSE(Ticked("mnuGraphHighQuality"));
+    EXPECT_TRUE(Ticked("mnuGraphHighSpeed"));
+    EXPECT_EQ(settings.GraphQuality, 20);
+    EXPECT_EQ(List().model()->rowCount(), 201);
+}
+
+TEST_F(GraphWindow, TheQualityOfTheLastWindowIsTicked) {
+    settings.GraphQuality = kHighQuality;
+    OpenLine();
+    EXPECT_TRUE(Ticked("mnuGraphHighQuality"));
+    EXPECT_FALSE(Ticked("mnuGraphHighSpeed"));
+    EXPECT_EQ(form->Shown().GraphStep(), 0.01);
+}
+
+TEST_F(GraphWindow, ZoomsByButtonsKeysAndMenuUpToTheLimits) {
+    OpenLine();
+    Click(In());
+    EXPECT_EQ(Edge(), 10);
+    PressKey(*form, Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(Edge(), 5);
+    EXPECT_FALSE(In().isEnabled());
+    EXPECT_FALSE(Command("mnuGraphZoomIn").isEnabled());
+    Click(In());
+    PressKey(*form, Qt::Key_Equal, Qt::ControlModifier);
+    EXPECT_EQ(Edge(), 5);
+
+    Click(Out());
+    EXPECT_EQ(Edge(), 10);
+    EXPECT_TRUE(In().isEnabled());
+    PressKey(*form, Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(Edge(), 20);
+    Command("mnuGraphZoomOut").trigger();
+    EXPECT_EQ(Edge(), 40);
+    for (int i = 0; i < 20; ++i) {
+        Click(Out());
+    }
+    EXPECT_EQ(Edge(), 81920);
+    EXPECT_FALSE(Out().isEnabled());
+    EXPECT_EQ(EntryAt(0), "x=-81920  y=-163837");
+}
+
+TEST_F(GraphWindow, ShowsAndHidesButtonsAndList) {
+    OpenLine();
+    Command("mnuToggleZoomButtons").trigger();
+    EXPECT_FALSE(In().isVisible());
+    EXPECT_FALSE(Out().isVisible());
+    EXPECT_TRUE(List().isVisible());
+    Command("mnuToggleZoomButtons").trigger();
+    EXPECT_TRUE(In().isVisible());
+    Command("mnuToggleCoordinates").trigger();
+    EXPECT_FALSE(Ticked("mnuToggleCoordinates"));
+    EXPECT_FALSE(List().isVisible());
+    Command("mnuToggleCoordinates").trigger();
+    EXPECT_TRUE(List().isVisible());
+}
+
+TEST_F(GraphWindow, ControlsKeepTheirPlaceAtAnySizeAndRange) {
+    OpenLine();
+    for (const char* change : {"mnuGraphSmall", "mnuGraphZoomOut", "mnuGraphHighQuality",
+                               "mnuGraphNormal", "mnuGraphZoomIn", "mnuGraphMax"}) {
+        Command(change).trigger();
+        QCoreApplication::processEvents();
+        const QRect drawing = Picture().rect();
+        EXPECT_TRUE(drawing.contains(List().geometry())) << change;
+        EXPECT_EQ(List().geometry().right(), drawing.right()) << change;
+        EXPECT_TRUE(drawing.contains(In().geometry())) << change;
+        EXPECT_TRUE(drawing.contains(Out().geometry())) << change;
+        EXPECT_EQ(In().y(), Out().y()) << change;
+        EXPECT_GT(Out().x(), In().geometry().right()) << change;
+        EXPECT_FALSE(List().geometry().intersects(Out().geometry())) << change;
+        // The figures of the x axis stay free.
+        EXPECT_GT(List().y(), drawing.height() / 2 + 20) << change;
+    }
+}
+
+TEST_F(GraphWindow, SizesKeepTheWindowCentred) {
+    OpenLine();
+    form->move(200, 60);
+    const QPoint centre = form->geometry().center();
+    const auto distance = [&] { return (form->geometry().center() - centre).manhattanLength(); };
+    Command("mnuGraphSmall").trigger();
+    // 4000 twips.
+    EXPECT_EQ(Picture().size(), QSize(267, 267));
+    EXPECT_LE(distance(), 2);
+    Command("mnuGraphNormal").trigger();
+    EXPECT_EQ(Picture().size(), QSize(533, 533));
+    EXPECT_LE(distance(), 2);
+    Command("mnuGraphMax").trigger();
+    EXPECT_TRUE(form->isMaximized());
+    Command("mnuGraphSmall").trigger();
+    EXPECT_FALSE(form->isMaximized());
+    EXPECT_EQ(Picture().size(), QSize(267, 267));
+}
+
+TEST_F(GraphWindow, TheListReadsByArrowKeys) {
+    OpenLine();
+    EXPECT_EQ(EntryAt(0), "x=-20  y=-37");
+    EXPECT_EQ(EntryAt(100), "x=0  y=2.99999999999992");
+    List().setFocus();
+    PressKeys(*form, {Qt::Key_Down, Qt::Key_Down});
+    EXPECT_EQ(List().currentIndex().row(), 2);
+    PressKey(*form, Qt::Key_End);
+    EXPECT_EQ(List().currentIndex().row(), 200);
+    PressKey(*form, Qt::Key_Up);
+    EXPECT_EQ(List().currentIndex().data().toString(), EntryAt(199));
+}
+
+TEST_F(GraphWindow, TheListIsNoLargerThanItsEntries) {
+    Open(AskedPoint(kPlottingAPoint));
+    EXPECT_EQ(List().model()->rowCount(), 1);
+    EXPECT_LT(List().height(), 40);
+    EXPECT_LT(List().width(), 160);
+}
+
+TEST_F(GraphWindow, IsPaintedInItsColors) {
+    OpenLine();
+    // On the line, on a line of the grid, and between them.
+    EXPECT_EQ(ColorAt(2, 7), QColor(255, 0, 0));
+    EXPECT_EQ(ColorAt(-12.5, 5.5), QColor(255, 255, 255));
+    // 400 pixels for 40 units: the middle of the line at -12 is the pixel at 80.
+    EXPECT_EQ(ColorAt(-12, 5.5), QColor(132, 214, 255));
+}
+
+TEST_F(GraphWindow, FromTheFourthZoomOutTheGroundHasTheGridsColor) {
+    OpenLine();
+    for (int i = 0; i < 3; ++i) {
+        Click(Out());
+    }
+    EXPECT_EQ(form->Shown().Picture().BackColor, 0xFFFFFFU);
+    Click(Out());
+    EXPECT_EQ(Edge(), 320);
+    EXPECT_EQ(ColorAt(-200, 100), QColor(132, 214, 255));
+}
+
+TEST_F(GraphWindow, ColorsAreChosenInTheDialog) {
+    OpenLine();
+    const auto choose = [this](const char* command, const QColor& color, QDialog::DialogCode end) {
+        const WhenDialogOpens dialog(QStringLiteral("CommonDialog1"), [&](QWidget& widget) {
+            auto& colors = dynamic_cast<QColorDialog&>(widget);
+            colors.setCurrentColor(color);
+            dynamic_cast<QDialog&>(widget).done(end);
+        });
+        Command(command).trigger();
+    };
+    choose("mnuGraphColor", QColor(0, 128, 64), QDialog::Accepted);
+    // Red in the low byte.
+    EXPECT_EQ(settings.GraphLineColor, 64U * 65536 + 128U * 256);
+    EXPECT_EQ(ColorAt(2, 7), QColor(0, 128, 64));
+    choose("mnuGraphGridColor", QColor(200, 100, 50), QDialog::Accepted);
+    EXPECT_EQ(settings.GraphGridColor, 50U * 65536 + 100U * 256 + 200);
+
+    choose("mnuGraphColor", Qt::black, QDialog::Rejected);
+    EXPECT_EQ(ColorAt(2, 7), QColor(0, 128, 64));
+
+    Command("mnuGraphDefault").trigger();
+    EXPECT_EQ(settings.GraphLineColor, 255U);
+    EXPECT_EQ(settings.GraphGridColor, 16766596U);
+    EXPECT_EQ(ColorAt(2, 7), QColor(255, 0, 0));
+}
+
+TEST_F(GraphWindow, TheColorDialogOpensOnTheColorInUse) {
+    settings.GraphGridColor = 50U * 65536 + 100U * 256 + 200;
+    OpenLine();
+    const WhenDialogOpens dialog(QStringLiteral("CommonDialog1"), [](QWidget& widget) {
+        auto& colors = dynamic_cast<QColorDialog&>(widget);
+        EXPECT_EQ(colors.currentColor(), QColor(200, 100, 50));
+        EXPECT_EQ(colors.windowTitle(), "Grid Color");
+        PressKey(widget, Qt::Key_Escape);
+    });
+    Command("mnuGraphGridColor").trigger();
+    EXPECT_EQ(settings.GraphGridColor, 50U * 65536 + 100U * 256 + 200);
+}
+
+TEST_F(GraphWindow, EscapeAndExitClose) {
+    OpenLine();
+    PressKey(*form, Qt::Key_Escape);
+    EXPECT_FALSE(form && form->isVisible());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(form);
+    OpenLine();
+    Command("mnuGraphExit").trigger();
+    EXPECT_FALSE(form && form->isVisible());
+}
+
+TEST_F(GraphWindow, PrintingIsAskedForWhenItIsOpen) {
+    OpenLine();
+    EXPECT_FALSE(Command("mnuGraphPrint").isEnabled());
+    EXPECT_FALSE(Command("mnuGraphPrintSetup").isEnabled());
+    form->SetPrintEnabled(true);
+    const QSignalSpy printed(form, &FrmGraph::PrintAsked);
+    const QSignalSpy setUp(form, &FrmGraph::PrintSetupAsked);
+    Command("mnuGraphPrint").trigger();
+    EXPECT_EQ(printed.count(), 1);
+    EXPECT_EQ(setUp.count(), 0);
+    Command("mnuGraphPrintSetup").trigger();
+    EXPECT_EQ(setUp.count(), 1);
+}
+
+TEST_F(GraphWindow, IsToldInWords) {
+    OpenLine();
+    QAccessibleInterface* picture = QAccessible::queryAccessibleInterface(&Picture());
+    ASSERT_NE(picture, nullptr);
+    EXPECT_EQ(picture->role(), QAccessible::Graphic);
+    EXPECT_EQ(picture->text(QAccessible::Name), "Graph");
+    EXPECT_EQ(picture->text(QAccessible::Description),
+              "x and y go from -20 to 20. A line that rises from left to right. It crosses the x "
+              "axis at -1.5 and the y axis at 3.");
+    Click(Out());
+    EXPECT_TRUE(picture->text(QAccessible::Description).startsWith("x and y go from -40 to 40."));
+    EXPECT_EQ(List().accessibleName(), "Coordinates");
+    EXPECT_EQ(In().accessibleName(), "Zoom In");
+    EXPECT_EQ(Out().accessibleName(), "Zoom Out");
+}
+
+TEST_F(GraphWindow, TabReachesEveryControl) {
+    OpenLine();
+    QStringList reached;
+    for (int i = 0; i < 4; ++i) {
+        reached << form->focusWidget()->objectName();
+        PressKey(*form, Qt::Key_Tab);
+    }
+    EXPECT_EQ(reached, QStringList({"Picture1", "Command1", "Command2", "List1"}));
+    Click(In());
+    PressKey(*form, Qt::Key_Space);
+    In().setFocus();
+    PressKey(*form, Qt::Key_Space);
+    EXPECT_EQ(Edge(), 5);
+}
+
+TEST_F(GraphWindow, PaintsItselfIntoASquareOfAnySize) {
+    OpenLine();
+    for (const int side : {60, 533, 2000}) {
+        QImage image(side, side, QImage::Format_RGB32);
+        image.fill(Qt::magenta);
+        QPainter painter(&image);
+        form->Paint(painter, QRectF(0, 0, side, side));
+        painter.end();
+        EXPECT_NE(image.pixelColor(0, 0), QColor(Qt::magenta)) << side;
+        EXPECT_NE(image.pixelColor(side - 1, side - 1), QColor(Qt::magenta)) << side;
+        // (5, 13) of the line.
+        const QColor on = image.pixelColor(side * 25 / 40, side * 7 / 40);
+        EXPECT_GT(on.red(), 180) << side;
+        EXPECT_LT(on.blue(), 190) << side;
+    }
+}
+
+TEST_F(GraphWindow, PaintsNothingBesideTheSquare) {
+    Open(Asked("+1/1y^+1=+99999/1x"));
+    QImage image(300, 300, QImage::Format_RGB32);
+    image.fill(Qt::magenta);
+    QPainter painter(&image);
+    form->Paint(painter, QRectF(100, 100, 100, 100));
+    painter.end();
+    for (int i = 0; i < 300; ++i) {
+        for (const int beside : {50, 99, 200, 250}) {
+            EXPECT_EQ(image.pixelColor(i, beside), QColor(Qt::magenta));
+            EXPECT_EQ(image.pixelColor(beside, i), QColor(Qt::magenta));
+        }
+    }
+}
+
+TEST_F(Window, APointOpensItsGraphAtOnce) {
+    Choose(QStringLiteral("Plotting A Point"));
+    EXPECT_FALSE(Command("mnuGraph").isEnabled());
+    Type(QStringLiteral("(4,-8)"));
+    Enter();
+    auto* form = frame.findChild<FrmGraph*>(QStringLiteral("frmGraph"));
+    ASSERT_NE(form, nullptr);
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(form->windowTitle(), "Plotting A Point");
+    EXPECT_EQ(form->Shown().Request().GraphMode, 1);
+    EXPECT_FALSE(Arrow().isVisible());
+    EXPECT_TRUE(Command("mnuGraph").isEnabled());
+}
+
+TEST_F(Window, TwoPointsOpenTheirGraphAlsoAllAtOnce) {
+    Command("mnuShowStep").trigger();
+    Choose(QStringLiteral("Graphing A Line Using Two Points"));
+    Type(QStringLiteral("(1,2)-(5,6)"));
+    Enter();
+    auto* form = frame.findChild<FrmGraph*>(QStringLiteral("frmGraph"));
+    ASSERT_NE(form, nullptr);
+    EXPECT_EQ(form->Shown().Request().GraphMode, 2);
+}
+
+TEST_F(Window, AQuadrantOpensItsGraphAtTheEndOfItsPlayback) {
+    Choose(QStringLiteral("Calculating A Point's Quadrant"));
+    Type(QStringLiteral("(-3,5)"));
+    Enter();
+    int steps = 0;
+    while (Arrow().isVisible()) {
+        ASSERT_EQ(frame.findChild<FrmGraph*>(), nullptr) << steps;
+        Click(Arrow());
+        ASSERT_LT(++steps, 20);
+    }
+    EXPECT_GT(steps, 0);
+    auto* form = frame.findChild<FrmGraph*>();
+    ASSERT_NE(form, nullptr);
+    EXPECT_EQ(form->Shown().Request().GraphMode, 1);
+}
+
+TEST(GraphOfAnEquation, IsAskedForAtTheEndOfItsPlayback) {
+    Problem problem;
+    MersenneSource random;
+    WindowLearner learner(nullptr);
+    TreeViewSelect("Graphing A Linear Equation", problem.topic, SystemClock(), random);
+    FrmPaper paper(problem, learner, nullptr);
+    const QSignalSpy asked(&paper, &FrmPaper::GraphAsked);
+    const QSignalSpy done(&paper, &FrmPaper::GraphDone);
+    for (const char* key : {"2", "x", "+", "3", "y", "=", "6"}) {
+        paper.Form_KeyPress(key);
+    }
+    paper.compute_Click();
+    EXPECT_EQ(done.count(), 1);
+    EXPECT_EQ(problem.graph.GraphMode, 3);
+    while (problem.playback.ShownStep < problem.log.StepCount - 1) {
+        ASSERT_EQ(asked.count(), 0) << problem.playback.ShownStep;
+        paper.NextStep();
+    }
+    EXPECT_EQ(asked.count(), 1);
+    GraphSettings settings;
+    const FrmGraph form(problem, settings, nullptr);
+    EXPECT_EQ(form.Shown().ThePlot().points.size(), 201U);
+}
+
+TEST_F(Window, AQuadrantOpensItsGraphByTheButtonAlone) {
+    Command("mnuShowStep").trigger();
+    Choose(QStringLiteral("Calculating A Point's Quadrant"));
+    Type(QStringLiteral("(-3,5)"));
+    Enter();
+    EXPECT_EQ(frame.findChild<FrmGraph*>(), nullptr);
+    ASSERT_TRUE(Command("mnuGraph").isEnabled());
+    Command("mnuGraph").trigger();
+    auto* form = frame.findChild<FrmGraph*>();
+    ASSERT_NE(form, nullptr);
+    EXPECT_TRUE(form->Shown().ShowsQuadrants());
+}
+
+TEST_F(Window, TheOpenGraphComesToTheFrontAndKeepsItsRange) {
+    Choose(QStringLiteral("Plotting A Point"));
+    Type(QStringLiteral("(4,-8)"));
+    Enter();
+    QPointer<FrmGraph> form = frame.findChild<FrmGraph*>();
+    ASSERT_TRUE(form);
+    Find<QAction>(*form, QStringLiteral("mnuGraphZoomOut")).trigger();
+    ShowActive(frame);
+    Command("mnuGraph").trigger();
+    EXPECT_EQ(frame.findChildren<FrmGraph*>().size(), 1);
+    EXPECT_EQ(form->Shown().Range().GraphXMax, 40);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(form));
+
+    // A fresh one begins anew.
+    form->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(form);
+    Command("mnuGraph").trigger();
+    ASSERT_NE(frame.findChild<FrmGraph*>(), nullptr);
+    EXPECT_EQ(frame.findChild<FrmGraph*>()->Shown().Range().GraphXMax, 20);
+}
+
+TEST_F(Window, ColorsAndQualityLastForTheRun) {
+    Choose(QStringLiteral("Plotting A Point"));
+    Type(QStringLiteral("(4,-8)"));
+    Enter();
+    QPointer<FrmGraph> form = frame.findChild<FrmGraph*>();
+    ASSERT_TRUE(form);
+    Find<QAction>(*form, QStringLiteral("mnuGraphHighQuality")).trigger();
+    form->close();
+    Command("mnuGraph").trigger();
+    const auto forms = frame.findChildren<FrmGraph*>();
+    ASSERT_FALSE(forms.isEmpty());
+    EXPECT_TRUE(Find<QAction>(*forms.back(), QStringLiteral("mnuGraphHighQuality")).isChecked());
+}
+
+TEST_F(Window, TheGraphStaysOverEraseAndGoesWithTheNextSolve) {
+    Choose(QStringLiteral("Plotting A Point"));
+    Type(QStringLiteral("(4,-8)"));
+    Enter();
+    const QPointer<FrmGraph> form = frame.findChild<FrmGraph*>();
+    ASSERT_TRUE(form);
+    ShowActive(frame);
+    Erase();
+    EXPECT_TRUE(form && form->isVisible());
+    EXPECT_FALSE(Command("mnuGraph").isEnabled());
+    Choose(QStringLiteral("Converting Inches To Yards"));
+    EXPECT_TRUE(form && form->isVisible());
+    // It shows what it was opened for, whatever the frame is at.
+    EXPECT_EQ(form->windowTitle(), "Plotting A Point");
+    Find<QAction>(*form, QStringLiteral("mnuGraphZoomOut")).trigger();
+    EXPECT_EQ(CoordinateEntry(form->Shown().ThePlot(), 0), "x=4  y=-8");
+    Type(QStringLiteral("40"));
+    Enter();
+    EXPECT_FALSE(form && form->isVisible());
+}
+
+TEST_F(Window, AFailedPointHasNoGraph) {
+    Choose(QStringLiteral("Plotting A Point"));
+    Type(QStringLiteral("(4,"));
+    const WhenDialogOpens message(QStringLiteral("MessageBox"), [](QWidget& dialog) {
+        PressButton(dialog, QStringLiteral("OK"));
+    });
+    Enter();
+    EXPECT_EQ(frame.findChild<FrmGraph*>(), nullptr);
+    EXPECT_FALSE(Command("mnuGraph").isEnabled());
+}
+
+TEST_F(Window, TheGraphClosesWithTheFrame) {
+    Choose(QStringLiteral("Plotting A Point"));
+    Type(QStringLiteral("(4,-8)"));
+    Enter();
+    const QPointer<FrmGraph> form = frame.findChild<FrmGraph*>();
+    ASSERT_TRUE(form);
+    frame.close();
+    EXPECT_FALSE(form && form->isVisible());
+}
+
+}  // namespace
+}  // namespace numerello

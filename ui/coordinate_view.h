@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QAbstractListModel>
+#include <QListView>
+
+#include "graph/plot.h"
+
+namespace numerello {
+
+/// The entries of a plot. Each is written when it is shown, so that thousands cost nothing.
+class CoordinateModel : public QAbstractListModel {
+    Q_OBJECT
+
+  public:
+    using QAbstractListModel::QAbstractListModel;
+
+    /// The plot must outlive the model, or the next call. Every entry gets the same room.
+    void Show(const Plot& plot, QSize entrySize);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+
+  private:
+    const Plot* plot = nullptr;
+    QSize entrySize;
+};
+
+/// The coordinate list, which lies on the picture and lets it shine through.
+class CoordinateView : public QListView {
+    Q_OBJECT
+
+  public:
+    explicit CoordinateView(QWidget* parent);
+
+    void Show(const Plot& plot);
+
+    /// As large as its entries, but no larger than that.
+    QSize SizeWithin(QSize most) const;
+
+  private:
+    QSize SizeOfEntries(const Plot& plot) const;
+
+    CoordinateModel entries;
+    QSize entrySize;
+};
+
+}  // namespace numerello

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "core/clock.h"
+#include "core/problem.h"
+#include "ui/previewed.h"
+
+namespace numerello {
+
+/// Makes practice tests up from the moment, and works their keys as the settings say. Both must
+/// outlive the maker and its tests.
+TestMaker MakerOfTests(const Clock& clock, const AnswerSettings& settings);
+
+}  // namespace numerello

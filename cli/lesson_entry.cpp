@@ -170,7 +170,7 @@ std::optional<std::string> AskForTopic(Terminal& terminal) {
         }
         if (text == "?") {
             SayTopics(terminal);
-        } else if (const std::optional<std::string> topic = TopicBeginning(text)) {
+        } else if (std::optional<std::string> topic = TopicBeginning(text)) {
             return topic;
         } else {
             terminal.Say(Text("No topic begins with \"", text, "\"."));

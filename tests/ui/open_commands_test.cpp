@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QMainWindow>
+#include <QTest>
 #include <QToolButton>
 #include <vector>
 
@@ -194,6 +195,15 @@ TEST_F(OpenCommands, WhatIsNotConnectedStaysGrey) {
     commands.At("mnuSave").trigger();
     commands.At("mnuLoad").trigger();
     EXPECT_EQ(saved, 1);
+}
+
+TEST_F(OpenCommands, ANarrowFrameKeepsTheRestBehindAButton) {
+    frame.resize(640, 480);
+    auto& more = Find<QToolButton>(frame, QStringLiteral("qt_toolbar_ext_button"));
+    EXPECT_TRUE(QTest::qWaitFor([&more] { return more.isVisible(); }, 1000));
+    EXPECT_FALSE(Find<QToolButton>(frame, QStringLiteral("web")).isVisible());
+    EXPECT_EQ(more.accessibleName(), "More commands");
+    EXPECT_EQ(more.focusPolicy(), Qt::NoFocus);
 }
 
 TEST_F(OpenCommands, APopUpFollowsItsCommand) {

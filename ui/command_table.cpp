@@ -1,19 +1,25 @@
 #include "ui/command_table.h"
 
+#include <array>
+
 namespace numerello {
 
 namespace {
 
 using enum OpenWhen;
 
-constexpr MenuRow kMenus[] = {
-    {"mnuFile", "&File"},       {"mnuCreate", "&Tools"}, {"mnuSpecial", "&Functions"},
-    {"mnuOptions", "&Options"}, {"mnuHelp", "&Help"},    {"mnuWeb", "Vantrel on the &Web", false},
-};
+constexpr auto kMenus = std::to_array<MenuRow>({
+    {"mnuFile", "&File"},
+    {"mnuCreate", "&Tools"},
+    {"mnuSpecial", "&Functions"},
+    {"mnuOptions", "&Options"},
+    {"mnuHelp", "&Help"},
+    {"mnuWeb", "Vantrel on the &Web", false},
+});
 
 constexpr bool kTicks = true;
 
-constexpr CommandRow kCommands[] = {
+constexpr auto kCommands = std::to_array<CommandRow>({
     {"mnuFile", "mnuNew", "&New Problem", Always, "Ctrl+N"},
     {"mnuFile"},
     {"mnuFile", "mnuPrint", "&Print", Printable, "Ctrl+P"},
@@ -58,16 +64,16 @@ constexpr CommandRow kCommands[] = {
 
     {"mnuWeb", "mnuAlgSol", "Numerello &Solved!"},
     {"mnuWeb", "mnuHomePage", "Vantrel &Home Page"},
-};
+});
 
-constexpr PopUpRow kPopUps[] = {
+constexpr auto kPopUps = std::to_array<PopUpRow>({
     {"mnuHidden", "mnuHide", "&Hide", "mnuHideWiz", false},
     {"mnuHidden", "mnuHideOptions", "&Options...", "mnuChange", false},
     {"mnuHidden2", "mnuUsePencil", "Use &Pencil", "mnuPencil", kTicks},
     {"mnuHidden3", "mnuHideLight", "&Hide Guided Input Light", "mnuShowLight", false},
-};
+});
 
-constexpr ButtonRow kButtons[] = {
+constexpr auto kButtons = std::to_array<ButtonRow>({
     {"new", "mnuNew", "New Problem"},
     {},
     {"save", "mnuSave", "Save Problem"},
@@ -88,12 +94,17 @@ constexpr ButtonRow kButtons[] = {
     {"fracdec", "mnuConvertDF", "Convert Between Fraction and Decimal Format"},
     {},
     {"web", "mnuHomePage", "Vantrel on the Web"},
-};
+});
 
-constexpr FunctionRow kFunctions[] = {
-    {"mnuSquareRoot", "~"},  {"mnuExponet", "^"},        {"mnuAbsValue", "|"}, {"mnuAddition", "+"},
-    {"mnuSubtraction", "-"}, {"mnuMultiplication", "*"}, {"mnuDivision", "/"},
-};
+constexpr auto kFunctions = std::to_array<FunctionRow>({
+    {"mnuSquareRoot", "~"},
+    {"mnuExponet", "^"},
+    {"mnuAbsValue", "|"},
+    {"mnuAddition", "+"},
+    {"mnuSubtraction", "-"},
+    {"mnuMultiplication", "*"},
+    {"mnuDivision", "/"},
+});
 
 }  // namespace
 

@@ -3,6 +3,7 @@
 #include <QStringList>
 #include <QtGlobal>
 #include <cstdio>
+#include <memory>
 #include <optional>
 #include <string_view>
 
@@ -12,8 +13,11 @@
 #include "core/clock.h"
 #include "core/random_source.h"
 #include "core/text.h"
+#include "graph/graph.h"
 #include "output/print_choices.h"
 #include "output/print_solution.h"
+#include "ui/graph_painter.h"
+#include "ui/print_job.h"
 
 namespace numerello {
 
@@ -73,12 +77,27 @@ PrintOrder OrderOf(const Problem& problem, bool hasGraph) {
             choices.Problem.ticked, choices.Explanation.enabled, choices.Graph.ticked};
 }
 
-bool HasPages(const Problem& problem, const GraphPainter& graph) {
-    const PrintOrder order = OrderOf(problem, static_cast<bool>(graph));
-    return CanPrint(order.Problem, order.Graph);
+/// A graph as its window opens with it, computed as finely as can be.
+struct PrintedGraph {
+    explicit PrintedGraph(const Problem& problem) : graph(problem, settings) {}
+
+    GraphSettings settings{.GraphQuality = kHighQuality};
+    Graph graph;
+    FontMetrics faces{FontMetrics::Medium::Print};
+};
+
+/// Empty for a problem without a graph.
+GraphPainter GraphOf(const Problem& problem) {
+    if (problem.graph.GraphMode == 0) {
+        return {};
+    }
+    return [printed = std::make_shared<PrintedGraph>(problem)](QPainter& painter, QRectF square) {
+        PaintGraph(painter, square, printed->graph.Picture(), printed->faces);
+    };
 }
 
-void Write(const QString& pdf, const Problem& problem, const GraphPainter& graph) {
+void Write(const QString& pdf, const Problem& problem) {
+    const GraphPainter graph = GraphOf(problem);
     const PrintOrder order = OrderOf(problem, static_cast<bool>(graph));
     const PrintJob job{
         .name = problem.topic.TopicTitle,
@@ -106,20 +125,15 @@ bool ReadyToExport(int argc, char** argv) {
     return false;
 }
 
-int ExportPdf(const QString& pdf, const QString& problemFile, std::string& message,
-              const GraphOf& graphOf) {
+int ExportPdf(const QString& pdf, const QString& problemFile, std::string& message) {
     const std::string path = problemFile.toStdString();
     std::string subject = path;
     try {
         Problem problem;
         message = Work(ReadSavedProblem(ReadFile(path, kLongestProblemFile)), problem);
-        const GraphPainter graph = graphOf ? graphOf(problem) : GraphPainter();
-        if (message.empty() && !HasPages(problem, graph)) {
-            message = "has nothing to print but its graph";
-        }
         if (message.empty()) {
             subject = pdf.toStdString();
-            Write(pdf, problem, graph);
+            Write(pdf, problem);
         }
     } catch (const FileError& error) {
         message = error.what();
@@ -131,13 +145,13 @@ int ExportPdf(const QString& pdf, const QString& problemFile, std::string& messa
     return 0;
 }
 
-int ExportPdf(const QString& pdf, const QStringList& arguments, const GraphOf& graphOf) {
+int ExportPdf(const QString& pdf, const QStringList& arguments) {
     if (pdf.isEmpty() || arguments.size() != 1) {
         std::fputs("numerello: --export FILE.pdf needs one problem file\n", stderr);
         return 2;
     }
     std::string message;
-    const int status = ExportPdf(pdf, arguments.front(), message, graphOf);
+    const int status = ExportPdf(pdf, arguments.front(), message);
     if (!message.empty()) {
         std::fputs(Text("numerello: ", message, "\n").c_str(), stderr);
     }

@@ -1,12 +1,7 @@
 #pragma once
 
 #include <QString>
-#include <functional>
 #include <string>
-
-#include "core/learner.h"
-#include "core/problem.h"
-#include "ui/print_job.h"
 
 /// A worked solution as a PDF file, without a window.
 namespace numerello {
@@ -15,17 +10,13 @@ namespace numerello {
 /// without one. To be called before there is an application object.
 bool ReadyToExport(int argc, char** argv);
 
-/// Paints the graph of a problem that was worked; empty for one that has none.
-using GraphOf = std::function<GraphPainter(const Problem& problem)>;
-
 /// Works the problem of a file and writes its lines with their reasons, and its graph, to `pdf`.
 /// Gives the exit status: 0, or 1 when the problem cannot be used or worked or the file cannot be
 /// written. The reason stands in `message`, empty when all is well; nothing is written then.
-int ExportPdf(const QString& pdf, const QString& problemFile, std::string& message,
-              const GraphOf& graphOf = {});
+int ExportPdf(const QString& pdf, const QString& problemFile, std::string& message);
 
 /// The same for the command line: `arguments` are those beside the name of the PDF. The reason goes
 /// to standard error; 2 stands for arguments that are not one problem file.
-int ExportPdf(const QString& pdf, const QStringList& arguments, const GraphOf& graphOf = {});
+int ExportPdf(const QString& pdf, const QStringList& arguments);
 
 }  // namespace numerello

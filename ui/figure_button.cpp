@@ -13,6 +13,7 @@ constexpr QSize kPicture(108, 128);
 constexpr int kMargin = 8;
 constexpr int kRadius = 8;
 constexpr int kFrame = 3;
+constexpr int kGap = 3;  ///< between picture and name
 /// The figures are drawn for paper, also where the desktop is dark.
 constexpr QColor kPaper(0xFF, 0xFD, 0xF5);
 
@@ -52,14 +53,14 @@ void FigureButton::paintEvent(QPaintEvent* /*event*/) {
     painter.drawPixmap((width() - kPicture.width()) / 2, kMargin,
                        Artwork(key, kPicture, devicePixelRatioF()));
 
-    const QRect name(0, card.bottom() + 1, width(), height() - card.height());
+    const QRect name(0, card.height() + kGap, width(), height() - card.height() - kGap);
     if (hasFocus()) {
         painter.setPen(QPen(palette().color(QPalette::Highlight), 1, Qt::DashLine));
         painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(Inside(name.adjusted(0, 3, 0, 0), 1), kRadius / 2, kRadius / 2);
+        painter.drawRoundedRect(Inside(name, 1), kGap, kGap);
     }
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(name.adjusted(0, 3, 0, 0), Qt::AlignCenter, text());
+    painter.drawText(name, Qt::AlignCenter, text());
 }
 
 }  // namespace numerello

@@ -3,6 +3,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
+#include <QToolButton>
 #include <utility>
 
 #include "ui/artwork.h"
@@ -102,6 +103,10 @@ void FrameCommands::MakeToolbar() {
     toolbar->setMovable(false);
     toolbar->setIconSize({kPictureSize, kPictureSize});
     toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
+    // Shows the buttons that a narrow frame has no room for.
+    auto* more = toolbar->findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"));
+    more->setAccessibleName(QStringLiteral("More commands"));
+    more->setFocusPolicy(Qt::NoFocus);
     for (const ButtonRow& row : ButtonRows()) {
         if (IsEmpty(row.key)) {
             toolbar->addSeparator();

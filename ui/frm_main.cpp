@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QTimer>
 #include <QUrl>
+#include <array>
 #include <optional>
 #include <utility>
 
@@ -63,7 +64,7 @@ class FrmMain::Loading : public LoadingForm {
 FrmMain::FrmMain(SettingsStore& store, std::string documents, std::string StartFile)
     : store(store),
       files(std::move(documents), fileDialog),
-      StartFile(StartFilePath(StartFile).empty() ? std::string() : std::move(StartFile)) {
+      startFile(StartFilePath(StartFile).empty() ? std::string() : std::move(StartFile)) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Vantrel - Numerello"));
     setMinimumSize(kSmallestSize);
@@ -97,13 +98,13 @@ Settings FrmMain::CurrentSettings() const {
             IsTicked("mnuShowLight")};
 }
 
-/// A command without a row here is not built yet, and grey.
+/// A command without a row here would stay grey.
 void FrmMain::ConnectCommands() {
     struct Row {
         const char* command;
         void (FrmMain::*procedure)();
     };
-    constexpr Row kRows[] = {
+    constexpr auto kRows = std::to_array<Row>({
         {"mnuNew", &FrmMain::mnuNew_Click},
         {"mnuPrint", &FrmMain::mnuPrint_Click},
         {"mnuPrintSetup", &FrmMain::mnuPrintSetup_Click},
@@ -130,7 +131,7 @@ void FrmMain::ConnectCommands() {
         {"mnuHomePage", &FrmMain::mnuHomePage_Click},
         {"mnuOnlineSupport", &FrmMain::mnuOnlineSupport_Click},
         {"mnuAbout", &FrmMain::mnuAbout_Click},
-    };
+    });
     for (const Row& row : kRows) {
         commands.Connect(row.command, [this, procedure = row.procedure] { (this->*procedure)(); });
     }
@@ -173,10 +174,10 @@ void FrmMain::Begin() {
     if (std::exchange(hasBegun, true)) {
         return;
     }
-    if (StartFile.empty()) {
+    if (startFile.empty()) {
         mnuNew_Click();
     } else {
-        LoadProblem(std::exchange(StartFile, {}));
+        LoadProblem(std::exchange(startFile, {}));
     }
 }
 
@@ -323,7 +324,8 @@ void FrmMain::mnuOnlineSupport_Click() {
 
 void FrmMain::OpenPage(const QUrl& page) {
     if (!QDesktopServices::openUrl(page)) {
-        status->Tell(page.toString(), kAddressTime);
+        status->Tell(QStringLiteral("This page could not be opened: ") + page.toString(),
+                     kAddressTime);
     }
 }
 

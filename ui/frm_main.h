@@ -96,7 +96,7 @@ class FrmMain : public QMainWindow {
     FrameWindows windows{problem, clock, *this};
     StatusLine* status = new StatusLine(this);
     FrmPaper* paper = nullptr;  ///< null before the first topic
-    std::string StartFile;
+    std::string startFile;
     bool hasBegun = false;
 };
 

@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <array>
 #include <span>
 
 #include "core/options.h"
@@ -27,7 +28,8 @@ struct Figure {
 };
 
 /// The first one is assistant 1.
-constexpr Figure kFigures[] = {{"wiz1", "Owl"}, {"wiz2", "Robot"}, {"wiz3", "Wizard"}};
+constexpr std::array kFigures{Figure{"wiz1", "Owl"}, Figure{"wiz2", "Robot"},
+                              Figure{"wiz3", "Wizard"}};
 
 QComboBox* AddList(QFormLayout& form, const char* name, const QString& label,
                    std::span<const std::string_view> rows, int chosen) {

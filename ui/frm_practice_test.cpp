@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,6 +17,7 @@
 #include <QTabWidget>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -33,7 +35,7 @@ constexpr int kMargin = 8;
 constexpr int kMostProblems = 18;
 constexpr int kUsualChoice = 4;  ///< 5 problems
 constexpr double kScreenShare = 0.9;
-constexpr QSize kSmallest(860, 560);
+constexpr int kSmallestHeight = 560;
 
 std::vector<TreeNode> AllNodes() {
     TopicChoice none;
@@ -71,8 +73,8 @@ FrmPracticeTest::FrmPracticeTest(TestMaker makeTest, std::optional<HeadingLines>
     right->addWidget(this->heading.group);
     right->addLayout(MakeButtons());
     auto* row = new QHBoxLayout(this);
-    row->addWidget(ssTab1, 2);
-    row->addLayout(right, 3);
+    row->addWidget(ssTab1, 1);
+    row->addLayout(right);
     resize(PreferredSize());
     treeView1->setFocus();
 }
@@ -81,10 +83,14 @@ void FrmPracticeTest::MakeTabs() {
     ssTab1 = new QTabWidget(this);
     ssTab1->setObjectName(QStringLiteral("SSTab1"));
     ssTab1->setAccessibleName(QStringLiteral("Topics"));
+    ssTab1->setMinimumWidth(WidestTopic(*this) / 2 + TopicIndentation(*this));
     ssTab1->tabBar()->setAccessibleName(QStringLiteral("Topic or index"));
 
     treeView1 = new QTreeWidget;
     FillTopicTree(*treeView1, nodes);
+    // In a narrow window captions are scrolled to and not cut.
+    treeView1->header()->setStretchLastSection(false);
+    treeView1->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     treeView1->setToolTip(QStringLiteral("Enter or a double click puts a topic into the test"));
     treeView1->setCurrentItem(treeView1->topLevelItem(0));
     connect(treeView1, &QTreeWidget::itemClicked, this,
@@ -147,7 +153,7 @@ FrmPracticeTest::Row FrmPracticeTest::MakeRow(int index, QWidget* parent) {
     row.Text4->setAccessibleName(QStringLiteral("Problem type of row %1").arg(number));
     row.Text4->setToolTip(QStringLiteral("Delete or Backspace empties the row"));
     row.Text4->setReadOnly(true);
-    row.Text4->setMinimumWidth(WidestTopic(*this) + 2 * kMargin);
+    row.Text4->setMinimumWidth(WidestTopic(*this) * 3 / 4);
     row.Text4->installEventFilter(this);
 
     row.Combo1->setObjectName(QStringLiteral("Combo1(%1)").arg(index));
@@ -178,8 +184,12 @@ QLayout* FrmPracticeTest::MakeButtons() {
     return buttons;
 }
 
+/// Room for the longest caption three folders deep beside the outline.
 QSize FrmPracticeTest::PreferredSize() const {
-    return sizeHint().expandedTo(kSmallest).boundedTo(screen()->availableSize() * kScreenShare);
+    const int topics = WidestTopic(*this) + 4 * TopicIndentation(*this) + 7 * kMargin;
+    const QSize needed(sizeHint().width() - ssTab1->sizeHint().width() + topics,
+                       std::max(sizeHint().height(), kSmallestHeight));
+    return needed.boundedTo(screen()->availableSize() * kScreenShare);
 }
 
 /// The heading is kept however the form closes.

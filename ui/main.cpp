@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <memory>
 #include <string_view>
@@ -53,7 +54,8 @@ Arguments Parse(const QCoreApplication& app) {
 
 /// Whether the answer is a text for the terminal, which needs no screen.
 bool AsksForText(int argc, char** argv) {
-    constexpr std::string_view kQuestions[] = {"-h", "--help", "--help-all", "-v", "--version"};
+    constexpr auto kQuestions =
+        std::to_array<std::string_view>({"-h", "--help", "--help-all", "-v", "--version"});
     char** const end = std::find(argv, argv + argc, std::string_view("--"));
     return std::any_of(argv + 1, std::max(argv + 1, end), [&](std::string_view argument) {
         return std::find(std::begin(kQuestions), std::end(kQuestions), argument) !=

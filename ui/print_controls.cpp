@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/text.h"
 
@@ -14,6 +15,7 @@ namespace {
 
 constexpr int kLongestHeading = 100;
 constexpr int kHeadingSize = 12;
+constexpr int kTextMargin = 3;
 constexpr std::array kHeadingNames{"First heading line", "Second heading line",
                                    "Third heading line"};
 
@@ -35,7 +37,9 @@ HeadingGroup MakeHeadingGroup(const HeadingLines& texts, QWidget* parent) {
         line->setObjectName(QStringLiteral("Text%1").arg(i + 1));
         line->setAccessibleName(QString::fromLatin1(kHeadingNames[i]));
         line->setToolTip(QStringLiteral("Printed at the top of the first page"));
-        line->setFont(QFont(QStringLiteral("VantrelFont"), kHeadingSize));
+        line->setFont(QFont(QStringLiteral("VantrelFont"),
+                            std::max(kHeadingSize, parent->font().pointSize())));
+        line->setTextMargins(kTextMargin, kTextMargin, kTextMargin, 0);
         line->setMaxLength(kLongestHeading);
         column->addWidget(line);
         heading.lines[i] = line;

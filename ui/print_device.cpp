@@ -15,6 +15,19 @@
 
 namespace numerello {
 
+namespace {
+
+QString DocumentsFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+/// What the printer dialog shows as its file until another one is named there.
+QString OfferedFile() {
+    return DocumentsFolder() + QStringLiteral("/Numerello.pdf");
+}
+
+}  // namespace
+
 PrintDevice::PrintDevice() = default;
 PrintDevice::~PrintDevice() = default;
 
@@ -49,6 +62,11 @@ QString PrintDevice::Name() const {
 void PrintDevice::mnuPrintSetup_Click(QWidget* window) {
     const PointerGuard notBusy(Qt::ArrowCursor);
     const HeldEnterGuard oneEnter;
+    // Of a file without a name the dialog would only say that it cannot be written.
+    Printer().setDocName(QStringLiteral("Numerello"));
+    if (!PrintsOnPaper() && Printer().outputFileName().isEmpty()) {
+        Printer().setOutputFileName(OfferedFile());
+    }
     QPrintDialog dialog(&Printer(), window);
     dialog.setObjectName(QStringLiteral("PrinterDialog"));
     dialog.setWindowTitle(QStringLiteral("Print Setup"));
@@ -86,12 +104,10 @@ bool PrintDevice::Print(const PrintJob& job, QWidget* window) {
 }
 
 bool PrintDevice::SavePdf(const PrintJob& job, QWidget* window) {
-    QString folder = lastFolder.isEmpty()
-                         ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
-                         : lastFolder;
+    QString folder = lastFolder.isEmpty() ? DocumentsFolder() : lastFolder;
     QString name = ToQString(job.name) + QStringLiteral(".pdf");
-    if (ChosenAsFile() && !Printer().outputFileName().isEmpty()) {
-        const QFileInfo file(Printer().outputFileName());
+    const QFileInfo file(Printer().outputFileName());
+    if (ChosenAsFile() && file.filePath() != OfferedFile()) {
         folder = file.absolutePath();
         name = file.fileName();
     }

@@ -6,7 +6,7 @@
 namespace numerello {
 
 inline QUrl WebPage(const QString& path) {
-    return QUrl(QStringLiteral("https://vantrel.example") + path);
+    return {QStringLiteral("https://vantrel.example") + path};
 }
 
 inline QUrl HomePage() {

@@ -2,6 +2,7 @@
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 
 #include <csignal>
 
@@ -143,6 +144,32 @@ TEST_F(Disk, AFullDiskLeavesTheOldFile) {
     }
     EXPECT_EQ(ContentOf(Path("a")), old);
     EXPECT_EQ(FileCount(), 1U);
+}
+
+TEST_F(Disk, AWriterThatIsKilledLeavesAWholeFile) {
+    const std::string first(400000, '1');
+    const std::string second(300000, '2');
+    Put(Path("a"), first);
+    for (int round = 0; round < 20; ++round) {
+        const pid_t writer = fork();
+        if (writer == 0) {
+            for (;;) {
+                WriteFile(Path("a"), second);
+                WriteFile(Path("a"), first);
+            }
+        }
+        ASSERT_GT(writer, 0);
+        usleep(static_cast<useconds_t>(500 * round));
+        ASSERT_EQ(kill(writer, SIGKILL), 0);
+        int status = 0;
+        ASSERT_EQ(waitpid(writer, &status, 0), writer);
+        ASSERT_TRUE(WIFSIGNALED(status)) << round;
+        const std::string content = ContentOf(Path("a"));
+        ASSERT_TRUE(content == first || content == second) << round << ' ' << content.size();
+    }
+    // What the killed ones left behind is in nobody's way.
+    WriteFile(Path("a"), "third");
+    EXPECT_EQ(ContentOf(Path("a")), "third");
 }
 
 TEST_F(Disk, AFolderThatMayNotBeWrittenKeepsItsFiles) {

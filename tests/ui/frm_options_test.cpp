@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -159,6 +160,26 @@ TEST_F(Options, ArrowKeysChooseAFigure) {
     EXPECT_EQ(settings.whichAssistant, 2);
     PressKey(*dialog, Qt::Key_Return);
     EXPECT_EQ(dialog->result(), QDialog::Accepted);
+}
+
+TEST_F(Options, NothingIsCutByALargeInterfaceFont) {
+    const QFont usual = QApplication::font();
+    QFont large = usual;
+    large.setPixelSize(26);
+    QApplication::setFont(large);
+    Open();
+    int seen = 0;
+    for (const QWidget* control : dialog->findChildren<QWidget*>()) {
+        if (qobject_cast<const QLabel*>(control) != nullptr ||
+            qobject_cast<const QAbstractButton*>(control) != nullptr) {
+            EXPECT_GE(control->width(), control->sizeHint().width());
+            EXPECT_GE(control->height(), control->sizeHint().height());
+            EXPECT_TRUE(control->parentWidget()->rect().contains(control->geometry()));
+            ++seen;
+        }
+    }
+    QApplication::setFont(usual);
+    EXPECT_EQ(seen, 2 + 2 + 3 + 2);
 }
 
 TEST_F(Options, EachFigureHasAPictureAndAFrameWhenChosen) {

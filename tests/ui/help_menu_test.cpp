@@ -53,7 +53,8 @@ TEST_F(HelpMenu, EachWebCommandOpensItsPage) {
 TEST_F(HelpMenu, WithoutABrowserTheAddressIsShown) {
     Command("mnuAlgSol").trigger();
     EXPECT_TRUE(Status().isVisible());
-    EXPECT_EQ(Status().currentMessage(), "https://vantrel.example/numerello.htm");
+    EXPECT_TRUE(Status().currentMessage().endsWith(
+        QStringLiteral(" https://vantrel.example/numerello.htm")));
 }
 
 TEST_F(HelpMenu, AboutNamesTheProgramAndTheComputer) {

@@ -5,6 +5,7 @@
 
 #include "tests/ui/printed_forms.h"
 #include "ui/export_pdf.h"
+#include "ui/print_job.h"
 
 namespace numerello {
 namespace {
@@ -14,12 +15,12 @@ const QString kEquation =
 
 class Export : public testing::Test {
   protected:
-    int Run(const QString& line, const GraphOf& graphOf = {}) {
+    int Run(const QString& line) {
         QFile file(Problem());
         file.open(QIODevice::WriteOnly);
         file.write(line.toUtf8());
         file.close();
-        return ExportPdf(Pdf(), Problem(), message, graphOf);
+        return ExportPdf(Pdf(), Problem(), message);
     }
 
     QString Problem() const { return folder.filePath("problem.nrl"); }
@@ -75,18 +76,23 @@ TEST_F(Export, TellsOfAFileThatCannotBeWritten) {
     EXPECT_NE(message.find("/proc/none.pdf"), std::string::npos) << message;
 }
 
-TEST_F(Export, PaintsAGraphWhereThereIsOne) {
-    const QString point =
-        "Plotting A Point BB (3,4) BB  BB  BB  BB  BB  BB  BB -1 BB -1 BB 0 BB 108";
-    EXPECT_EQ(Run(point), 1) << "the graph is all there is";
-    EXPECT_FALSE(QFile::exists(Pdf()));
-    int painted = 0;
-    const auto graphOf = [&](const numerello::Problem&) {
-        return GraphPainter([&](QPainter&, QRectF) { ++painted; });
-    };
-    EXPECT_EQ(Run(point, graphOf), 0) << message;
-    EXPECT_EQ(painted, 1);
-    EXPECT_EQ(PagesOfPdf(Pdf()), 1);
+TEST_F(Export, PaintsAGraphOnItsPage) {
+    EXPECT_EQ(Run("Plotting A Point BB (3,4) BB  BB  BB  BB  BB  BB  BB -1 BB -1 BB 0 BB 108"), 0)
+        << message;
+    EXPECT_EQ(PagesOfPdf(Pdf()), 1) << "the graph is all there is";
+    const QStringList lines = LinesOfPdf(Pdf());
+    EXPECT_EQ(lines.mid(0, 2), (QStringList{"Vantrel Numerello", "Plotting A Point"}));
+    // The range stands at the ends of the axes.
+    EXPECT_TRUE(lines.join(u' ').contains("-20"));
+}
+
+TEST_F(Export, PutsAGraphBehindTheLinesOfItsProblem) {
+    EXPECT_EQ(
+        Run("Graphing A Linear Equation BB y=2x+1 BB  BB  BB  BB  BB  BB  BB -1 BB -1 BB 0 BB 105"),
+        0)
+        << message;
+    EXPECT_EQ(PagesOfPdf(Pdf()), 2);
+    EXPECT_TRUE(LinesOfPdf(Pdf()).contains("y=2x+1"));
 }
 
 TEST_F(Export, NeedsOneProblemFile) {

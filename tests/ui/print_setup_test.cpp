@@ -198,12 +198,26 @@ TEST_F(PrintOptions, CancelledSetupChangesNothing) {
     EXPECT_EQ(device.Paper().width, before.width);
 }
 
-TEST_F(PrintOptions, SetupNamesWhatWasChosen) {
+TEST_F(PrintOptions, SetupNamesWhatWasChosenAndPrintAsksForThatFile) {
     Open();
-    const WhenDialogOpens dialog("PrinterDialog",
-                                 [](QWidget& window) { PressButton(window, "OK"); });
-    Click(Button("Command3"));
+    const QString chosen = folder.filePath("chosen.pdf");
+    {
+        const WhenDialogOpens dialog("PrinterDialog", [&](QWidget& window) {
+            EXPECT_EQ(window.windowTitle(), "Print Setup");
+            Find<QLineEdit>(window, "filename").setText(chosen);
+            PressButton(window, "OK");
+        });
+        Click(Button("Command3"));
+    }
     EXPECT_EQ(Find<QLabel>(*form, "Label1").text(), "Print to File (PDF)");
+    EXPECT_TRUE(QDir(folder.path()).isEmpty()) << "a setup prints nothing";
+    const WhenDialogOpens dialog("CommonDialog1", [&](QWidget& window) {
+        EXPECT_EQ(Find<QLineEdit>(window, "fileNameEdit").text(), "chosen.pdf");
+        PressKey(window, Qt::Key_Return);
+    });
+    Click(Button("Command2"));
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_TRUE(QFile::exists(chosen));
 }
 
 TEST_F(PrintOptions, NameEveryControl) {

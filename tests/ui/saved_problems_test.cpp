@@ -186,6 +186,21 @@ TEST_F(SavedProblems, AListBesideALineComesBack) {
     EXPECT_EQ(SheetText(), sheet);
 }
 
+TEST_F(SavedProblems, APointerIsNotBusyOverAMessage) {
+    Put(QStringLiteral("zero.nrl"),
+        "Arithmetic BB 4/0 BB  BB  BB  BB  BB  BB  BB -1 BB -1 BB 0 BB 91\n");
+    const WhenDialogOpens message(QStringLiteral("MessageBox"), [](QWidget& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Division by 0!");
+        EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::ArrowCursor);
+        PressButton(dialog, QStringLiteral("OK"));
+    });
+    Drop(File(QStringLiteral("zero.nrl")));
+    EXPECT_EQ(Now().typed.ProblemText, "4/0");
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_TRUE(Command("mnuSave").isEnabled());
+    EXPECT_FALSE(Command("mnuSolve").isEnabled());
+}
+
 TEST_F(SavedProblems, BoxesThatAreNotReadyStayUnsolved) {
     Put(QStringLiteral("half.nrl"),
         "Area of a Triangle BB  BB  BB 4 BB  BB  BB  BB  BB -1 BB -1 BB 0 BB 8\n");

@@ -1,0 +1,98 @@
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QPixmap>
+#include <vector>
+
+#include "app/solvers.h"
+#include "ui/frm_print_preview.h"
+#include "ui/test_maker.h"
+
+namespace numerello {
+namespace {
+
+constexpr Date kDay{.year = 2026, .month = 11, .day = 21};
+
+class NoLearner : public Learner {
+  public:
+    void MessageBox(std::string_view, std::string_view) override {}
+    bool Confirm(std::string_view, std::string_view) override { return false; }
+    std::optional<std::string> InputBox(std::string_view, std::string_view) override { return {}; }
+};
+
+/// As long as the outline allows: ten topics, 18 problems each.
+std::vector<TestRow> LongestOutline() {
+    std::vector<TestRow> rows;
+    for (const char* topic : {"Addition", "Division", "Arithmetic", "Fraction Arithmetic",
+                              "Calculating Roots", "Solving Equations", "Simplifying Polynomials",
+                              "Means (Averages)", "Rounding", "Volume of a Cylinder"}) {
+        rows.push_back({topic, 18, true});
+    }
+    return rows;
+}
+
+struct Office {
+    SystemClock clock;
+    AnswerSettings settings;
+    TestMaker makeTest = MakerOfTests(clock, settings);
+    HeadingLines heading = HeadingAtOpening("Practice Test", kDay);
+    PrintDevice device;
+    NoLearner learner;
+
+    MadeTest Make() const { return makeTest(LongestOutline()); }
+
+    qsizetype Pdf(const PrintJob& job) {
+        const ComposedJob composed(job, kA4, learner);
+        return PdfOf(composed, UsualLayout(), job.name).size();
+    }
+};
+
+/// From the press of the button to the file: made up, previewed, shown and written.
+void TestMadePreviewedAndWritten(benchmark::State& state) {
+    Office office;
+    for (auto _ : state) {
+        Previewed preview = PreviewOfTest(office.heading, office.Make(), kDay);
+        const PrintJob job = preview.job;
+        FrmPrintPreview form(std::move(preview), office.device);
+        benchmark::DoNotOptimize(form.grab());
+        benchmark::DoNotOptimize(office.Pdf(job));
+    }
+}
+BENCHMARK(TestMadePreviewedAndWritten)->Unit(benchmark::kMillisecond);
+
+void KeyWorkedAndWritten(benchmark::State& state) {
+    Office office;
+    const MadeTest test = office.Make();
+    for (auto _ : state) {
+        const Previewed preview = PreviewOfKey(office.heading, test.AnswerKey(), kDay);
+        benchmark::DoNotOptimize(office.Pdf(preview.job));
+    }
+}
+BENCHMARK(KeyWorkedAndWritten)->Unit(benchmark::kMillisecond);
+
+/// A click on Next Page until the page is painted.
+void PageTurned(benchmark::State& state) {
+    Office office;
+    FrmPrintPreview form(PreviewOfTest(office.heading, office.Make(), kDay), office.device);
+    form.show();
+    const auto pictures = form.findChildren<PreviewPicture*>();
+    qsizetype page = 0;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(pictures[page]->grab());
+        page = (page + 1) % pictures.size();
+    }
+}
+BENCHMARK(PageTurned)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace numerello
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication app(argc, argv);
+    if (!numerello::LoadSheetFont()) {
+        return 1;
+    }
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+}

@@ -2,7 +2,6 @@
 #include "core/topic_codes.h"
 
 #include <algorithm>
-#include <optional>
 #include <string>
 
 #include "columns/steps.h"
@@ -11,17 +10,11 @@
 #include "core/topic_codes.h"
 #include "output/print_line.h"
 #include "output/print_scale.h"
+#include "output/silent_learner.h"
 
 namespace numerello {
 
 namespace {
-
-class SilentLearner : public Learner {
-  public:
-    void MessageBox(std::string_view, std::string_view) override {}
-    bool Confirm(std::string_view, std::string_view) override { return false; }
-    std::optional<std::string> InputBox(std::string_view, std::string_view) override { return {}; }
-};
 
 /// The signs of the four topics, by their codes from 200.
 constexpr std::string_view kSigns = "+-*{";

@@ -51,8 +51,8 @@ TEST(AnswerKey, DrawsColumnProblems) {
     Print({sum, Worked("2) 2+3", {"2+3", "5"})}, printer);
     const std::vector<Row> rows = RowsOf(printer.surface.Marks());
     ExpectRow(rows, 3, {"1)47+38", 12, kFirstBase});
-    // The sum stands a line and 338.4 - 283 below the problem, the next problem two lines lower.
-    const double answer = kFirstBase + kLine + kLine + 338.4 - 283;
+    // The sum stands a line and 338.4 - 283.4 below the problem, the next problem two lines lower.
+    const double answer = kFirstBase + kLine + kLine + 338.4 - 283.4;
     const auto isAnswer = [&](const Row& row) { return std::abs(row.y - answer) < 1e-6; };
     EXPECT_TRUE(std::any_of(rows.begin(), rows.end(), isAnswer));
     ExpectRow(rows, rows.size() - 2, {"2)2+3", 12, answer + 2 * kLine + 12});

@@ -2,7 +2,6 @@
 #include "core/topic_codes.h"
 
 #include <algorithm>
-#include <optional>
 #include <string>
 
 #include "columns/steps.h"
@@ -11,17 +10,11 @@
 #include "core/topic_codes.h"
 #include "output/print_line.h"
 #include "output/print_scale.h"
+#include "output/silent_learner.h"
 
 namespace numerello {
 
 namespace {
-
-class SilentLearner : public Learner {
-  public:
-    void MessageBox(std::string_view, std::string_view) override {}
-    bool Confirm(std::string_view, std::string_view) override { return false; }
-    std::optional<std::string> InputBox(std::string_view, std::string_view) override { return {}; }
-};
 
 /// The signs of the four topics, by their codes from 200.
 constexpr std::string_view kSigns = "+-*{";
@@ -39,25 +32,41 @@ double LineHeight(Surface probe, double points) {
     return probe.CurrentY - top;
 }
 
-/// The Y below the lowest mark that printing here would leave.
-double EndOfColumns(const Problem& problem, Surface probe) {
+/// From the top of the highest text to the end of the lowest.
+struct Extent {
+    double top;
+    double end;
+};
+
+/// What printing at the pen would take.
+Extent ExtentOfColumns(const Problem& problem, Surface probe) {
     const std::size_t before = probe.Marks().size();
     SilentLearner silent;
     PrintColumns(problem, probe, silent);
-    double end = probe.CurrentY;
+    Extent extent{PrintScale::kHeight, 0};
     for (std::size_t i = before; i < probe.Marks().size(); ++i) {
         if (const auto* const text = std::get_if<TextMark>(&probe.Marks()[i])) {
-            end = std::max(end, text->y + LineHeight(probe, text->font.size));
+            extent.top = std::min(extent.top, text->y);
+            extent.end = std::max(extent.end, text->y + LineHeight(probe, text->font.size));
         }
     }
-    return end;
+    return extent;
+}
+
+/// The layout leaves room for carries that a problem need not have: the pen goes up by that much,
+/// and the highest text stands a line below where the pen was. Gives the end of the lowest.
+double PlaceColumns(const Problem& problem, Surface& Printer) {
+    const Extent extent = ExtentOfColumns(problem, Printer);
+    const double unused = extent.top - Printer.CurrentY - LineHeight(Printer, Printer.FontSize());
+    Printer.CurrentY -= unused;
+    return extent.end - unused;
 }
 
 void Print(const Problem& problem, Surface& Printer, Learner& learner) {
-    double end = EndOfColumns(problem, Printer);
+    double end = PlaceColumns(problem, Printer);
     if (end > PrintScale::kHeight) {
         Printer.NewPage();
-        end = EndOfColumns(problem, Printer);
+        end = PlaceColumns(problem, Printer);
     }
     PrintColumns(problem, Printer, learner);
     Printer.CurrentX = 0;

@@ -4,6 +4,8 @@
 #include "core/topic_codes.h"
 #include "output/print_columns.h"
 #include "output/print_line.h"
+#include "output/silent_learner.h"
+#include "typeset/variants.h"
 
 namespace numerello {
 
@@ -34,6 +36,28 @@ void PrintWorking(const WorkedProblem& worked, Surface& Printer, Learner& learne
     }
 }
 
+void PrintProblem(const WorkedProblem& worked, Surface& Printer, Learner& learner) {
+    PrintWholeLine(worked.line, Printer, false, learner);
+    PrintWorking(worked, Printer, learner);
+}
+
+/// Begins a page before a problem, the first one excepted, that does not fit the rest of this one
+/// but would fit a page of its own. `blank` is a page of the same kind without a mark, its pen at
+/// the top.
+void KeepTogether(const WorkedProblem& worked, Surface& Printer, Surface blank) {
+    const double top = blank.CurrentY;
+    PrintEmptyLine(blank);
+    const double limit = kPrintVariant.page->limit + blank.CurrentY - top;
+    blank.CurrentY = top;
+    SilentLearner silent;
+    PrintProblem(worked, blank, silent);
+    const bool fitsPage = blank.PageCount() == 1;
+    if (fitsPage && Printer.CurrentY + blank.CurrentY - top > limit) {
+        Printer.NewPage();
+        Printer.CurrentY = top;
+    }
+}
+
 }  // namespace
 
 std::vector<std::string> KeyLines(const WorkedProblem& worked) {
@@ -48,13 +72,17 @@ std::vector<std::string> KeyLines(const WorkedProblem& worked) {
 std::vector<int> PrintAnswerKey(const HeadingLines& heading,
                                 std::span<const WorkedProblem> problems, Surface& Printer,
                                 Learner& learner) {
+    Surface blank = Printer;
+    blank.CurrentY = kPrintVariant.page->baseY - kPrintVariant.startDrop.At(blank.FontSize());
     PrintHeading(heading, Printer);
     PrintEmptyLine(Printer);
     std::vector<int> pages;
     for (const WorkedProblem& worked : problems) {
-        PrintWholeLine(worked.line, Printer, false, learner);
+        if (!pages.empty()) {
+            KeepTogether(worked, Printer, blank);
+        }
         pages.push_back(Printer.PageCount() - 1);
-        PrintWorking(worked, Printer, learner);
+        PrintProblem(worked, Printer, learner);
         PrintEmptyLine(Printer);
     }
     return pages;

@@ -11,8 +11,8 @@
 namespace numerello {
 
 /// Prints what a practice test's problems come to: each with its number, its worked lines below it.
-/// `Printer` is an empty print surface in the sheets' face at 12 points. Gives the page, from 0,
-/// that each problem begins on.
+/// A problem that fits a page is not torn. `Printer` is an empty print surface in the sheets' face
+/// at 12 points. Gives the page, from 0, that each problem begins on.
 std::vector<int> PrintAnswerKey(const HeadingLines& heading,
                                 std::span<const WorkedProblem> problems, Surface& Printer,
                                 Learner& learner);

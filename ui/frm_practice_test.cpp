@@ -74,7 +74,7 @@ FrmPracticeTest::FrmPracticeTest(TestMaker makeTest, std::optional<HeadingLines>
     right->addLayout(MakeButtons());
     auto* row = new QHBoxLayout(this);
     row->addWidget(ssTab1, 1);
-    row->addLayout(right);
+    row->addLayout(right, 1);
     resize(PreferredSize());
     treeView1->setFocus();
 }
@@ -184,10 +184,12 @@ QLayout* FrmPracticeTest::MakeButtons() {
     return buttons;
 }
 
-/// Room for the longest caption three folders deep beside the outline.
+/// Room for the longest caption three folders deep and in the outline.
 QSize FrmPracticeTest::PreferredSize() const {
     const int topics = WidestTopic(*this) + 4 * TopicIndentation(*this) + 7 * kMargin;
-    const QSize needed(sizeHint().width() - ssTab1->sizeHint().width() + topics,
+    const int outline = rows.front().Text4->parentWidget()->minimumSizeHint().width() +
+                        WidestTopic(*this) / 4 + 2 * kMargin;
+    const QSize needed(topics + outline + 4 * kMargin,
                        std::max(sizeHint().height(), kSmallestHeight));
     return needed.boundedTo(screen()->availableSize() * kScreenShare);
 }

@@ -123,6 +123,8 @@ void FrmPrintPreview::MakeShortcuts() {
             &FrmPrintPreview::Command4_Click);
     connect(new QShortcut(Qt::Key_PageDown, this), &QShortcut::activated, this,
             &FrmPrintPreview::Command5_Click);
+    connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, this,
+            &FrmPrintPreview::Command1_Click);
 }
 
 /// Draws all pages for the paper in the printer.

@@ -26,7 +26,8 @@ QTreeWidgetItem* MakeItem(const TreeNode& node, QTreeWidget& tree, QTreeWidgetIt
     auto* item = folder == nullptr ? new QTreeWidgetItem(&tree) : new QTreeWidgetItem(folder);
     item->setText(0, ToQString(node.caption));
     item->setIcon(0, ArtworkIcon(ToQString(node.image)));
-    item->setSizeHint(0, {0, TopicRowHeight(tree)});
+    const int width = PictureSize(tree) + tree.fontMetrics().horizontalAdvance(item->text(0));
+    item->setSizeHint(0, {width + 2 * kRowPadding, TopicRowHeight(tree)});
     return item;
 }
 

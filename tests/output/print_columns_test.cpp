@@ -61,10 +61,25 @@ TEST(PrintedColumns, LeaveThePenBelowTheirLastRow) {
             lowest = std::max(lowest, text->y);
         }
     }
-    // With plain metrics the sum stands 338.4 - 283 below the first row, which is a line down.
-    EXPECT_NEAR(lowest, kLine + 338.4 - 283, 1e-6);
+    // With plain metrics the sum stands 338.4 - 283.4 below the carry, which is a line down.
+    EXPECT_NEAR(lowest, kLine + 338.4 - 283.4, 1e-6);
     EXPECT_NEAR(printer.surface.CurrentY, lowest + kLine, 1e-6);
     EXPECT_EQ(printer.surface.CurrentX, 0);
+}
+
+TEST(PrintedColumns, BeginALineBelowThePenWhateverCarriesTheyHave) {
+    for (const Case& each : {Case{200, "12", "34"}, Case{201, "523", "347"}, Case{202, "12", "3"},
+                             Case{202, "99999", "98765"}, Case{203, "95", "7"}}) {
+        PlainPrinter printer;
+        printer.surface.CurrentY = 100;
+        PrintWholeColumns(ColumnProblem(each.code, each.top, each.bottom), printer.surface,
+                          printer.learner);
+        double highest = 600;
+        for (const Row& row : RowsOf(printer.surface.Marks())) {
+            highest = std::min(highest, row.y);
+        }
+        EXPECT_NEAR(highest, 100 + kLine, 1e-6) << each.top << " and " << each.bottom;
+    }
 }
 
 TEST(PrintedColumns, BeginANewPageWhereTheyDoNotFit) {

@@ -184,6 +184,14 @@ TEST_F(Preview, SavesAPdfBesidePrinting) {
     EXPECT_TRUE(form->isVisible());
 }
 
+TEST_F(Preview, PrintsByTheUsualKey) {
+    Open(Sums(3));
+    const QString file = folder.filePath("test.pdf");
+    const WhenDialogOpens dialog("CommonDialog1", SaveAs(file));
+    PressKey(*form, Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(LinesOfPdf(file).size(), 3 + 1 + 3);
+}
+
 TEST_F(Preview, TellsOfAFailedFile) {
     Open(Sums(3));
     const WhenDialogOpens dialog("CommonDialog1", SaveAs("/proc/none.pdf"));

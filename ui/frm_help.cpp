@@ -80,7 +80,6 @@ QStringList WordsOf(const QString& query) {
 FrmHelp::FrmHelp(QWidget* parent)
     : QWidget(parent, Qt::Window), index(ContentsText()), view(new HelpView(this)) {
     LoadSheetFont();
-    TellHelp();
     setObjectName(QStringLiteral("frmHelp"));
     setWindowTitle(QStringLiteral("Numerello Help"));
     view->setObjectName(QStringLiteral("page"));

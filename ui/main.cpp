@@ -8,6 +8,7 @@
 #include <array>
 #include <chrono>
 #include <memory>
+#include <optional>
 #include <string_view>
 
 #include "ui/artwork.h"
@@ -25,9 +26,9 @@ using numerello::FrmMain;
 
 struct Arguments {
     bool splash = true;
-    std::string StartFile;   ///< what is no option, joined by blanks
-    QStringList positional;  ///< the same, each for itself
-    QString pdf;             ///< file to export to; empty for the window
+    std::string StartFile;       ///< what is no option, joined by blanks
+    QStringList positional;      ///< the same, each for itself
+    std::optional<QString> pdf;  ///< file to export to; none for the window
 };
 
 /// Prints what --help and --version ask for and ends the program; so it does for unknown options.
@@ -49,7 +50,8 @@ Arguments Parse(const QCoreApplication& app) {
     parser.process(app);
     const QString file = parser.positionalArguments().join(u' ').trimmed();
     return {!parser.isSet(noSplash) && file.isEmpty(), file.toStdString(),
-            parser.positionalArguments(), parser.value(exports)};
+            parser.positionalArguments(),
+            parser.isSet(exports) ? std::optional(parser.value(exports)) : std::nullopt};
 }
 
 /// Whether the answer is a text for the terminal, which needs no screen.
@@ -125,9 +127,10 @@ int main(int argc, char** argv) {
         qCritical("The font of the sheets cannot be loaded.");
         return 1;
     }
-    if (!arguments.pdf.isEmpty()) {
-        return numerello::ExportPdf(arguments.pdf, arguments.positional);
+    if (arguments.pdf) {
+        return numerello::ExportPdf(*arguments.pdf, arguments.positional);
     }
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.example.numerello"));
     numerello::WatchDesktopMotion();
     QApplication::setWindowIcon(numerello::ArtworkIcon(QStringLiteral("icon")));
     numerello::SettingsFile store(numerello::SettingsFile::UsualPath());

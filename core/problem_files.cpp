@@ -1,5 +1,6 @@
 #include "core/problem_files.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/problem_file.h"
@@ -15,12 +16,19 @@ constexpr std::string_view kExtension = "nrl";
 constexpr std::string_view kSaveTitle = "Save Problem As";
 constexpr std::string_view kLoadTitle = "Load Problem";
 
-std::string WithExtension(const std::string& path) {
-    const bool hasOne = FileName(path).find('.') != std::string::npos;
-    return hasOne ? path : Text(path, ".", kExtension);
+char Lower(char character) {
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
+                                                : character;
 }
 
 }  // namespace
+
+bool HasExtension(std::string_view path, std::string_view extension) {
+    const std::string end = Text(".", extension);
+    return path.size() >= end.size() &&
+           std::equal(end.rbegin(), end.rend(), path.rbegin(),
+                      [](char one, char other) { return Lower(one) == Lower(other); });
+}
 
 ProblemFiles::ProblemFiles(std::string documents, FileDialog& dialog)
     : documents(std::move(documents)), dialog(dialog) {
@@ -35,7 +43,8 @@ bool ProblemFiles::SaveProblemFile(std::string_view line, std::string_view sugge
         if (!chosen) {
             return false;
         }
-        const std::string path = WithExtension(*chosen);
+        const std::string path =
+            HasExtension(*chosen, kExtension) ? *chosen : Text(*chosen, ".", kExtension);
         if (path == *chosen || !Exists(path)) {
             WriteFile(path, Text(line, "\n"));
             return true;

@@ -17,7 +17,7 @@ struct FileDialogSettings {
     bool saves = false;
     std::string_view title;
     std::string_view filter;            ///< its name and, behind a "|", the pattern
-    std::string_view defaultExtension;  ///< for a name that has none
+    std::string_view defaultExtension;  ///< for a saved name that does not end in it
     std::string folder;
     std::string suggestedName;
 };
@@ -29,6 +29,9 @@ class FileDialog {
     /// The path chosen, nothing when the learner cancels.
     virtual std::optional<std::string> Show(const FileDialogSettings& settings) = 0;
 };
+
+/// Whether a path ends in a point and the extension, in whatever case.
+bool HasExtension(std::string_view path, std::string_view extension);
 
 /// Saving and loading the texts of problem files. Knows in which folder the next dialog opens: that
 /// of saved problems, which is made when it is missing, or the folder used last.

@@ -1,6 +1,8 @@
 #include "ui/window_file_dialog.h"
 
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
 
 #include "ui/held_enter.h"
 #include "ui/pointer.h"
@@ -16,12 +18,41 @@ QString NameFilter(std::string_view filter) {
     return QStringLiteral("%1 (%2)").arg(parts.front(), parts.back());
 }
 
+/// Gives a typed name its extension before the dialog asks about overwriting a file of that name.
+/// The suffix that the toolkit would add is left out behind any name with a point in it.
+class NamingDialog : public QFileDialog {
+  public:
+    using QFileDialog::QFileDialog;
+
+    void accept() override {
+        CompleteName();
+        QFileDialog::accept();
+    }
+
+  private:
+    void CompleteName() {
+        // A dialog of the desktop's own has no such field; its names are completed when it is over.
+        auto* edit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        const QStringList files = selectedFiles();
+        if (acceptMode() != AcceptSave || edit == nullptr || files.size() != 1) {
+            return;
+        }
+        // A folder is entered.
+        const std::string typed = edit->text().toStdString();
+        if (typed.empty() || QFileInfo(files.constFirst()).isDir() ||
+            HasExtension(typed, defaultSuffix().toStdString())) {
+            return;
+        }
+        edit->setText(edit->text() + u'.' + defaultSuffix());
+    }
+};
+
 }  // namespace
 
 std::optional<std::string> WindowFileDialog::Show(const FileDialogSettings& settings) {
     const PointerGuard notBusy(Qt::ArrowCursor);
     const HeldEnterGuard oneEnter;
-    QFileDialog dialog(window, ToQString(settings.title), ToQString(settings.folder));
+    NamingDialog dialog(window, ToQString(settings.title), ToQString(settings.folder));
     dialog.setObjectName(QStringLiteral("CommonDialog1"));
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setNameFilter(NameFilter(settings.filter));

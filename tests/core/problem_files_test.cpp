@@ -115,13 +115,14 @@ TEST_F(ProblemFilesTest, CancelSavesNothingAndSaysNothing) {
     EXPECT_TRUE(std::filesystem::is_empty(Saved()));
 }
 
-TEST_F(ProblemFilesTest, ANameWithoutAnExtensionGetsOne) {
+TEST_F(ProblemFilesTest, ANameWithoutTheExtensionGetsIt) {
     ProblemFiles files(folder, dialog);
-    dialog.choices = {Saved("mine"), Saved("other.txt"), Path("Numerello/with.point/mine")};
-    EXPECT_TRUE(mnuSave_Click(problem, files, clock, learner));
-    EXPECT_TRUE(mnuSave_Click(problem, files, clock, learner));
-    EXPECT_EQ(ContentOf(Saved("mine.nrl")), kLine);
-    EXPECT_EQ(ContentOf(Saved("other.txt")), kLine);
+    dialog.choices = {Saved("mine"), Saved("Test 21.11.26"), Saved("LOUD.NRL"), Saved("nrl"),
+                      Path("Numerello/with.point/mine")};
+    for (const char* name : {"mine.nrl", "Test 21.11.26.nrl", "LOUD.NRL", "nrl.nrl"}) {
+        EXPECT_TRUE(mnuSave_Click(problem, files, clock, learner));
+        EXPECT_EQ(ContentOf(Saved(name)), kLine) << name;
+    }
     std::filesystem::create_directory(Path("Numerello/with.point"));
     EXPECT_TRUE(mnuSave_Click(problem, files, clock, learner));
     EXPECT_EQ(ContentOf(Path("Numerello/with.point/mine.nrl")), kLine);
@@ -139,6 +140,11 @@ TEST_F(ProblemFilesTest, ANameThatBecomesThatOfAFileIsAskedAboutOnceMore) {
     dialog.choices = {Saved("mine"), Saved("mine.nrl")};
     EXPECT_TRUE(mnuSave_Click(problem, files, clock, learner));
     EXPECT_EQ(ContentOf(Saved("mine.nrl")), kLine);
+
+    Put(Saved("21.11.26.nrl"), "old");
+    dialog.choices = {Saved("21.11.26")};
+    EXPECT_FALSE(mnuSave_Click(problem, files, clock, learner));
+    EXPECT_EQ(ContentOf(Saved("21.11.26.nrl")), "old");
 }
 
 TEST_F(ProblemFilesTest, AFileThatCannotBeWrittenIsTold) {

@@ -4,7 +4,6 @@
 #include <QComboBox>
 #include <QDate>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -287,6 +286,51 @@ TEST_F(SavedProblems, AnOverwriteIsAsked) {
     EXPECT_EQ(ContentOf(QStringLiteral("old.nrl")), "old");
 }
 
+TEST_F(SavedProblems, AnOverwriteIsAskedUnderTheNameThatIsWritten) {
+    Put(QStringLiteral("Test 21.11.26.nrl"), "old");
+    Choose(QStringLiteral("Arithmetic"));
+    Type(QStringLiteral("4+3*2"));
+    Enter();
+    const WhenDialogOpens question(
+        [](const QWidget& window) { return qobject_cast<const QMessageBox*>(&window) != nullptr; },
+        [](QWidget& dialog) {
+            EXPECT_TRUE(dynamic_cast<QMessageBox&>(dialog).text().contains(
+                QStringLiteral("Test 21.11.26.nrl")));
+            PressKey(dialog, Qt::Key_Escape);
+        },
+        QStringLiteral("question"));
+    const WhenDialogOpens chooser(QStringLiteral("CommonDialog1"), [](QWidget& dialog) {
+        EnterName(dialog, QStringLiteral("Test 21.11.26"));
+        PressKey(dialog, Qt::Key_Escape);
+    });
+    Command("mnuSave").trigger();
+    EXPECT_EQ(ContentOf(QStringLiteral("Test 21.11.26.nrl")), "old");
+}
+
+TEST_F(SavedProblems, ANameWithPointsIsSeenAgain) {
+    Choose(QStringLiteral("Arithmetic"));
+    Type(QStringLiteral("4+3*2"));
+    Enter();
+    Save(QStringLiteral("Test 21.11.26"));
+    EXPECT_EQ(ContentOf(QStringLiteral("Test 21.11.26.nrl")), kArithmetic);
+    Save(QStringLiteral("Loud.NRL"));
+    EXPECT_EQ(ContentOf(QStringLiteral("Loud.NRL")), kArithmetic);
+    EXPECT_EQ(QDir(Folder()).entryList({QStringLiteral("*.nrl")}).size(), 2);
+}
+
+TEST_F(SavedProblems, AFolderThatIsTypedIsEntered) {
+    QDir(Folder()).mkdir(QStringLiteral("June 1.6"));
+    Choose(QStringLiteral("Arithmetic"));
+    Type(QStringLiteral("4+3*2"));
+    Enter();
+    const WhenDialogOpens chooser(QStringLiteral("CommonDialog1"), [](QWidget& dialog) {
+        EnterName(dialog, QStringLiteral("June 1.6"));
+        EnterName(dialog, QStringLiteral("mine"));
+    });
+    Command("mnuSave").trigger();
+    EXPECT_EQ(ContentOf(QStringLiteral("June 1.6/mine.nrl")), kArithmetic);
+}
+
 TEST_F(SavedProblems, AFileThatCannotBeWrittenIsTold) {
     Choose(QStringLiteral("Arithmetic"));
     Type(QStringLiteral("4+3*2"));
@@ -380,16 +424,13 @@ TEST_F(SavedProblems, NothingIsDroppedBehindADialog) {
     EXPECT_EQ(frame.findChild<QWidget*>(QStringLiteral("frmPaper")), nullptr);
 }
 
-TEST_F(SavedProblems, ALongLineIsLoadedAtOnce) {
+TEST_F(SavedProblems, ALineThatIsTooLongIsLoadedAsFarAsItGoes) {
     const QByteArray keys = QByteArray("7+").repeated(2400);
     const QString file =
         Put(QStringLiteral("long.nrl"),
             "Arithmetic BB " + keys + "7 BB  BB  BB  BB  BB  BB  BB -1 BB -1 BB 0 BB 91\n");
-    QElapsedTimer timer;
-    timer.start();
     Drop(file);
-    EXPECT_LT(timer.elapsed(), 3000);
-    EXPECT_GT(Now().typed.ProblemText.size(), 10U);
+    EXPECT_TRUE(Now().typed.ProblemText.starts_with("7+7+7+7+7+7"));
 }
 
 /// The program as it is started from a terminal or a file manager.

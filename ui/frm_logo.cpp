@@ -19,10 +19,13 @@ constexpr QColor kInk(0x2B, 0x3A, 0x55);
 
 }  // namespace
 
-FrmLogo::FrmLogo() : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint) {
+// Window managers give no focus to a window of the splash type, and a key could not close it.
+FrmLogo::FrmLogo() : QWidget(nullptr, Qt::Dialog | Qt::FramelessWindowHint) {
     setObjectName(QStringLiteral("frmLogo"));
     setWindowTitle(QStringLiteral("Vantrel - Numerello"));
     setAccessibleName(QStringLiteral("Numerello"));
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setFocusPolicy(Qt::StrongFocus);
     setFixedSize(kSize);
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     move(screen.center() - rect().center());

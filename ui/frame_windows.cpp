@@ -11,6 +11,8 @@ FrameWindows::FrameWindows(const Problem& problem, const Clock& clock, QMainWind
     connect(&graphs, &GraphHolder::PrintAsked, this, [this] { ShowPrintSetupOver(graphs.Form()); });
     connect(&graphs, &GraphHolder::PrintSetupAsked, this,
             [this] { device.mnuPrintSetup_Click(graphs.Form()); });
+    connect(&graphs, &GraphHolder::HelpAsked, this, &FrameWindows::ShowHelp);
+    connect(&graphs, &GraphHolder::ExitAsked, &frame, &QWidget::close, Qt::QueuedConnection);
 }
 
 void FrameWindows::ShowGraph() {

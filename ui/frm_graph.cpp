@@ -4,6 +4,7 @@
 #include <QColorDialog>
 #include <QMenuBar>
 #include <QScreen>
+#include <QShortcut>
 #include <algorithm>
 #include <array>
 
@@ -95,6 +96,7 @@ FrmGraph::FrmGraph(const Problem& problem, GraphSettings& settings, QWidget* fra
     setContextMenuPolicy(Qt::NoContextMenu);
     MakeMenus();
     MakeControls();
+    MakeShortcuts();
 
     const bool fine = settings.GraphQuality != kHighSpeed;
     Command("mnuToggleZoomButtons")->setChecked(true);
@@ -156,6 +158,13 @@ void FrmGraph::MakeControls() {
     connect(picture, &GraphView::Resized, this, &FrmGraph::PlaceControls);
     connect(zoomIn, &QAbstractButton::clicked, this, &FrmGraph::Command1_Click);
     connect(zoomOut, &QAbstractButton::clicked, this, &FrmGraph::Command2_Click);
+}
+
+/// Keys of the frame that hold here too, without an entry in a menu.
+void FrmGraph::MakeShortcuts() {
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this, &FrmGraph::HelpAsked);
+    connect(new QShortcut(Qt::CTRL | Qt::Key_Q, this), &QShortcut::activated, this,
+            &FrmGraph::ExitAsked);
 }
 
 void FrmGraph::OnTrigger(const char* name, Procedure procedure) {

@@ -36,12 +36,15 @@ class FrmGraph : public QMainWindow {
   signals:
     void PrintAsked();
     void PrintSetupAsked();
+    void HelpAsked();
+    void ExitAsked();  ///< from the program, not only from this window
 
   private:
     using Procedure = void (FrmGraph::*)();
 
     void MakeMenus();
     void MakeControls();
+    void MakeShortcuts();
     QAction* Command(const char* name) const { return commands.value(QLatin1String(name)); }
     void OnTrigger(const char* name, Procedure procedure);
     void Redraw();

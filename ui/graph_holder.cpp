@@ -18,6 +18,8 @@ void GraphHolder::Show(const Problem& problem) {
     form->SetPrintEnabled(printEnabled);
     connect(form, &FrmGraph::PrintAsked, this, &GraphHolder::PrintAsked);
     connect(form, &FrmGraph::PrintSetupAsked, this, &GraphHolder::PrintSetupAsked);
+    connect(form, &FrmGraph::HelpAsked, this, &GraphHolder::HelpAsked);
+    connect(form, &FrmGraph::ExitAsked, this, &GraphHolder::ExitAsked);
     form->Open();
 }
 

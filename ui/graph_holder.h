@@ -32,6 +32,9 @@ class GraphHolder : public QObject {
     /// The window's Print and Print Setup.
     void PrintAsked();
     void PrintSetupAsked();
+    /// Its keys for the help and the program's end.
+    void HelpAsked();
+    void ExitAsked();
 
   private:
     QWidget* frame;

@@ -14,6 +14,7 @@
 #include "graph/coordinate_list.h"
 #include "tests/ui/frm_main_fixture.h"
 #include "ui/frm_graph.h"
+#include "ui/frm_help.h"
 
 namespace numerello {
 namespace {
@@ -429,6 +430,25 @@ TEST_F(Window, APointOpensItsGraphAtOnce) {
     EXPECT_EQ(form->Shown().Request().GraphMode, 1);
     EXPECT_FALSE(Arrow().isVisible());
     EXPECT_TRUE(Command("mnuGraph").isEnabled());
+}
+
+TEST_F(Window, TheGraphKnowsTheKeysForHelpAndExit) {
+    Choose(QStringLiteral("Plotting A Point"));
+    Type(QStringLiteral("(4,-8)"));
+    Enter();
+    auto& form = Find<FrmGraph>(frame, QStringLiteral("frmGraph"));
+    ShowActive(form);
+    PressKey(form, Qt::Key_F1);
+    auto* help = frame.findChild<FrmHelp*>();
+    ASSERT_NE(help, nullptr);
+    EXPECT_TRUE(help->isVisible());
+
+    const QSignalSpy closed(&frame, &FrmMain::Closed);
+    ShowActive(form);
+    PressKey(form, Qt::Key_Q, Qt::ControlModifier);
+    QTest::qWait(0);
+    EXPECT_EQ(closed.count(), 1);
+    EXPECT_FALSE(frame.isVisible());
 }
 
 TEST_F(Window, TwoPointsOpenTheirGraphAlsoAllAtOnce) {

@@ -35,6 +35,9 @@ constexpr std::array kSigns{
     SpokenSign{"|", "absolute value bar", false},
 };
 
+/// Units that stand close behind their number in a line such as "5000lb = 2.5 T".
+constexpr std::array<std::string_view, 2> kCloseUnits{"lb", "oz"};
+
 constexpr std::array<std::string_view, 10> kCounts{"",     "one", "two",   "three", "four",
                                                    "five", "six", "seven", "eight", "nine"};
 constexpr std::array<std::string_view, 11> kParts{
@@ -79,7 +82,7 @@ std::string Tidied(std::string_view text) {
         if (character == ' ' && (tidy.empty() || follows)) {
             continue;
         }
-        if (follows && std::string_view(".,;:)?!").find(character) != std::string_view::npos) {
+        if (follows && std::string_view(".,;:)!").find(character) != std::string_view::npos) {
             tidy.pop_back();
         }
         tidy += character;
@@ -118,6 +121,9 @@ std::string SpokenFraction(std::string_view body) {
                : Text("fraction ", both, " end fraction");
 }
 
+/// The raised o is the sign for degrees; no exponent is a letter.
+constexpr std::string_view kDegrees = "o";
+
 std::string SpokenPower(std::string_view body) {
     if (body == "2") {
         return "squared";
@@ -154,12 +160,30 @@ class Speaker {
             SpeakConstruct(here);
             return;
         }
+        if (const std::string_view unit = CloseUnitHere(); !unit.empty()) {
+            spoken += Text(" ", unit);
+            at += unit.size();
+            return;
+        }
         if (const SpokenSign* sign = SignHere()) {
             spoken += Text(" ", sign->words, " ");
         } else if (here != "[" && here != "]") {
             spoken += StandsAlone() ? Text(" ", here, " ") : here;
         }
         ++at;
+    }
+
+    /// A unit close behind its number, and before a blank; 2lb+3 has letters that are factors.
+    std::string_view CloseUnitHere() const {
+        if (at == 0 || !IsDigit(At(at - 1))) {
+            return "";
+        }
+        const auto* const unit =
+            std::find_if(kCloseUnits.begin(), kCloseUnits.end(), [this](std::string_view each) {
+                return At(at) == each.substr(0, 1) && At(at + 1) == each.substr(1) &&
+                       At(at + 2) == " ";
+            });
+        return unit == kCloseUnits.end() ? "" : *unit;
     }
 
     const SpokenSign* SignHere() const {
@@ -214,10 +238,20 @@ class Speaker {
         if (mark == "#") {
             const bool isMixed = at > 0 && IsDigit(At(at - 1));
             spoken += Text(isMixed ? " and " : " ", SpokenFraction(body), " ");
+        } else if (mark == "^" && body == kDegrees) {
+            spoken += BehindOne() ? " degree " : " degrees ";
         } else {
             spoken += Text(" ", mark == "^" ? SpokenPower(body) : SpokenRoot(body), " ");
         }
         at = static_cast<std::size_t>(partner - characters.begin()) + 1;
+    }
+
+    /// Whether the number just before is 1.
+    bool BehindOne() const {
+        if (at == 0 || At(at - 1) != "1") {
+            return false;
+        }
+        return at == 1 || (!IsDigit(At(at - 2)) && At(at - 2) != "." && At(at - 2) != "-");
     }
 
     std::vector<std::string> characters;

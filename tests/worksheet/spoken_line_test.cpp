@@ -45,6 +45,36 @@ TEST(SpokenLine, ReadsMathematicsAsWords) {
     }
 }
 
+TEST(SpokenLine, ReadsDegrees) {
+    const Spoken lines[] = {
+        {"68^o^ F = 20^o^ C", "68 degrees F equals 20 degrees C"},
+        {"1^o^ F", "1 degree F"},
+        {"2.1^o^", "2.1 degrees"},
+        {"A straight angle = 180^o^", "A straight angle equals 180 degrees"},
+        {"Enter an angle ranging from 1^o^ to 180^o^.",
+         "Enter an angle ranging from 1 degree to 180 degrees."},
+        {"To convert 36.6^o^ Celsius (C) to Fahrenheit (F):",
+         "To convert 36.6 degrees Celsius (C) to Fahrenheit (F):"},
+    };
+    for (const auto& [line, words] : lines) {
+        EXPECT_EQ(SpokenLine(line), words) << line;
+    }
+}
+
+TEST(SpokenLine, KeepsUnitsWhole) {
+    const Spoken lines[] = {
+        {"5000lb = 2.5 T", "5000 lb equals 2.5 T"},
+        {"1.5T = 3000 lb", "1.5 T equals 3000 lb"},
+        {"3000 lb = 48000 oz", "3000 lb equals 48000 oz"},
+        {"250 cm = ? m", "250 cm equals ? m"},
+        {"2lb+3", "2 l b plus 3"},
+        {"6oz", "6 o z"},
+    };
+    for (const auto& [line, words] : lines) {
+        EXPECT_EQ(SpokenLine(line), words) << line;
+    }
+}
+
 TEST(SpokenLine, LeavesColoursOut) {
     EXPECT_EQ(SpokenLine("[3]+[x]^2^"), "3 plus x squared");
     EXPECT_EQ(SpokenLine("#[1]/2#"), "1 over 2");

@@ -118,8 +118,60 @@ std::string AsText(const Word& word, bool red) {
     return text + std::string(RedBehind(word, red) ? kRedEnds : "");
 }
 
+std::string PictureOf(std::string_view line, std::string_view words, Ink ink) {
+    return Text("<img class=\"math\" src=\"math:", NameOf(ink), "/", PercentEncoded(line),
+                "\" alt=\"", Escaped(words), "\">");
+}
+
+/// The place of a ")" whose "(" is not in the word; npos when there is none.
+std::size_t LoneParenthesis(const Word& word) {
+    int depth = 0;
+    for (std::size_t i = 0; i < word.size(); ++i) {
+        depth += word[i] == "(" ? 1 : word[i] == ")" ? -1 : 0;
+        if (depth < 0) {
+            return i;
+        }
+    }
+    return std::string::npos;
+}
+
+Word Mirrored(const Word& word) {
+    Word mirrored(word.rbegin(), word.rend());
+    for (std::string& each : mirrored) {
+        each = each == "(" ? ")" : each == ")" ? "(" : each;
+    }
+    return mirrored;
+}
+
+/// A parenthesis whose partner is another word of the sentence is its punctuation, and no sign of
+/// the mathematics that it touches.
+std::string SpokenWord(const Word& word) {
+    if (const std::size_t closes = LoneParenthesis(word); closes != std::string::npos) {
+        const auto at = word.begin() + static_cast<std::ptrdiff_t>(closes);
+        return Text(SpokenWord({word.begin(), at}), Joined({at, word.end()}));
+    }
+    const Word mirrored = Mirrored(word);
+    if (const std::size_t opens = LoneParenthesis(mirrored); opens != std::string::npos) {
+        const auto behind = word.end() - static_cast<std::ptrdiff_t>(opens);
+        return Text(Joined({word.begin(), behind}), SpokenWord({behind, word.end()}));
+    }
+    return SpokenLine(Joined(word));
+}
+
 std::string AsPicture(const Word& word, bool red, Ink ink) {
-    return MathPicture(Text(red ? "[" : "", Joined(word), RedBehind(word, red) ? "]" : ""), ink);
+    return PictureOf(Text(red ? "[" : "", Joined(word), RedBehind(word, red) ? "]" : ""),
+                     SpokenWord(word), ink);
+}
+
+bool IsSigns(const Word& word) {
+    return !word.empty() && std::none_of(word.begin(), word.end(), [](const std::string& each) {
+        return IsLetter(each) || IsDigit(each) || IsConstruct(each);
+    });
+}
+
+/// Signs that are told of one after the other, as in "( + - )", stay in one row.
+std::string_view BlankBetween(const Word& word, const Word& next) {
+    return IsSigns(word) && IsSigns(next) ? "&nbsp;" : " ";
 }
 
 }  // namespace
@@ -130,8 +182,7 @@ std::string Escaped(std::string_view text) {
 }
 
 std::string MathPicture(std::string_view line, Ink ink) {
-    return Text("<img class=\"math\" src=\"math:", NameOf(ink), "/", PercentEncoded(line),
-                "\" alt=\"", Escaped(SpokenLine(line)), "\">");
+    return PictureOf(line, SpokenLine(line), ink);
 }
 
 bool HasWords(std::string_view line) {
@@ -148,10 +199,13 @@ bool HasWords(std::string_view line) {
 std::string MathSentence(std::string_view sentence, Ink ink) {
     std::string html;
     bool red = false;
-    for (const Word& word : WordsOf(Characters(sentence))) {
-        html += html.empty() ? "" : " ";
+    const Word* before = nullptr;
+    const std::vector<Word> words = WordsOf(Characters(sentence));
+    for (const Word& word : words) {
+        html += before == nullptr ? "" : BlankBetween(*before, word);
         html += HasConstruct(word) ? AsPicture(word, red, ink) : AsText(word, red);
         red = RedBehind(word, red);
+        before = &word;
     }
     return html;
 }

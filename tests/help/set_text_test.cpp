@@ -32,6 +32,23 @@ TEST(SetText, KeepsAConstructWithBlanksWhole) {
               "alt=\"fraction 1 plus 2 over 3 end fraction\"> here");
 }
 
+TEST(SetText, LeavesParenthesesOfTheSentenceAsTheyAre) {
+    EXPECT_NE(MathSentence("pi (3.14 or about #22/7#).", Ink::Page).find("alt=\"22 over 7).\""),
+              std::string::npos);
+    EXPECT_NE(MathSentence("half (#1/2# of it)", Ink::Page).find("alt=\"(one half\""),
+              std::string::npos);
+    EXPECT_NE(MathSentence("the square (x+1)^2^ is", Ink::Page)
+                  .find("alt=\"open parenthesis x plus 1 close parenthesis squared\""),
+              std::string::npos);
+}
+
+TEST(SetText, KeepsSignsInOneRow) {
+    EXPECT_EQ(MathSentence("Use the operators ( + - * / ) and digits.", Ink::Page),
+              "Use the operators (&nbsp;+&nbsp;-&nbsp;*&nbsp;/&nbsp;) and digits.");
+    EXPECT_EQ(MathSentence("Two signs ( + - ).  Example", Ink::Page),
+              "Two signs (&nbsp;+&nbsp;-&nbsp;).  Example");
+}
+
 TEST(SetText, EmphasisesAcrossWords) {
     EXPECT_EQ(MathSentence("all [of it] now", Ink::Black),
               "all <span class=\"red\">of</span> <span class=\"red\">it</span> now");

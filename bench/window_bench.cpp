@@ -1,12 +1,14 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QTimer>
 
 #include "catalogue/chooser.h"
 #include "ui/font_metrics.h"
+#include "ui/frm_help.h"
 #include "ui/frm_paper.h"
 
 namespace numerello {
@@ -167,6 +169,33 @@ void FigureGrown(benchmark::State& state) {
     }
 }
 BENCHMARK(FigureGrown)->Unit(benchmark::kMillisecond)->Iterations(20);
+
+/// A page of the help with a worked example until it is painted.
+void HelpPagePainted(benchmark::State& state) {
+    FrmHelp help;
+    for (auto _ : state) {
+        state.PauseTiming();
+        help.ShowTopic("Solving Equations");
+        state.ResumeTiming();
+        help.ShowTopic("Fraction Arithmetic");
+        benchmark::DoNotOptimize(help.grab());
+    }
+}
+BENCHMARK(HelpPagePainted)->Unit(benchmark::kMillisecond);
+
+/// A key in the help's search box until the pages found are painted.
+void HelpSearched(benchmark::State& state) {
+    FrmHelp help;
+    help.ShowPage();
+    auto* box = help.findChild<QLineEdit*>(QStringLiteral("search"));
+    bool more = true;
+    for (auto _ : state) {
+        box->setText(more ? QStringLiteral("fraction denominators") : QStringLiteral("e"));
+        more = !more;
+        benchmark::DoNotOptimize(help.grab());
+    }
+}
+BENCHMARK(HelpSearched)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace numerello

@@ -103,7 +103,7 @@ TEST(WorkedExample, EndsInTheRightAnswer) {
     const PlainMetrics metrics;
     for (const Answer& answer : {
              Answer{"Arithmetic", "5"},                                        // 4+6-5
-             Answer{"Complex Arithmetic Expressions", "11"},                   // 2+9
+             Answer{"Complex Arithmetic Expressions", "17"},                   // 5*5-4*2
              Answer{"Absolute Values", "8"},                                   // 5+3
              Answer{"Rounding", "3700"},                                       // 3746 to hundreds
              Answer{"Calculating Roots", "12"},                                // 3*2+2*3

@@ -170,7 +170,7 @@ std::optional<std::string> AskForTopic(Terminal& terminal) {
         }
         if (text == "?") {
             SayTopics(terminal);
-        } else if (const std::optional<std::string> topic = TopicBeginning(text)) {
+        } else if (std::optional<std::string> topic = TopicBeginning(text)) {
             return topic;
         } else {
             terminal.Say(Text("No topic begins with \"", text, "\"."));
@@ -218,12 +218,10 @@ void SayEntry(Terminal& terminal, const Problem& problem) {
 
 Next AskNext(Terminal& terminal, std::string_view whatEnterBrings, Next onEnter) {
     const std::string hint =
-        Text("-- Enter: ", whatEnterBrings, onEnter == Next::Problem ? "" : ", n: another problem",
-             ", e: example, t: another topic, q: leave --");
+        Text("-- Enter: ", whatEnterBrings, onEnter == Next::Problem ? "" : ", n: new problem",
+             ", e: example, t: topic, q: leave --");
     while (true) {
-        if (terminal.IsRaw()) {
-            terminal.Show(hint);
-        }
+        terminal.Show(hint);
         const KeyPress key = terminal.Read();
         if (const auto command = CommandOf(terminal, key, kCommands)) {
             return *command;

@@ -68,6 +68,7 @@ std::size_t Continuations(int byte) {
 
 Terminal::Terminal(std::ostream& out) : out(out) {
     if (!TakesKeys() || tcgetattr(STDIN_FILENO, &savedSettings) != 0) {
+        prompts = isatty(STDIN_FILENO) != 0;
         return;
     }
     termios settings = savedSettings;
@@ -175,7 +176,7 @@ void Terminal::Say(std::string_view text) {
 void Terminal::Show(std::string text) {
     EraseShown();
     shown = std::move(text);
-    if (raw) {
+    if (raw || (prompts && lineBegins)) {
         out << shown << std::flush;
     }
 }

@@ -33,9 +33,6 @@ class Terminal {
     Terminal(const Terminal&) = delete;
     Terminal& operator=(const Terminal&) = delete;
 
-    /// Whether keys come one by one.
-    bool IsRaw() const { return raw; }
-
     KeyPress Read();
 
     /// In lines of input, what is left of the present one is no more keys.
@@ -61,6 +58,7 @@ class Terminal {
 
     std::ostream& out;
     bool raw = false;
+    bool prompts = false;    ///< somebody types lines
     bool lineBegins = true;  ///< the last byte read ended a line
     std::string shown;
 };

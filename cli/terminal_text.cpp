@@ -101,7 +101,7 @@ std::string FractionText(std::string_view before, std::string_view body, std::st
     if (parts.numerator.empty() && parts.denominator.empty()) {
         return TerminalText(body);
     }
-    const std::string both = Text(Grouped(parts.numerator), "/", GroupedDivisor(parts.denominator));
+    std::string both = Text(Grouped(parts.numerator), "/", GroupedDivisor(parts.denominator));
     constexpr std::string_view kApart = "+-=<>, ():;|[]";
     const bool apart = behind.empty() || kApart.find(behind) != std::string_view::npos;
     const bool first = before.empty() || kApart.find(before.back()) != std::string_view::npos;

@@ -79,6 +79,12 @@ std::string SheetOf(const WorkedExample& example, std::string_view name, bool dr
     } else if (log.StepCount > 1) {
         rows += SheetRow("", MathLine(log.StepText[1], Ink::Black), "");
     }
+    if (const auto& line = example.NumberLine()) {
+        rows += SheetRow("",
+                         Text("<img src=\"number-line:", name, "\" alt=\"A number line with ",
+                              NumberText(line->A), " and ", NumberText(line->B), "\">"),
+                         "");
+    }
     bool inColumns = false;
     int number = 0;
     for (const WorkedExample::Step& step : example.Steps()) {

@@ -53,6 +53,13 @@ std::optional<std::string> WorkedExample::Answerer::InputBox(std::string_view /*
     return topic.answers[questions.size() - 1];
 }
 
+void WorkedExample::Desk::ShowNextStep() {
+    if (playback.NumberLine) {
+        numberLine = playback.NumberLine;
+    }
+    ColumnWorksheet::ShowNextStep();
+}
+
 WorkedExample::WorkedExample(const TopicText& topic, const TextMetrics& metrics)
     : learner(topic), worksheet(problem, metrics, learner) {
     ChooseTopicForHelp(topic.caption, problem);

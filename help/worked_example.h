@@ -41,6 +41,9 @@ class WorkedExample {
     /// What stands on the first sheet at the end.
     const Surface& Drawing() const { return worksheet.SheetAt(0).surface; }
 
+    /// The number line that was drawn before the solution, where there is one.
+    const std::optional<NumberLineRequest>& NumberLine() const { return worksheet.numberLine; }
+
   private:
     /// Answers from the example; any message means that it is none.
     class Answerer : public Learner {
@@ -59,12 +62,26 @@ class WorkedExample {
         const TopicText& topic;
     };
 
+    /// Keeps what is asked to be drawn beside the lines; playing uses it up.
+    class Desk : public ColumnWorksheet {
+      public:
+        Desk(Problem& problem, const TextMetrics& metrics, Learner& learner)
+            : ColumnWorksheet(problem, metrics, learner), playback(problem.playback) {}
+
+        void ShowNextStep() override;
+
+        std::optional<NumberLineRequest> numberLine;
+
+      private:
+        const Playback& playback;
+    };
+
     void Enter(const TopicText& topic);
     void Play();
 
     Problem problem;
     Answerer learner;
-    ColumnWorksheet worksheet;
+    Desk worksheet;
     std::vector<Step> steps;
 };
 

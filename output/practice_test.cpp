@@ -55,6 +55,7 @@ bool ChooseTestTopic(TestOutline& outline, std::string_view topic, int count) {
 
 std::vector<std::string> PracticeTest::Lines() const {
     std::vector<std::string> lines;
+    lines.reserve(static_cast<std::size_t>(TestLineCount));
     for (int i = 0; i < TestLineCount; ++i) {
         lines.push_back(TestLines[i]);
     }

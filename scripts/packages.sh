@@ -5,7 +5,7 @@ BUILD_PACKAGES="g++ cmake ninja-build nlohmann-json3-dev libcli11-dev
 TEST_PACKAGES="libgtest-dev libbenchmark-dev clang libclang-rt-dev
     xvfb openbox xdotool xsel x11-utils scrot dbus at-spi2-core python3-gi gir1.2-atspi-2.0
     poppler-utils desktop-file-utils appstream shared-mime-info man-db"
-PACKAGE_PACKAGES="dpkg-dev fakeroot gzip"
+PACKAGE_PACKAGES="dpkg-dev"
 TRY_PACKAGES="debootstrap xvfb openbox xdotool x11-utils scrot"
 
 as_root() {

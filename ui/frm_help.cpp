@@ -11,6 +11,7 @@
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QStyledItemDelegate>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeWidget>
@@ -36,6 +37,7 @@ namespace {
 constexpr QSize kOpeningSize(1060, 760);
 constexpr int kGap = 8;
 constexpr int kSideLetters = 44;  ///< width of the contents, in letters of the interface font
+constexpr int kFewestLetters = 26;
 constexpr int kToolPicture = 24;
 constexpr int kSmallestPicture = 20;  ///< of chapters and pages
 constexpr auto kHome = "welcome";
@@ -49,6 +51,26 @@ std::string ContentsText() {
     return file.readAll().toStdString();
 }
 
+/// Rows of a tree that are as high as their title needs when it is broken at the view's edge. The
+/// tree by itself has rows of one line alone.
+class BrokenTitles : public QStyledItemDelegate {
+  public:
+    explicit BrokenTitles(QTreeView* tree) : QStyledItemDelegate(tree), tree(tree) {}
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        int indented = tree->indentation();
+        for (QModelIndex above = index.parent(); above.isValid(); above = above.parent()) {
+            indented += tree->indentation();
+        }
+        QStyleOptionViewItem narrow = option;
+        narrow.rect = QRect(0, 0, tree->columnWidth(0) - indented, 1);
+        return QStyledItemDelegate::sizeHint(narrow, index);
+    }
+
+  private:
+    QTreeView* tree;
+};
+
 QStringList WordsOf(const QString& query) {
     return query.simplified().split(u' ', Qt::SkipEmptyParts);
 }
@@ -58,7 +80,6 @@ QStringList WordsOf(const QString& query) {
 FrmHelp::FrmHelp(QWidget* parent)
     : QWidget(parent, Qt::Window), index(ContentsText()), view(new HelpView(this)) {
     LoadSheetFont();
-    TellHelp();
     setObjectName(QStringLiteral("frmHelp"));
     setWindowTitle(QStringLiteral("Numerello Help"));
     view->setObjectName(QStringLiteral("page"));
@@ -89,6 +110,7 @@ FrmHelp::FrmHelp(QWidget* parent)
 
 QWidget* FrmHelp::MakeSide() {
     auto* whole = new QWidget(this);
+    whole->setMinimumWidth(fontMetrics().averageCharWidth() * kFewestLetters);
     search = new QLineEdit(whole);
     search->setObjectName(QStringLiteral("search"));
     search->setPlaceholderText(QStringLiteral("Search"));
@@ -103,8 +125,12 @@ QWidget* FrmHelp::MakeSide() {
     contents->setObjectName(QStringLiteral("contents"));
     contents->setAccessibleName(QStringLiteral("Contents"));
     contents->setHeaderHidden(true);
-    contents->header()->setStretchLastSection(false);
-    contents->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    contents->setWordWrap(true);
+    contents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    contents->setItemDelegate(new BrokenTitles(contents));
+    // How high a row is depends on where it is broken; the tree does not look again by itself.
+    connect(contents->header(), &QHeaderView::sectionResized, contents, &QTreeWidget::doItemsLayout,
+            Qt::QueuedConnection);
     connect(contents, &QTreeWidget::currentItemChanged, this,
             [this](QTreeWidgetItem* item) { OpenContents(item); });
     connect(contents, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
@@ -118,6 +144,8 @@ QWidget* FrmHelp::MakeSide() {
     results = new QListWidget(resultsSide);
     results->setObjectName(QStringLiteral("results"));
     results->setAccessibleName(QStringLiteral("Pages found"));
+    results->setWordWrap(true);
+    results->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(results, &QListWidget::currentRowChanged, this, &FrmHelp::OpenResult);
     connect(results, &QListWidget::itemClicked, this,
             [this] { OpenResult(results->currentRow()); });
@@ -261,6 +289,8 @@ void FrmHelp::Raise() {
     raise();
     activateWindow();
     view->setFocus();
+    // Before it was shown the tree did not know how much of it is seen.
+    contents->scrollToItem(contents->currentItem(), QAbstractItemView::PositionAtCenter);
 }
 
 void FrmHelp::Search() {

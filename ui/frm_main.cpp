@@ -98,7 +98,7 @@ Settings FrmMain::CurrentSettings() const {
             IsTicked("mnuShowLight")};
 }
 
-/// A command without a row here is not built yet, and grey.
+/// A command without a row here would stay grey.
 void FrmMain::ConnectCommands() {
     struct Row {
         const char* command;

@@ -16,6 +16,7 @@
 #include "ui/entry_form.h"
 #include "ui/surface_painter.h"
 #include "ui/text.h"
+#include "worksheet/number_line.h"
 
 namespace numerello {
 
@@ -162,6 +163,9 @@ QImage HelpPictures::Picture(const QUrl& address, const Look& look) {
     if (topic != nullptr && address.scheme() == QLatin1String("working")) {
         return Working(*topic, look);
     }
+    if (topic != nullptr && address.scheme() == QLatin1String("number-line")) {
+        return NumberLine(*topic, look);
+    }
     return {};
 }
 
@@ -230,6 +234,19 @@ QImage HelpPictures::Working(const TopicText& topic, const Look& look) const {
                                                        look.scale * look.pixelRatio));
                    });
     });
+}
+
+QImage HelpPictures::NumberLine(const TopicText& topic, const Look& look) const {
+    const WorkedExample example(topic, metrics);
+    const auto& line = example.NumberLine();
+    if (!line) {
+        return {};
+    }
+    EndlessSheet sheet(metrics);
+    DrawNumberLine(sheet.Current(), line->A, line->B);
+    const std::vector<Mark>& marks = sheet.Current().Marks();
+    return Pictured(PlaceOf(marks, metrics), look,
+                    [&](QPainter& painter) { PaintMarks(painter, marks, metrics); });
 }
 
 }  // namespace numerello

@@ -16,6 +16,7 @@ namespace numerello {
 ///   math:INK/LINE   a piece of math text in the ink "page", "black" or "blue"
 ///   entry:PAGE      the entry form of a topic, filled in with its example
 ///   working:PAGE    the finished working of a topic's example in columns
+///   number-line:PAGE   the number line that belongs to a topic's example
 /// The baseline of a piece of mathematics lies in the middle of its picture or a little below,
 /// where the text beside it has its own. For the thread of the window alone.
 class HelpPictures {
@@ -35,6 +36,7 @@ class HelpPictures {
     QImage Mathematics(const QString& address, const Look& look) const;
     QImage Entry(const TopicText& topic, const Look& look) const;
     QImage Working(const TopicText& topic, const Look& look) const;
+    QImage NumberLine(const TopicText& topic, const Look& look) const;
 
     FontMetrics metrics{FontMetrics::Medium::Sheet};
     std::map<std::string, TopicText> texts;  ///< by the names of their pages

@@ -97,6 +97,8 @@ QString StyleSheet(const QPalette& palette, double text) {
 }  // namespace
 
 HelpView::HelpView(QWidget* parent) : QTextBrowser(parent) {
+    // Before anything of it is told: what is known of it once stays as it is.
+    TellHelp();
     setOpenExternalLinks(false);
     setUndoRedoEnabled(false);
     document()->setDocumentMargin(kMargin);

@@ -49,13 +49,16 @@ void Assistant::Load() {
     shrinking = false;
     pressed = false;
     dragged = false;
+    formWidth = 0;
     RestartWork();
 }
 
 void Assistant::PlaceBeside(int sheetLeft, int width, int height) {
+    const bool newPlace = width != formWidth || sheetLeft != besideSheet;
     formWidth = width;
     formHeight = height;
-    if (!dragged && !pressed) {
+    besideSheet = sheetLeft;
+    if (newPlace && !dragged && !pressed) {
         left = FirstLeft(sheetLeft, formWidth);
         top = kFirstTop;
     }

@@ -106,6 +106,7 @@ class Assistant {
     double top = 0;
     int formWidth = 0;
     int formHeight = 0;
+    int besideSheet = 0;  ///< the left edge of the sheet that it was last placed beside
     bool pressed = false;
     bool dragged = false;  ///< away from its first place, by the learner
     int pressX = 0;

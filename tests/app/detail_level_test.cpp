@@ -6,7 +6,7 @@ namespace {
 
 /// The first line, each one whose index the level divides, and the last. A division shown as the
 /// second line keeps all: it was not recorded as a step.
-std::vector<std::size_t> KeptLines(const WorkedProblem& full, int level) {
+std::vector<std::size_t> KeptLines(const SolvedProblem& full, int level) {
     std::vector<std::size_t> kept;
     const std::size_t last = full.lines.size();
     const bool untouched = last < 2 || (full.notes[1].starts_with("Solve for ") &&
@@ -19,8 +19,8 @@ std::vector<std::size_t> KeptLines(const WorkedProblem& full, int level) {
     return kept;
 }
 
-std::string WrongAtLevel(const WorkedProblem& full, int level) {
-    WorkedProblem thinned = full;
+std::string WrongAtLevel(const SolvedProblem& full, int level) {
+    SolvedProblem thinned = full;
     thinned.settings.DetailLevel = level;
     Solve(thinned);
     const std::vector<std::size_t> kept = KeptLines(full, level);
@@ -31,7 +31,7 @@ std::string WrongAtLevel(const WorkedProblem& full, int level) {
     return same ? "" : "other lines at level " + std::to_string(level);
 }
 
-Verdict JudgeLevels(const WorkedProblem& full) {
+Verdict JudgeLevels(const SolvedProblem& full) {
     if (full.failure) {
         return {true, ""};
     }

@@ -55,7 +55,7 @@ bool SameSolutions(const LinearForm& one, const LinearForm& other) {
 }
 
 /// The letter that stands alone on the left of the last line in the end.
-char WantedLetter(const WorkedProblem& worked, const LinearForm& problem) {
+char WantedLetter(const SolvedProblem& worked, const LinearForm& problem) {
     const std::string letters = LettersOf(worked.typed);
     char wanted = letters.front();
     if (worked.code == 105 && letters.size() == 2) {
@@ -65,7 +65,7 @@ char WantedLetter(const WorkedProblem& worked, const LinearForm& problem) {
     return problem.counts.contains(wanted) ? wanted : problem.counts.begin()->first;
 }
 
-std::string WrongInStatement(const WorkedProblem& worked, const LinearForm& problem) {
+std::string WrongInStatement(const SolvedProblem& worked, const LinearForm& problem) {
     const std::string& note = worked.notes.back();
     if (problem.constant == 0) {
         return note.starts_with("Since ") && note.ends_with(" can be any real number.")
@@ -89,7 +89,7 @@ std::string WrongInStatement(const WorkedProblem& worked, const LinearForm& prob
                : "the sentence names other numbers than the line";
 }
 
-std::string WrongInEnd(const WorkedProblem& worked, const LinearForm& problem) {
+std::string WrongInEnd(const SolvedProblem& worked, const LinearForm& problem) {
     if (problem.counts.empty()) {
         return WrongInStatement(worked, problem);
     }
@@ -105,7 +105,7 @@ std::string WrongInEnd(const WorkedProblem& worked, const LinearForm& problem) {
     return problem.counts.size() == 1 ? LeftInNumber(right) : LeftInSum(right);
 }
 
-std::string WrongInLines(const WorkedProblem& worked, const LinearForm& problem) {
+std::string WrongInLines(const SolvedProblem& worked, const LinearForm& problem) {
     for (std::size_t i = 0; i < worked.lines.size(); ++i) {
         const bool statement = worked.lines[i].find('$') != std::string::npos;
         if (statement && i + 1 == worked.lines.size()) {
@@ -133,7 +133,7 @@ LinearForm LineLinearForm(std::string_view line) {
                   [](std::string_view side, const Point& point) { return ValueOf(side, point); });
 }
 
-Verdict JudgeEquation(const WorkedProblem& worked) {
+Verdict JudgeEquation(const SolvedProblem& worked) {
     const std::string form = WrongInForm(worked);
     if (!form.empty() || worked.failure) {
         return {false, form + (worked.failure ? "a failure without a cause" : "")};

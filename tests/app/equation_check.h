@@ -22,6 +22,6 @@ LinearForm LineLinearForm(std::string_view line);
 /// Whether every line of a solved equation has the solutions of the problem, and the end says what
 /// they are: for 101 and 122 the first letter's value, for 105 the line solved for a letter, else
 /// that none or any number solves it.
-Verdict JudgeEquation(const WorkedProblem& worked);
+Verdict JudgeEquation(const SolvedProblem& worked);
 
 }  // namespace numerello

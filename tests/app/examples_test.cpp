@@ -36,8 +36,8 @@ class KeepingForm : public FillingForm {
 };
 
 /// A question for a letter's value gets a number, one for a letter a letter.
-WorkedProblem Worked(const Problem& unsolved) {
-    WorkedProblem worked;
+SolvedProblem Worked(const Problem& unsolved) {
+    SolvedProblem worked;
     worked.code = unsolved.topic.ProblemType;
     worked.typed = unsolved.typed.ProblemText;
     worked.unsolved = unsolved;
@@ -82,7 +82,7 @@ bool ShowsTwoBars(std::string_view line) {
 }
 
 /// Skipped where nothing tells the right lines.
-Verdict Judged(const WorkedProblem& worked) {
+Verdict Judged(const SolvedProblem& worked) {
     switch (worked.code) {
         case 76:
         case 81:
@@ -134,7 +134,7 @@ TEST_P(SolvedExamples, AreWorked) {
             KeepingForm form(problem);
             example_Click(problem, stage, form, *draws);
             ASSERT_TRUE(form.solved) << problem.typed.ProblemText;
-            const WorkedProblem worked = Worked(form.unsolved);
+            const SolvedProblem worked = Worked(form.unsolved);
             const Verdict verdict = Judged(worked);
             judged += verdict.skipped ? 0 : 1;
             if (!verdict.wrong.empty()) {

@@ -19,9 +19,9 @@ void JudgeMany(int code, std::uint32_t seed, int count, const AnswerSettings& se
     InventedProblems problems(code, seed);
     Findings findings;
     int judged = 0;
-    WorkedProblem slowest;
+    SolvedProblem slowest;
     for (int i = 0; i < count; ++i) {
-        WorkedProblem worked = problems.Next();
+        SolvedProblem worked = problems.Next();
         worked.settings = settings;
         Solve(worked);
         const Verdict verdict = judge(worked);

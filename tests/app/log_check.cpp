@@ -32,11 +32,11 @@ Value ValueBy(Read read) {
     }
 }
 
-Value ValueOfTyped(const WorkedProblem& worked, const Point& point) {
+Value ValueOfTyped(const SolvedProblem& worked, const Point& point) {
     return ValueBy([&] { return TypedValueOf(worked.code, worked.typed, point); });
 }
 
-std::string LeftInLastLine(const WorkedProblem& worked) {
+std::string LeftInLastLine(const SolvedProblem& worked) {
     const std::string& line = worked.lines.back();
     const Digits digits = worked.settings.UseFractions ? Digits::Fractions : Digits::Decimals;
     switch (worked.code) {
@@ -56,7 +56,7 @@ std::string LeftInLastLine(const WorkedProblem& worked) {
 }
 
 /// Lines of 103 up to the first value that is put in hold at any point.
-std::size_t FirstLineWithValues(const WorkedProblem& worked) {
+std::size_t FirstLineWithValues(const SolvedProblem& worked) {
     std::size_t line = 0;
     while (line < worked.lines.size() && !worked.notes[line].starts_with("Replace all the")) {
         ++line;
@@ -74,7 +74,7 @@ std::vector<Point> FreePoints(std::string_view letters) {
     return points;
 }
 
-std::string WrongAt(const WorkedProblem& worked, const Point& point, std::size_t lines) {
+std::string WrongAt(const SolvedProblem& worked, const Point& point, std::size_t lines) {
     const Value problem = ValueOfTyped(worked, point);
     if (problem.existence != Existence::Exists) {
         return "";
@@ -90,7 +90,7 @@ std::string WrongAt(const WorkedProblem& worked, const Point& point, std::size_t
     return "";
 }
 
-std::string WrongInValues(const WorkedProblem& worked) {
+std::string WrongInValues(const SolvedProblem& worked) {
     try {
         for (const Point& point : PointsFor(worked)) {
             const std::string wrong = WrongAt(worked, point, worked.lines.size());
@@ -108,7 +108,7 @@ std::string WrongInValues(const WorkedProblem& worked) {
     return "";
 }
 
-bool DividesByZero(const WorkedProblem& worked) {
+bool DividesByZero(const SolvedProblem& worked) {
     for (const Point& point : PointsFor(worked)) {
         if (ValueOfTyped(worked, point).existence != Existence::DividesByZero) {
             return false;
@@ -158,7 +158,7 @@ bool HoldsAlmostZero(std::string_view line, long double half) {
            anyOf(Place::Denominator, [&](long double n) { return n * half >= 1; });
 }
 
-bool RoundsTo(const WorkedProblem& worked, std::size_t line, const Point& point) {
+bool RoundsTo(const SolvedProblem& worked, std::size_t line, const Point& point) {
     const std::string& before = worked.lines[line - 1];
     const long double half = 0.5L / std::pow(10.0L, worked.settings.RoundDigits);
     if (worked.notes[line].find("(0).") != std::string::npos || HoldsAlmostZero(before, half)) {
@@ -186,7 +186,7 @@ bool RoundsTo(const WorkedProblem& worked, std::size_t line, const Point& point)
 
 /// Whether the tables of terms may have been too small for the line that would have followed: more
 /// than fifteen powers, a hundred terms, or the log full.
-bool MayPassABound(const WorkedProblem& worked) {
+bool MayPassABound(const SolvedProblem& worked) {
     const std::string line = worked.lines.empty() ? "" : worked.lines.back();
     std::set<std::string, std::less<>> exponents;
     for (std::size_t at = line.find('^'); at != std::string::npos; at = line.find('^', at + 1)) {
@@ -203,7 +203,7 @@ bool MayPassABound(const WorkedProblem& worked) {
 
 }  // namespace
 
-std::string WrongInForm(const WorkedProblem& worked) {
+std::string WrongInForm(const SolvedProblem& worked) {
     if (worked.seconds > kLongestSeconds) {
         return "too slow";
     }
@@ -224,7 +224,7 @@ std::string WrongInForm(const WorkedProblem& worked) {
     return worked.lines.empty() && !worked.failure ? "an empty log" : "";
 }
 
-Verdict JudgeFailure(const WorkedProblem& worked, bool dividesByZero) {
+Verdict JudgeFailure(const SolvedProblem& worked, bool dividesByZero) {
     if (worked.failure == FailureKind::Overflow &&
         GreatestIn(worked, Place::Anywhere) > kShortLimit) {
         return {true, ""};
@@ -242,7 +242,7 @@ Verdict JudgeFailure(const WorkedProblem& worked, bool dividesByZero) {
                        : ""};
 }
 
-std::vector<Point> PointsFor(const WorkedProblem& worked) {
+std::vector<Point> PointsFor(const SolvedProblem& worked) {
     const std::string letters = LettersOf(worked.typed);
     if (letters.empty()) {
         return {Point()};
@@ -257,7 +257,7 @@ std::vector<Point> PointsFor(const WorkedProblem& worked) {
     return points;
 }
 
-Verdict JudgeExactLines(const WorkedProblem& worked) {
+Verdict JudgeExactLines(const SolvedProblem& worked) {
     const std::string form = WrongInForm(worked);
     if (!form.empty()) {
         return {false, form};
@@ -273,7 +273,7 @@ Verdict JudgeExactLines(const WorkedProblem& worked) {
     return {false, wrong.empty() ? LeftInLastLine(worked) : wrong};
 }
 
-Verdict JudgeRoundedLines(const WorkedProblem& worked) {
+Verdict JudgeRoundedLines(const SolvedProblem& worked) {
     const std::string form = WrongInForm(worked);
     if (!form.empty()) {
         return {false, form};

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "line_value.h"
-#include "worked_problem.h"
+#include "solved_problem.h"
 
 namespace numerello {
 
@@ -17,18 +17,18 @@ struct Verdict {
 
 /// What is wrong with any log, whatever its topic: too long, too slow, an empty line, a line that
 /// repeats the one before.
-std::string WrongInForm(const WorkedProblem& worked);
+std::string WrongInForm(const SolvedProblem& worked);
 
 /// A failure that the problem does not explain. `dividesByZero`: its value does not exist.
-Verdict JudgeFailure(const WorkedProblem& worked, bool dividesByZero);
+Verdict JudgeFailure(const SolvedProblem& worked, bool dividesByZero);
 
 /// The points at which an expression is compared.
-std::vector<Point> PointsFor(const WorkedProblem& worked);
+std::vector<Point> PointsFor(const SolvedProblem& worked);
 
 /// Whether every line has the value of the problem and the last one is worked out.
-Verdict JudgeExactLines(const WorkedProblem& worked);
+Verdict JudgeExactLines(const SolvedProblem& worked);
 
 /// Whether every line has the value of the one before but for the rounding of its new numbers.
-Verdict JudgeRoundedLines(const WorkedProblem& worked);
+Verdict JudgeRoundedLines(const SolvedProblem& worked);
 
 }  // namespace numerello

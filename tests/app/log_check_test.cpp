@@ -8,9 +8,9 @@
 namespace numerello {
 namespace {
 
-WorkedProblem Written(int code, std::string typed, std::vector<std::string> lines,
+SolvedProblem Written(int code, std::string typed, std::vector<std::string> lines,
                       std::string lastNote = "A reason.") {
-    WorkedProblem worked;
+    SolvedProblem worked;
     worked.code = code;
     worked.typed = std::move(typed);
     worked.notes.assign(lines.size(), "A reason.");
@@ -22,7 +22,7 @@ WorkedProblem Written(int code, std::string typed, std::vector<std::string> line
 
 TEST(JudgeExactLines, FindsWhatIsWrong) {
     EXPECT_EQ(JudgeExactLines(Written(91, "4+2*3", {"4+2*3", "4+6", "10"})).wrong, "");
-    const WorkedProblem kWrong[] = {
+    const SolvedProblem kWrong[] = {
         Written(91, "4+2*3", {"4+2*3", "4+5", "10"}),
         Written(91, "4+2*3", {"4+2*3", "4+6"}),
         Written(91, "4+2*3", {"4+3*2", "4+6", "11"}),
@@ -36,13 +36,13 @@ TEST(JudgeExactLines, FindsWhatIsWrong) {
         Written(83, "12", {"12", "2^2^*4"}),
         Written(120, "|3-7|", {"|3-7|", "|-4|", "-4"}),
     };
-    for (const WorkedProblem& worked : kWrong) {
+    for (const SolvedProblem& worked : kWrong) {
         EXPECT_NE(JudgeExactLines(worked).wrong, "") << worked.Description();
     }
 }
 
 TEST(JudgeExactLines, FindsFailuresWithoutACause) {
-    WorkedProblem worked = Written(91, "4+2", {"4+2"});
+    SolvedProblem worked = Written(91, "4+2", {"4+2"});
     for (const FailureKind kind :
          {FailureKind::Format, FailureKind::DivisionByZero, FailureKind::Overflow}) {
         worked.failure = kind;
@@ -56,7 +56,7 @@ TEST(JudgeExactLines, SkipsWhatSinglesDoNotHold) {
 
 TEST(JudgeRoundedLines, AllowsTheRoundingAlone) {
     const auto wrongWith = [](std::vector<std::string> lines) {
-        WorkedProblem worked = Written(91, "1/3+1/3", std::move(lines));
+        SolvedProblem worked = Written(91, "1/3+1/3", std::move(lines));
         worked.settings.UseFractions = false;
         return JudgeRoundedLines(worked).wrong;
     };
@@ -72,7 +72,7 @@ TEST(JudgeEquation, FindsOtherSolutions) {
     EXPECT_EQ(JudgeEquation(Written(101, "x+1=x+2", {"x+1=x+2", "1$2"}, none)).wrong, "");
     const std::string any = "Since 3 equals 3 then x can be any real number.";
     EXPECT_EQ(JudgeEquation(Written(101, "x+3=x+3", {"x+3=x+3", "3=3"}, any)).wrong, "");
-    const WorkedProblem kWrong[] = {
+    const SolvedProblem kWrong[] = {
         Written(101, "2x=6", {"2x=6", "#2x/[2]#=#6/[2]#", "x=2"}),
         Written(101, "2x=6", {"2x=6", "x=4", "x=3"}),
         Written(101, "2x=6", {"2x=6", "3=x"}),
@@ -82,7 +82,7 @@ TEST(JudgeEquation, FindsOtherSolutions) {
         Written(105, "2x+3y=6", {"2x+3y=6", "x=-#3y/2#+3"}),
         Written(105, "2x+3y=6", {"2x+3y=6", "y=#2x/3#+2"}),
     };
-    for (const WorkedProblem& worked : kWrong) {
+    for (const SolvedProblem& worked : kWrong) {
         EXPECT_NE(JudgeEquation(worked).wrong, "") << worked.Description();
     }
 }

@@ -8,7 +8,7 @@ bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-bool HoldsDecimals(const WorkedProblem& worked) {
+bool HoldsDecimals(const SolvedProblem& worked) {
     return worked.typed.find('.') != std::string::npos;
 }
 
@@ -29,7 +29,7 @@ std::vector<std::string> NumbersOf(std::string_view line, Place place) {
     return numbers;
 }
 
-long long GreatestIn(const WorkedProblem& worked, Place place) {
+long long GreatestIn(const SolvedProblem& worked, Place place) {
     long long greatest = 1;
     for (const std::string& line : worked.lines) {
         for (std::string number : NumbersOf(line, place)) {
@@ -42,7 +42,7 @@ long long GreatestIn(const WorkedProblem& worked, Place place) {
     return greatest;
 }
 
-bool IsBeyondSingles(const WorkedProblem& worked) {
+bool IsBeyondSingles(const SolvedProblem& worked) {
     const long long greatest = GreatestIn(worked, Place::Anywhere);
     const long long denominator = GreatestIn(worked, Place::Denominator);
     if (greatest >= kSinglesLimit || greatest * denominator >= kSinglesLimit) {

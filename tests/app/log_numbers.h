@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "worked_problem.h"
+#include "solved_problem.h"
 
 namespace numerello {
 
@@ -18,9 +18,9 @@ std::vector<std::string> NumbersOf(std::string_view line, Place place = Place::A
 
 /// The greatest of a log by its digits, wherever its point stands; kSinglesLimit for what is far
 /// beyond it.
-long long GreatestIn(const WorkedProblem& worked, Place place);
+long long GreatestIn(const SolvedProblem& worked, Place place);
 
 /// Whether a number of the log, or one on the way to it, is past what a single holds exactly.
-bool IsBeyondSingles(const WorkedProblem& worked);
+bool IsBeyondSingles(const SolvedProblem& worked);
 
 }  // namespace numerello

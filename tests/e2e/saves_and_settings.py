@@ -137,6 +137,12 @@ def main():
         play_to_the_end(desk)
         assert sheet_lines() == worked, sheet_lines()
         leave(desk)
+
+        desk.open_program(str(saved.with_name("missing.nrl")))
+        desk.wait_for_window(FRAME)
+        screen.until(lambda: screen.find("The problem file could not be read."), "the status line")
+        desk.picture("missing-file")
+        leave(desk)
     print("saves and settings: both came back")
 
 

@@ -60,6 +60,16 @@ TEST(WorkedExample, AnswersQuestions) {
     EXPECT_EQ(example.Steps().back().line, "6");
 }
 
+TEST(WorkedExample, KeepsTheNumberLine) {
+    const PlainMetrics metrics;
+    const WorkedExample comparing(Typed("Comparing Values", "-3,4"), metrics);
+    ASSERT_TRUE(comparing.NumberLine().has_value());
+    EXPECT_EQ(comparing.NumberLine()->A, -3);
+    EXPECT_EQ(comparing.NumberLine()->B, 4);
+    const WorkedExample other(Typed("Converting Inches To Feet", "48"), metrics);
+    EXPECT_FALSE(other.NumberLine().has_value());
+}
+
 TEST(WorkedExample, RefusesWhatTheProgramRefuses) {
     EXPECT_EQ(WhyNot(Typed("Converting Inches To Feet", "4x")),
               "the example of \"Converting Inches To Feet\" has a key that is refused: x");

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QComboBox>
+#include <QFile>
 
 #include "tests/ui/frm_main_fixture.h"
 #include "tests/ui/still_desktop.h"
@@ -104,14 +105,18 @@ TEST_F(FrameSettings, TheFrameStoresAllElevenWhenItCloses) {
 }
 
 TEST_F(FrameSettings, TheGraphIsClosedFirst) {
-    const auto frame = Open();
-    auto* graph = new QWidget(frame.get(), Qt::Window);
-    graph->setObjectName(QStringLiteral("frmGraph"));
-    graph->show();
-    store.graph = graph;
+    QFile file(documents.filePath(QStringLiteral("point.nrl")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("Plotting A Point BB (3,4) BB  BB  BB  BB  BB  BB  BB -1 BB -1 BB 0 BB 108\n");
+    file.close();
+    FrmMain frame(store, documents.path().toStdString(), file.fileName().toStdString());
+    ShowActive(frame);
+    frame.Begin();
+    store.graph = &Find<QWidget>(frame, QStringLiteral("frmGraph"));
+    EXPECT_TRUE(store.graph->isVisible());
     bool closed = false;
-    QObject::connect(frame.get(), &FrmMain::Closed, [&closed] { closed = true; });
-    frame->close();
+    QObject::connect(&frame, &FrmMain::Closed, [&closed] { closed = true; });
+    frame.close();
     EXPECT_EQ(store.writes, 1);
     EXPECT_FALSE(store.graphWasOpen);
     EXPECT_TRUE(closed);

@@ -1,4 +1,4 @@
-#include "worked_problem.h"
+#include "solved_problem.h"
 
 #include <algorithm>
 #include <chrono>
@@ -61,7 +61,7 @@ std::string LettersOf(std::string_view text) {
     return letters;
 }
 
-std::string WorkedProblem::Description() const {
+std::string SolvedProblem::Description() const {
     std::ostringstream text;
     text << "  " << code << ": " << typed << (settings.UseFractions ? "" : "  decimals")
          << "  detail " << settings.DetailLevel;
@@ -80,9 +80,9 @@ std::string WorkedProblem::Description() const {
 InventedProblems::InventedProblems(int code, std::uint32_t seed)
     : code(code), opened(Opened(FindTopicByCode(EntryCode(code))->caption)), inventor(code, seed) {}
 
-WorkedProblem InventedProblems::Next() {
+SolvedProblem InventedProblems::Next() {
     while (true) {
-        WorkedProblem worked;
+        SolvedProblem worked;
         worked.code = code;
         worked.typed = inventor.Problem();
         worked.unsolved = opened;
@@ -101,7 +101,7 @@ WorkedProblem InventedProblems::Next() {
     }
 }
 
-void Solve(WorkedProblem& worked) {
+void Solve(SolvedProblem& worked) {
     Problem problem = worked.unsolved;
     problem.settings = worked.settings;
     ListLearner learner(worked.answers);
@@ -118,7 +118,7 @@ void Solve(WorkedProblem& worked) {
     }
 }
 
-void Findings::Add(const std::string& kind, const WorkedProblem& worked) {
+void Findings::Add(const std::string& kind, const SolvedProblem& worked) {
     Kind& known = kinds[kind];
     if (known.count == 0 || worked.typed.size() < known.shortest.typed.size()) {
         known.shortest = worked;

@@ -10,7 +10,7 @@
 namespace numerello {
 
 /// A problem that was typed and solved as a learner does.
-struct WorkedProblem {
+struct SolvedProblem {
     int code = 0;
     std::string typed;
     Problem unsolved;  ///< with the keys typed
@@ -30,7 +30,7 @@ class InventedProblems {
     InventedProblems(int code, std::uint32_t seed);
 
     /// The next problem that the filter takes, not solved yet.
-    WorkedProblem Next();
+    SolvedProblem Next();
 
   private:
     int code;
@@ -39,7 +39,7 @@ class InventedProblems {
 };
 
 /// Solves the typed problem with its settings; fills lines, notes, failure and time.
-void Solve(WorkedProblem& worked);
+void Solve(SolvedProblem& worked);
 
 /// The letters of a text in order of first appearance.
 std::string LettersOf(std::string_view text);
@@ -47,7 +47,7 @@ std::string LettersOf(std::string_view text);
 /// What was found wrong, by kind, each with its shortest problem.
 class Findings {
   public:
-    void Add(const std::string& kind, const WorkedProblem& worked);
+    void Add(const std::string& kind, const SolvedProblem& worked);
 
     bool None() const { return kinds.empty(); }
     /// The commonest kinds first.
@@ -56,7 +56,7 @@ class Findings {
   private:
     struct Kind {
         int count = 0;
-        WorkedProblem shortest;
+        SolvedProblem shortest;
     };
     std::map<std::string, Kind> kinds;
 };

@@ -22,10 +22,9 @@ template <class Print>
 void InReadableFaces(std::string_view line, Surface& Printer, Print print) {
     while (!line.empty()) {
         const bool otherwise = kDrawnOtherwise.find(line.front()) != std::string_view::npos;
-        const std::size_t end =
-            std::min(otherwise ? line.find_first_not_of(kDrawnOtherwise)
-                               : line.find_first_of(kDrawnOtherwise),
-                     line.size());
+        const std::size_t end = std::min(otherwise ? line.find_first_not_of(kDrawnOtherwise)
+                                                   : line.find_first_of(kDrawnOtherwise),
+                                         line.size());
         Printer.SetFontName(otherwise ? kExplanationFace : kSheetFace);
         print(line.substr(0, end));
         line.remove_prefix(end);

@@ -40,13 +40,12 @@ TEST(PrintHeading, MeansTheCharactersThatTheSheetsDrawAsMathematics) {
     const double ampersand = 3 * kBlank + 3 * kCharacter + kBlank;
     const double dollar = ampersand + kCharacter + kBlank + 3 * kCharacter + kBlank;
     const std::string other(kExplanationFace);
-    ExpectRows(printer.surface.Marks(),
-               {{"   Bob ", 0, 3 * kLine},
-                {"&", ampersand, 3 * kLine, 12, other},
-                {" Ann ", ampersand + kCharacter, 3 * kLine},
-                {"$", dollar, 3 * kLine, 12, other},
-                {"5", dollar + kCharacter, 3 * kLine},
-                {"~", 3 * kBlank, 4 * kLine, 12, other}});
+    ExpectRows(printer.surface.Marks(), {{"   Bob ", 0, 3 * kLine},
+                                         {"&", ampersand, 3 * kLine, 12, other},
+                                         {" Ann ", ampersand + kCharacter, 3 * kLine},
+                                         {"$", dollar, 3 * kLine, 12, other},
+                                         {"5", dollar + kCharacter, 3 * kLine},
+                                         {"~", 3 * kBlank, 4 * kLine, 12, other}});
     EXPECT_EQ(printer.surface.FontName(), kSheetFace);
 }
 

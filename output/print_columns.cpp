@@ -1,5 +1,4 @@
 #include "output/print_columns.h"
-#include "core/topic_codes.h"
 
 #include <algorithm>
 #include <string>

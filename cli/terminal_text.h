@@ -13,8 +13,8 @@ std::string TerminalText(std::string_view line);
 /// characters are those of VisibleText.
 std::string TerminalRefusal(std::string_view text);
 
-/// The text with a picture for each control character, which a terminal would obey, and "\uFFFD" for
-/// one without a picture and for bytes that are no character.
+/// The text with a picture for each control character, which a terminal would obey, and "\uFFFD"
+/// for one without a picture and for bytes that are no character.
 std::string VisibleText(std::string_view text);
 
 }  // namespace numerello

@@ -54,8 +54,8 @@ TEST(AnswerKey, KeepsTheOnlyLineThoughItRepeatsTheProblem) {
 TEST(AnswerKey, TellsInWordsWhatIsOnlyDrawn) {
     WorkedProblem point = Worked("1) (-3,4)", std::vector<std::string>());
     point.problem.graph = {.GraphMode = 1, .GraphX1 = -3, .GraphY1 = 4};
-    EXPECT_EQ(KeyLines(point), std::vector<std::string>{
-                                   "From the crossing of the axes 3 to the left and 4 up."});
+    EXPECT_EQ(KeyLines(point),
+              std::vector<std::string>{"From the crossing of the axes 3 to the left and 4 up."});
     WorkedProblem quadrant = Worked("1) (-3,4)", {"Quadrant II"});
     quadrant.problem.graph = point.problem.graph;
     EXPECT_EQ(KeyLines(quadrant), std::vector<std::string>{"Quadrant II"});

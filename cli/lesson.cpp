@@ -35,11 +35,19 @@ class TerminalLearner : public Learner {
     }
     bool Confirm(std::string_view /*title*/, std::string_view /*text*/) override { return true; }
     std::optional<std::string> InputBox(std::string_view title, std::string_view prompt) override {
-        return AskLine(terminal, Text(prompt, title.empty() ? "" : "  ", title, " "));
+        std::string text;
+        if (command == Next::Solve) {
+            command = AskLine(terminal, Text(prompt, title.empty() ? "" : "  ", title, " "), text);
+        }
+        return command == Next::Solve ? std::optional(text) : std::nullopt;
     }
+
+    /// The command that was given in place of an answer, once; Solve when there was none.
+    Next TakeCommand() { return std::exchange(command, Next::Solve); }
 
   private:
     Terminal& terminal;
+    Next command = Next::Solve;
 };
 
 /// The entry form while an example is put into it.
@@ -114,7 +122,10 @@ class Lesson {
     Next SolveAndPlay() {
         ColumnStage stage(problem, learner);
         const bool failed = compute_Click(problem, AllSolvers(), learner, stage).has_value();
-        Next next = Next::Solve;
+        Next next = learner.TakeCommand();
+        if (next != Next::Solve) {
+            return next;
+        }
         if (!failed) {
             next = problem.columns.Any() || stage.Finished() ? PlayColumns(stage) : PlayLines();
         }

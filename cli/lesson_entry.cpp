@@ -178,10 +178,8 @@ std::optional<std::string> AskForTopic(Terminal& terminal) {
     }
 }
 
-std::optional<std::string> AskLine(Terminal& terminal, const std::string& prompt) {
-    std::string text;
-    const Next next = Fill(terminal, FreeField(prompt, text, ""));
-    return next == Next::Solve ? std::optional(text) : std::nullopt;
+Next AskLine(Terminal& terminal, const std::string& prompt, std::string& text) {
+    return Fill(terminal, FreeField(prompt, text, ""));
 }
 
 void SayHowToEnter(Terminal& terminal, const Problem& problem) {

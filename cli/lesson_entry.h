@@ -20,8 +20,8 @@ enum class Next { Solve, Problem, Example, Topic, Leave };
 /// The caption of a topic, of which the beginning is enough; nothing when the learner leaves.
 std::optional<std::string> AskForTopic(Terminal& terminal);
 
-/// Any line; nothing when the learner leaves.
-std::optional<std::string> AskLine(Terminal& terminal, const std::string& prompt);
+/// Any line, Solve when `text` holds it; else a command.
+Next AskLine(Terminal& terminal, const std::string& prompt, std::string& text);
 
 /// What to enter for the topic, and the commands.
 void SayHowToEnter(Terminal& terminal, const Problem& problem);

@@ -7,6 +7,7 @@
 #include "catalogue/entry_text.h"
 #include "catalogue/topics.h"
 #include "cli/column_picture.h"
+#include "cli/terminal_text.h"
 
 namespace numerello {
 
@@ -31,12 +32,12 @@ int TellUnusable(const Json& answer, std::ostream& err) {
 
 void TellRefusedKeys(const Json& refused, std::ostream& err) {
     for (const Json& key : refused) {
-        err << "The key '" << String(key, "key") << "' was refused";
+        err << "The key '" << VisibleText(String(key, "key")) << "' was refused";
         if (key.contains("box")) {
             err << " in box " << key.at("box").get<int>();
         }
         const std::string why = String(key, "why");
-        err << (why.empty() ? "." : ": " + why) << '\n';
+        err << (why.empty() ? "." : ": " + VisibleText(why)) << '\n';
     }
 }
 
@@ -127,7 +128,7 @@ int PrintTyped(const Json& answer, std::ostream& out, std::ostream& err) {
         const std::string name = String(key, "key") == "\b" ? "Backspace" : String(key, "key");
         out << std::left << std::setw(3) << name << ' ' << String(key, "line");
         if (!key.at("accepted").get<bool>()) {
-            out << "   refused: " << String(key, "why");
+            out << "   refused: " << VisibleText(String(key, "why"));
         }
         out << '\n';
     }

@@ -10,8 +10,10 @@
 #include <csignal>
 #include <cstdlib>
 #include <ostream>
+#include <string_view>
 #include <utility>
 
+#include "cli/terminal_text.h"
 #include "core/text.h"
 
 namespace numerello {
@@ -22,6 +24,7 @@ constexpr int kEnd = -1;
 constexpr int kEscape = 0x1B;
 constexpr int kEscapeWait = 20;  ///< ms until an Escape is a key of its own
 constexpr int kUsualColumns = 80;
+constexpr std::string_view kNoCharacter = "\uFFFD";
 
 // What a signal handler needs.
 termios savedSettings;
@@ -90,18 +93,27 @@ Terminal::~Terminal() {
 }
 
 int Terminal::NextByte() {
+    const int byte = unread ? *std::exchange(unread, std::nullopt) : NextUnreadByte();
+    lineBegins = byte == '\n' || byte == kEnd;
+    return byte;
+}
+
+int Terminal::NextUnreadByte() {
     while (true) {
         unsigned char byte = 0;
         const ssize_t count = read(STDIN_FILENO, &byte, 1);
         if (count == 1) {
-            lineBegins = byte == '\n';
             return byte;
         }
         if (count == 0 || errno != EINTR) {
-            lineBegins = true;
             return kEnd;
         }
     }
+}
+
+void Terminal::Unread(int byte) {
+    unread = byte;
+    lineBegins = false;
 }
 
 bool Terminal::ByteWaits() const {
@@ -151,12 +163,22 @@ KeyPress Terminal::Read() {
         if (byte < ' ') {
             continue;
         }
-        std::string character(1, static_cast<char>(byte));
-        for (std::size_t left = Continuations(byte); left > 0; --left) {
-            character += static_cast<char>(NextByte());
-        }
-        return {Character, character};
+        return {Character, CharacterFrom(byte)};
     }
+}
+
+/// What follows a broken character is a key of its own.
+std::string Terminal::CharacterFrom(int lead) {
+    std::string character(1, static_cast<char>(lead));
+    for (std::size_t left = Continuations(lead); left > 0; --left) {
+        const int byte = NextByte();
+        if (byte == kEnd || (byte & 0xC0) != 0x80) {
+            Unread(byte);
+            return std::string(kNoCharacter);
+        }
+        character += static_cast<char>(byte);
+    }
+    return Characters(character).size() == 1 ? VisibleText(character) : std::string(kNoCharacter);
 }
 
 void Terminal::SkipLine() {

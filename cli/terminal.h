@@ -1,6 +1,7 @@
 #pragma once
 
 #include <iosfwd>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -33,6 +34,7 @@ class Terminal {
     Terminal(const Terminal&) = delete;
     Terminal& operator=(const Terminal&) = delete;
 
+    /// Bytes that are no character in UTF-8 come as "\uFFFD".
     KeyPress Read();
 
     /// In lines of input, what is left of the present one is no more keys.
@@ -52,6 +54,9 @@ class Terminal {
 
   private:
     int NextByte();
+    int NextUnreadByte();
+    void Unread(int byte);
+    std::string CharacterFrom(int lead);
     bool ByteWaits() const;
     void SkipEscape();
     void EraseShown();
@@ -60,6 +65,7 @@ class Terminal {
     bool raw = false;
     bool prompts = false;    ///< somebody types lines
     bool lineBegins = true;  ///< the last byte read ended a line
+    std::optional<int> unread;
     std::string shown;
 };
 

@@ -49,6 +49,19 @@ const Glyph* Find(std::span<const Glyph> glyphs, std::string_view character) {
     return found == glyphs.end() ? nullptr : &*found;
 }
 
+/// The control characters have pictures from U+2400, Delete has one at U+2421. Those of the second
+/// set, from U+0080, have none.
+std::string VisibleCharacter(const std::string& character) {
+    const auto first = static_cast<unsigned char>(character.front());
+    const bool isByte = character.size() == 1;
+    if (isByte && (first < ' ' || first == 0x7F)) {
+        return {'\xE2', '\x90', static_cast<char>(first == 0x7F ? 0xA1 : 0x80 + first)};
+    }
+    const bool isControl =
+        !isByte && first == 0xC2 && static_cast<unsigned char>(character[1]) < 0xA0;
+    return (isByte && first >= 0x80) || isControl ? "\uFFFD" : character;
+}
+
 bool HasOperator(std::string_view part) {
     return part.size() > 1 && part.find_first_of(kOperators, 1) != std::string_view::npos;
 }
@@ -144,7 +157,15 @@ std::string TerminalText(std::string_view line) {
 }
 
 std::string TerminalRefusal(std::string_view text) {
-    return Plain(CharactersWithQuotedMarks(text));
+    return VisibleText(Plain(CharactersWithQuotedMarks(text)));
+}
+
+std::string VisibleText(std::string_view text) {
+    std::string visible;
+    for (const std::string& character : Characters(text)) {
+        visible += VisibleCharacter(character);
+    }
+    return visible;
 }
 
 }  // namespace numerello

@@ -9,7 +9,12 @@ namespace numerello {
 /// partner stays as it is.
 std::string TerminalText(std::string_view line);
 
-/// The same for a refusal, which speaks of the marks themselves: those in quotes stay.
+/// The same for a refusal, which speaks of the marks themselves: those in quotes stay. Its control
+/// characters are those of VisibleText.
 std::string TerminalRefusal(std::string_view text);
+
+/// The text with a picture for each control character, which a terminal would obey, and "\uFFFD"
+/// for one without a picture and for bytes that are no character.
+std::string VisibleText(std::string_view text);
 
 }  // namespace numerello

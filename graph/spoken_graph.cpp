@@ -46,19 +46,40 @@ std::string SpokenLine(double atZero, double slope) {
                 "y axis at ", Spoken(atZero), ".");
 }
 
+bool IsOnePoint(const GraphRequest& points) {
+    return points.GraphX1 == points.GraphX2 && points.GraphY1 == points.GraphY2;
+}
+
 std::string SpokenLineThrough(const GraphRequest& points) {
-    const double run = points.GraphX2 - points.GraphX1;
-    const double rise = points.GraphY2 - points.GraphY1;
-    if (run == 0 && rise == 0) {
+    if (IsOnePoint(points)) {
         return Text("The point ", SpokenPoint(points.GraphX1, points.GraphY1), ", given twice.");
     }
-    const std::string named = Text("The points ", SpokenPoint(points.GraphX1, points.GraphY1),
-                                   " and ", SpokenPoint(points.GraphX2, points.GraphY2), ". ");
+    const double run = points.GraphX2 - points.GraphX1;
     if (run == 0) {
-        return named + SpokenAxisLine({'x', points.GraphX1});
+        return SpokenAxisLine({'x', points.GraphX1});
     }
-    const double slope = rise / run;
-    return named + SpokenLine(points.GraphY1 - slope * points.GraphX1, slope);
+    const double slope = (points.GraphY2 - points.GraphY1) / run;
+    return SpokenLine(points.GraphY1 - slope * points.GraphX1, slope);
+}
+
+std::string SpokenTwoPoints(const GraphRequest& points) {
+    if (IsOnePoint(points)) {
+        return SpokenLineThrough(points);
+    }
+    return Text("The points ", SpokenPoint(points.GraphX1, points.GraphY1), " and ",
+                SpokenPoint(points.GraphX2, points.GraphY2), ". ", SpokenLineThrough(points));
+}
+
+std::string SpokenWay(double value, std::string_view forth, std::string_view back) {
+    return value == 0 ? "" : Text(" ", Spoken(std::abs(value)), value > 0 ? forth : back);
+}
+
+std::string SpokenWayTo(double x, double y) {
+    if (x == 0 && y == 0) {
+        return "At the crossing of the axes.";
+    }
+    return Text("From the crossing of the axes", SpokenWay(x, " to the right", " to the left"),
+                x != 0 && y != 0 ? " and" : "", SpokenWay(y, " up", " down"), ".");
 }
 
 std::string SpokenEquation(const Graph& graph) {
@@ -80,7 +101,7 @@ std::string SpokenPlot(const Graph& graph) {
         return Text("The point ", SpokenPoint(request.GraphX1, request.GraphY1), ".");
     }
     if (request.GraphMode == kTwoPointsGraph) {
-        return SpokenLineThrough(request);
+        return SpokenTwoPoints(request);
     }
     return graph.ThePlot().points.empty() ? "Nothing is drawn." : SpokenEquation(graph);
 }
@@ -93,6 +114,11 @@ std::string SpokenGraph(const Graph& graph) {
                                   NumberText(range.GraphXMax), ". ");
     const std::string numerals = graph.ShowsQuadrants() ? " The quadrants are numbered." : "";
     return axes + SpokenPlot(graph) + numerals;
+}
+
+std::string SpokenAnswer(const GraphRequest& points) {
+    return points.GraphMode == kOnePointGraph ? SpokenWayTo(points.GraphX1, points.GraphY1)
+                                              : SpokenLineThrough(points);
 }
 
 }  // namespace numerello

@@ -1,6 +1,6 @@
 #include "output/practice_test.h"
 
-#include <algorithm>
+#include <array>
 
 #include "catalogue/examples/example.h"
 #include "catalogue/topics.h"
@@ -42,16 +42,6 @@ void WriteProblem(PracticeTest& test, bool complex, ExampleDraws& draws) {
 }
 
 }  // namespace
-
-bool ChooseTestTopic(TestOutline& outline, std::string_view topic, int count) {
-    const auto free = std::find_if(outline.begin(), outline.end(),
-                                   [](const TestRow& row) { return row.topic.empty(); });
-    if (free == outline.end()) {
-        return false;
-    }
-    *free = {std::string(topic), count, false};
-    return true;
-}
 
 std::vector<std::string> PracticeTest::Lines() const {
     std::vector<std::string> lines;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <span>
 #include <string>
 #include <string_view>
@@ -13,17 +12,12 @@
 /// A sheet of made-up problems over chosen topics.
 namespace numerello {
 
-/// A row of the outline; it is free while it has no topic.
+/// A row of the outline; one without a topic is left out.
 struct TestRow {
     std::string topic;
     int count = 0;
     bool complex = false;
 };
-
-using TestOutline = std::array<TestRow, 10>;
-
-/// Puts the topic into the first free row. False when there is none.
-bool ChooseTestTopic(TestOutline& outline, std::string_view topic, int count);
 
 /// A problem of a test: its line, and what somebody would enter for it.
 struct TestProblem {

@@ -2,6 +2,7 @@
 
 #include "core/text.h"
 #include "core/topic_codes.h"
+#include "graph/spoken_graph.h"
 #include "output/print_columns.h"
 #include "output/print_line.h"
 #include "output/silent_learner.h"
@@ -17,10 +18,9 @@ bool IsWorkedInColumns(const WorkedProblem& worked) {
     return worked.problem.topic.ProblemType >= kFirstColumnTopic;
 }
 
-/// Whether the first worked line only says again what the test asks.
-bool RepeatsProblem(const WorkedProblem& worked) {
-    const StepLog& log = worked.problem.log;
-    return log.StepCount > 1 && worked.line.ends_with(Text(") ", log.StepText[1]));
+/// Whether a worked line only says again what the test asks.
+bool RepeatsProblem(const WorkedProblem& worked, const std::string& line) {
+    return worked.line.ends_with(Text(") ", line));
 }
 
 void PrintWorking(const WorkedProblem& worked, Surface& Printer, Learner& learner) {
@@ -63,8 +63,14 @@ void KeepTogether(const WorkedProblem& worked, Surface& Printer, Surface blank) 
 std::vector<std::string> KeyLines(const WorkedProblem& worked) {
     std::vector<std::string> lines;
     const StepLog& log = worked.problem.log;
-    for (int i = RepeatsProblem(worked) ? 2 : 1; i < log.StepCount; ++i) {
+    for (int i = 1; i < log.StepCount; ++i) {
         lines.push_back(log.StepText[i]);
+    }
+    if (lines.empty() && worked.problem.graph.GraphMode != 0) {
+        return {SpokenAnswer(worked.problem.graph)};
+    }
+    if (lines.size() > 1 && RepeatsProblem(worked, lines.front())) {
+        lines.erase(lines.begin());
     }
     return lines;
 }

@@ -17,8 +17,9 @@ std::vector<int> PrintAnswerKey(const HeadingLines& heading,
                                 std::span<const WorkedProblem> problems, Surface& Printer,
                                 Learner& learner);
 
-/// The worked lines that the key prints below a problem: all but one that only says again what the
-/// test asks. None for a column problem, which is drawn.
+/// The lines that the key prints below a problem: the worked ones, without a first one that only
+/// says again what the test asks, unless that is the answer. Points and lines that are only drawn
+/// are told in words. None for a column problem, which is drawn.
 std::vector<std::string> KeyLines(const WorkedProblem& worked);
 
 }  // namespace numerello

@@ -46,6 +46,11 @@ bool IsEnter(int key) {
     return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
+/// What a row keeps for its topic's name in a narrow window.
+int SmallestNameWidth(const QWidget& window) {
+    return WidestTopic(window) * 3 / 4;
+}
+
 HeadingLines FreshHeading(const Date& today) {
     return HeadingAtOpening("Practice Test", today);
 }
@@ -73,8 +78,8 @@ FrmPracticeTest::FrmPracticeTest(TestMaker makeTest, std::optional<HeadingLines>
     right->addWidget(this->heading.group);
     right->addLayout(MakeButtons());
     auto* row = new QHBoxLayout(this);
-    row->addWidget(ssTab1, 1);
-    row->addLayout(right, 1);
+    row->addWidget(ssTab1, TopicsWidth());
+    row->addLayout(right, OutlineWidth());
     resize(PreferredSize());
     treeView1->setFocus();
 }
@@ -151,9 +156,8 @@ FrmPracticeTest::Row FrmPracticeTest::MakeRow(int index, QWidget* parent) {
     Row row{new QLineEdit(parent), new QComboBox(parent), new QCheckBox(parent)};
     row.Text4->setObjectName(QStringLiteral("Text4(%1)").arg(index));
     row.Text4->setAccessibleName(QStringLiteral("Problem type of row %1").arg(number));
-    row.Text4->setToolTip(QStringLiteral("Delete or Backspace empties the row"));
     row.Text4->setReadOnly(true);
-    row.Text4->setMinimumWidth(WidestTopic(*this) * 3 / 4);
+    row.Text4->setMinimumWidth(SmallestNameWidth(*this));
     row.Text4->installEventFilter(this);
 
     row.Combo1->setObjectName(QStringLiteral("Combo1(%1)").arg(index));
@@ -184,12 +188,19 @@ QLayout* FrmPracticeTest::MakeButtons() {
     return buttons;
 }
 
-/// Room for the longest caption three folders deep and in the outline.
+/// Room for the longest caption three folders deep.
+int FrmPracticeTest::TopicsWidth() const {
+    return WidestTopic(*this) + 4 * TopicIndentation(*this) + 7 * kMargin;
+}
+
+/// Room for the longest caption in a row.
+int FrmPracticeTest::OutlineWidth() const {
+    const int smallest = rows.front().Text4->parentWidget()->minimumSizeHint().width();
+    return smallest + WidestTopic(*this) - SmallestNameWidth(*this) + 3 * kMargin;
+}
+
 QSize FrmPracticeTest::PreferredSize() const {
-    const int topics = WidestTopic(*this) + 4 * TopicIndentation(*this) + 7 * kMargin;
-    const int outline = rows.front().Text4->parentWidget()->minimumSizeHint().width() +
-                        WidestTopic(*this) / 4 + 2 * kMargin;
-    const QSize needed(topics + outline + 4 * kMargin,
+    const QSize needed(TopicsWidth() + OutlineWidth() + 4 * kMargin,
                        std::max(sizeHint().height(), kSmallestHeight));
     return needed.boundedTo(screen()->availableSize() * kScreenShare);
 }
@@ -206,6 +217,9 @@ bool FrmPracticeTest::eventFilter(QObject* watched, QEvent* event) {
         if (KeyInTopics(watched, key) || KeyInRow(watched, key)) {
             return true;
         }
+    }
+    if (event->type() == QEvent::FocusOut) {
+        ShowBeginning(watched);
     }
     return QDialog::eventFilter(watched, event);
 }
@@ -239,6 +253,15 @@ bool FrmPracticeTest::KeyInRow(QObject* watched, int key) {
     return false;
 }
 
+/// A name that is too long for its row would else be left as the cursor scrolled it.
+void FrmPracticeTest::ShowBeginning(QObject* watched) {
+    for (Row& row : rows) {
+        if (watched == row.Text4) {
+            row.Text4->setCursorPosition(0);
+        }
+    }
+}
+
 void FrmPracticeTest::ClickNode(QTreeWidgetItem& item) {
     if (item.childCount() > 0) {
         item.setExpanded(!item.isExpanded());
@@ -266,8 +289,10 @@ void FrmPracticeTest::Choose(std::string_view caption) {
 
 void FrmPracticeTest::Fill(Row& row, const QString& caption) {
     const bool filled = !caption.isEmpty();
+    const QString hint = QStringLiteral("Delete or Backspace empties the row");
     row.Text4->setText(caption);
     row.Text4->setCursorPosition(0);
+    row.Text4->setToolTip(filled ? caption + u'\n' + hint : hint);
     row.Combo1->setCurrentIndex(filled ? kUsualChoice : -1);
     row.Combo1->setEnabled(filled);
     row.Check1->setChecked(false);

@@ -52,10 +52,13 @@ class FrmPracticeTest : public QDialog {
     QWidget* MakeOutline();
     Row MakeRow(int index, QWidget* parent);
     QLayout* MakeButtons();
+    int TopicsWidth() const;
+    int OutlineWidth() const;
     QSize PreferredSize() const;
 
     bool KeyInTopics(QObject* watched, int key);
     bool KeyInRow(QObject* watched, int key);
+    void ShowBeginning(QObject* watched);
     void ClickNode(QTreeWidgetItem& item);
     void ChooseNode(QTreeWidgetItem& item);
     void Choose(std::string_view caption);

@@ -52,7 +52,10 @@ class Lesson:
         self.seen = self.seen.partition(text)[2]
 
     def press(self, keys):
-        os.write(self.master, keys.encode())
+        self.press_bytes(keys.encode())
+
+    def press_bytes(self, keys):
+        os.write(self.master, keys)
 
     def end(self):
         """How the process ended, once it has."""
@@ -149,6 +152,32 @@ def asks_for_values():
     check(lesson.end() == 0, "Ctrl+C does not leave")
 
 
+def takes_commands_in_place_of_a_value():
+    def asked():
+        lesson = Lesson(TOPIC, "Evaluating Polynomials")
+        lesson.await_text("Problem: ")
+        lesson.press("3x+4y\n")
+        lesson.await_text("x = ?")
+        return lesson
+
+    for key in "\x03\x04":
+        lesson = asked()
+        lesson.press(key)
+        check(lesson.end() == 0, f"{key!r} does not leave in place of a value")
+        check("y = ?" not in lesson.seen and "-- Enter" not in lesson.seen,
+              f"{key!r} brings {lesson.seen!r}")
+    lesson = asked()
+    lesson.press("5\n")
+    lesson.await_text("y = ?")
+    lesson.press("7\x05")
+    lesson.await_text("Example: ")
+    lesson.await_text("= ?")
+    lesson.press("\x14")
+    lesson.await_text("Topic: ")
+    lesson.press("q")
+    check(lesson.end() == 0, "q does not leave at the topic")
+
+
 def leaves_in_the_middle_of_a_line():
     for key in "\x03\x04":
         lesson = Lesson(TOPIC, "Simplifying Polynomials")
@@ -228,7 +257,30 @@ def gives_examples_of_every_topic():
         check("was not recognized" not in out, f"{caption} fails: {out[-300:]}")
 
 
+def takes_no_key_for_a_part_of_a_broken_character():
+    for broken in (b"\xc3", b"\xe2\x82", b"\xf0\x9f", b"\xff", b"\x80"):
+        lesson = Lesson(TOPIC, "Arithmetic")
+        lesson.await_text("Problem: ")
+        lesson.press_bytes(b"3" + broken + b"+4\n")
+        lesson.await_text("\ufffd")
+        lesson.await_text("Problem: 3+4")
+        lesson.await_text("-- Enter: next step")
+        lesson.press("q")
+        check(lesson.end() == 0, f"{broken!r} keeps the lesson")
+    done = subprocess.run([CLI, "learn", TOPIC, "Arithmetic"], input=b"3+4\xe2", timeout=10,
+                          stdout=subprocess.PIPE, check=False)
+    check(b"\xff" not in done.stdout, "the end of the input becomes a byte")
+    lesson = Lesson(TOPIC, "Arithmetic")
+    lesson.await_text("Problem: ")
+    lesson.press("\x9b31m")
+    lesson.await_text("\ufffd")
+    check("\x9b" not in lesson.seen, "a control character reaches the terminal")
+    lesson.press("\x04")
+    check(lesson.end() == 0, "Ctrl+D does not leave")
+
+
 for scene in (types_and_plays, chooses_by_the_beginning, works_in_columns, asks_for_values,
+              takes_commands_in_place_of_a_value, takes_no_key_for_a_part_of_a_broken_character,
               leaves_in_the_middle_of_a_line,
               clears_what_goes_over_several_rows, restores_the_terminal_on_signals,
               reads_lines_where_the_terminal_cannot_draw, reads_lines_from_a_pipe,

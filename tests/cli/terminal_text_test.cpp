@@ -49,5 +49,13 @@ TEST(TerminalRefusal, LeavesQuotedMarksAlone) {
               "You can't type a √ after a '3'. ");
 }
 
+TEST(TerminalRefusal, ShowsControlCharacters) {
+    EXPECT_EQ(TerminalRefusal("You can't type a '\x1B' after a '3'."),
+              "You can't type a '\u241B' after a '3'.");
+    EXPECT_EQ(VisibleText(std::string("\0\n\x7F", 3)), "\u2400\u240A\u2421");
+    EXPECT_EQ(VisibleText("a\xC2\x9B\xFF\xE2\x82"), "a\uFFFD\uFFFD\uFFFD\uFFFD");
+    EXPECT_EQ(VisibleText("\u00A0\u20AC\u00E9"), "\u00A0\u20AC\u00E9");
+}
+
 }  // namespace
 }  // namespace numerello

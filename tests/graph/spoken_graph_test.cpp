@@ -38,6 +38,27 @@ TEST(SpokenGraph, SaysWhereALineGoes) {
     EXPECT_EQ(Spoken(AskedEquation("+1/1y^+1=-1/2")), "A horizontal line at y = -0.5.");
 }
 
+std::string Answer(const Problem& problem) {
+    return SpokenAnswer(problem.graph);
+}
+
+TEST(SpokenAnswer, SaysHowToGetToAPoint) {
+    EXPECT_EQ(Answer(AskedPoint(4, -8)),
+              "From the crossing of the axes 4 to the right and 8 down.");
+    EXPECT_EQ(Answer(AskedPoint(-2.5, 0)), "From the crossing of the axes 2.5 to the left.");
+    EXPECT_EQ(Answer(AskedPoint(0, 3)), "From the crossing of the axes 3 up.");
+    EXPECT_EQ(Answer(AskedPoint(0, 0)), "At the crossing of the axes.");
+}
+
+TEST(SpokenAnswer, SaysWhereTheLineThroughTwoPointsGoes) {
+    EXPECT_EQ(Answer(AskedLine(1, 2, 5, 6)),
+              "A line that rises from left to right. It crosses the x axis at -1 and the y axis at "
+              "1.");
+    EXPECT_EQ(Answer(AskedLine(3, 1, 3, 7)), "A vertical line at x = 3.");
+    EXPECT_EQ(Answer(AskedLine(3, 7, -1, 7)), "A horizontal line at y = 7.");
+    EXPECT_EQ(Answer(AskedLine(1, 2, 1, 2)), "The point (1, 2), given twice.");
+}
+
 TEST(SpokenGraph, SaysWhatElseThereIs) {
     EXPECT_EQ(Spoken(AskedEquation("y^2=x")), "A curve of 402 points.");
     EXPECT_EQ(Spoken(AskedEquation("y=(x)")), "Nothing is drawn.");

@@ -42,6 +42,25 @@ TEST(AnswerKey, KeepsAFirstLineThatSaysMoreThanTheProblem) {
     EXPECT_TRUE(KeyLines(Worked("1) 2+", std::vector<std::string>())).empty());
 }
 
+TEST(AnswerKey, KeepsTheOnlyLineThoughItRepeatsTheProblem) {
+    PlainPrinter printer;
+    const WorkedProblem root = Worked("1) ~7~", {"~7~"});
+    EXPECT_EQ(KeyLines(root), std::vector<std::string>{"~7~"});
+    Print({root, Worked("2) 2+3", {"2+3"})}, printer);
+    const std::vector<Row> rows = RowsOf(printer.surface.Marks());
+    ExpectRow(rows, rows.size() - 1, {"2+3", 12 + 8 * kBlank, rows[rows.size() - 2].y + kPitch});
+}
+
+TEST(AnswerKey, TellsInWordsWhatIsOnlyDrawn) {
+    WorkedProblem point = Worked("1) (-3,4)", std::vector<std::string>());
+    point.problem.graph = {.GraphMode = 1, .GraphX1 = -3, .GraphY1 = 4};
+    EXPECT_EQ(KeyLines(point),
+              std::vector<std::string>{"From the crossing of the axes 3 to the left and 4 up."});
+    WorkedProblem quadrant = Worked("1) (-3,4)", {"Quadrant II"});
+    quadrant.problem.graph = point.problem.graph;
+    EXPECT_EQ(KeyLines(quadrant), std::vector<std::string>{"Quadrant II"});
+}
+
 TEST(AnswerKey, DrawsColumnProblems) {
     PlainPrinter printer;
     WorkedProblem sum{"1) 47 + 38", Problem()};

@@ -151,18 +151,5 @@ TEST(SetTestTopic, SetsTheNumbersOfTheTopic) {
     EXPECT_EQ(test.TestHeading, "Add:");
 }
 
-TEST(TestOutline, FillsTheFirstFreeRow) {
-    TestOutline outline;
-    for (int i = 0; i < 10; ++i) {
-        EXPECT_TRUE(ChooseTestTopic(outline, i % 2 == 0 ? "Addition" : "Ratios", 5));
-    }
-    EXPECT_FALSE(ChooseTestTopic(outline, "Means (Averages)", 5));
-    outline[3] = {};
-    EXPECT_TRUE(ChooseTestTopic(outline, "Medians", 7));
-    EXPECT_EQ(outline[3].topic, "Medians");
-    EXPECT_EQ(outline[3].count, 7);
-    EXPECT_EQ(outline[9].topic, "Ratios");
-}
-
 }  // namespace
 }  // namespace numerello

@@ -8,7 +8,9 @@
 /// Fonts, painting and windows need the toolkit's application object, but no screen.
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("NUMERELLO_TESTS_ON_SCREEN")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     // Nothing is printed on the printer of whoever runs the tests.
     qputenv("CUPS_SERVER", "/nowhere");
     // Nothing is read from the home of whoever runs the tests, or written there.

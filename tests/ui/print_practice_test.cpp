@@ -7,8 +7,10 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QStyleOptionFrame>
 #include <QTabWidget>
 #include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 
 #include "tests/ui/printed_forms.h"
 #include "ui/frm_practice_test.h"
@@ -237,6 +239,63 @@ TEST_F(PracticeTest, KeepsTheHeadingForTheNextTime) {
     Open();
     EXPECT_EQ(Find<QLineEdit>(*form, "Text1").text(), "Miss Bell");
     EXPECT_EQ(Text4(0).text(), "");
+}
+
+/// How wide the text of a row is, less what it has room for.
+int LackingWidth(const QLineEdit& row) {
+    QStyleOptionFrame frame;
+    frame.initFrom(&row);
+    frame.lineWidth = row.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &frame, &row);
+    const QRect inner = row.style()->subElementRect(QStyle::SE_LineEditContents, &frame, &row);
+    constexpr int kInnerMargin = 2;
+    return row.fontMetrics().horizontalAdvance(row.text()) - inner.width() + 2 * kInnerMargin;
+}
+
+TEST_F(PracticeTest, ShowsEveryCaptionOfTheTree) {
+    QTreeWidget& tree = TreeView1();
+    tree.expandAll();
+    QCoreApplication::processEvents();
+    int shown = 0;
+    for (QTreeWidgetItemIterator item(&tree); *item != nullptr; ++item) {
+        const QRect row = tree.visualItemRect(*item);
+        const int text = tree.fontMetrics().horizontalAdvance((*item)->text(0));
+        EXPECT_GE(row.width(), text + tree.iconSize().width()) << (*item)->text(0).toStdString();
+        EXPECT_LE(row.right(), tree.columnWidth(0)) << (*item)->text(0).toStdString();
+        ++shown;
+    }
+    EXPECT_GT(shown, 97);
+    tree.collapseAll();
+    QCoreApplication::processEvents();
+    EXPECT_GT(tree.columnWidth(0), tree.fontMetrics().horizontalAdvance(
+                                       QStringLiteral("Means(Averages)/Medians/Modes/Ranges")));
+}
+
+TEST_F(PracticeTest, HasRoomForTheLongestName) {
+    // Nine tenths of a screen of 1280 by 800.
+    form->resize(1152, 720);
+    QListWidget& list = IndexList();
+    for (int row = 0; row < list.count(); ++row) {
+        ChooseInIndex(list.item(row)->text());
+        EXPECT_LE(LackingWidth(Text4(0)), 0) << Text4(0).text().toStdString();
+        Text4(0).setFocus();
+        PressKey(*form, Qt::Key_Delete);
+    }
+}
+
+TEST_F(PracticeTest, ShowsTheBeginningOfANameInANarrowWindow) {
+    const QString name = QStringLiteral("Converting Scientific To Regular Notation");
+    form->resize(form->minimumSizeHint());
+    ChooseInIndex(name);
+    EXPECT_GT(LackingWidth(Text4(0)), 0);
+    EXPECT_TRUE(Text4(0).toolTip().startsWith(name));
+    Text4(0).setFocus(Qt::TabFocusReason);
+    PressKey(*form, Qt::Key_End);
+    EXPECT_EQ(Text4(0).cursorPosition(), name.size());
+    Combo1(0).setFocus();
+    EXPECT_EQ(Text4(0).cursorPosition(), 0);
+    Text4(0).setFocus();
+    PressKey(*form, Qt::Key_Delete);
+    EXPECT_FALSE(Text4(0).toolTip().contains(name));
 }
 
 TEST_F(PracticeTest, NamesEveryControl) {

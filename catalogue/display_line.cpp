@@ -56,7 +56,7 @@ void ChunkChars(Problem& problem) {
 
 std::string FormatForDisplay(Problem& problem) {
     TypedProblem& typed = problem.typed;
-    LineSetter setter(problem.topic.ProblemType);
+    LineSetter setter(problem.topic.ProblemType, static_cast<std::size_t>(typed.ExprCellCount) + 1);
     for (int i = 0; i <= typed.ExprCellCount && !typed.ExprCells[i].empty(); ++i) {
         setter.Add(typed.ExprCells[i]);
     }
@@ -73,7 +73,7 @@ std::string FormatForDisplay(Problem& problem) {
         typed.ExprCells[cell + 1] = token.after.substr(0, 1);
         typed.ExprCells[cell + 2] = token.after.empty() ? "" : token.after.substr(1);
         typed.ExprCellCount = cell;
-        text += token.before + token.text + token.after;
+        text.append(token.before).append(token.text).append(token.after);
     }
     return text;
 }

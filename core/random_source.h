@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <random>
 
 namespace numerello {
@@ -16,15 +17,26 @@ class RandomSource {
     virtual double Rnd() = 0;
 };
 
+/// Its table is set up at the first draw: most that are made are never drawn from.
 class MersenneSource : public RandomSource {
   public:
-    explicit MersenneSource(std::uint32_t seed = 0) : engine(seed) {}
+    explicit MersenneSource(std::uint32_t seed = 0) : seed(seed) {}
 
-    void Seed(std::uint32_t seed) override { engine.seed(seed); }
-    double Rnd() override { return static_cast<double>(engine()) / 4294967296.0; }
+    void Seed(std::uint32_t newSeed) override {
+        seed = newSeed;
+        engine.reset();
+    }
+
+    double Rnd() override {
+        if (!engine) {
+            engine.emplace(seed);
+        }
+        return static_cast<double>((*engine)()) / 4294967296.0;
+    }
 
   private:
-    std::mt19937 engine;
+    std::uint32_t seed;
+    std::optional<std::mt19937> engine;
 };
 
 }  // namespace numerello

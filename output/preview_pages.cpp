@@ -14,7 +14,6 @@ void PreviewPages::Build(const HeadingLines& heading, std::span<const std::strin
                          Learner& learner) {
     pages.clear();
     AddPage();
-    previewPage = 0;
     PrintHeading(heading, Current());
     PrintEmptyLine(Current());
     std::string_view above;
@@ -27,28 +26,14 @@ void PreviewPages::Build(const HeadingLines& heading, std::span<const std::strin
         const bool began = before.surface.Marks().size() > marks;
         (began ? before : pages.back()).lines.push_back(line);
     }
-    previewPage = 0;
 }
 
 Surface& PreviewPages::Current() {
-    return pages[static_cast<std::size_t>(previewPage)].surface;
+    return pages.back().surface;
 }
 
 void PreviewPages::Turn() {
     AddPage();
-    ++previewPage;
-}
-
-void PreviewPages::Command4_Click() {
-    if (previewPage > 0) {
-        --previewPage;
-    }
-}
-
-void PreviewPages::Command5_Click() {
-    if (previewPage < PreviewPageCount()) {
-        ++previewPage;
-    }
 }
 
 const Surface& PreviewPages::Page(int page) const {

@@ -11,13 +11,13 @@
 
 namespace numerello {
 
-/// The pages of a print preview, made when they are turned to, and which of them is on show.
+/// The pages of a print preview, made when they are turned to.
 class PreviewPages : public Sheets {
   public:
     /// The metrics must outlive the pages.
     explicit PreviewPages(const TextMetrics& metrics);
 
-    /// Draws a practice test from the first page on, and shows that.
+    /// Draws a practice test from the first page on.
     void Build(const HeadingLines& heading, std::span<const std::string> TestLines,
                Learner& learner);
 
@@ -25,11 +25,7 @@ class PreviewPages : public Sheets {
     Surface& Current() override;
     void Turn() override;
 
-    /// Previous and next page; at the ends nothing happens.
-    void Command4_Click();
-    void Command5_Click();
-
-    int PreviewPage() const { return previewPage; }
+    /// Index of the last page.
     int PreviewPageCount() const { return static_cast<int>(pages.size()) - 1; }
 
     /// Counted from 0; throws Failure(Format) beyond the last.
@@ -47,8 +43,7 @@ class PreviewPages : public Sheets {
     void AddPage();
 
     const TextMetrics& metrics;
-    std::deque<DrawnPage> pages;
-    int previewPage = 0;  ///< index of the page being drawn or shown
+    std::deque<DrawnPage> pages;  ///< the last one is being drawn
 };
 
 }  // namespace numerello

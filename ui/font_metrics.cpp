@@ -12,6 +12,9 @@ namespace {
 
 constexpr const char* kSheetFontFile = ":/font/VantrelFont-Regular.otf";
 
+/// Has the letters that the other faces lack.
+constexpr std::string_view kOtherAlphabets = "Liberation Serif";
+
 constexpr double kPixelsPerPoint = 4.0 / 3;
 constexpr double kSheetBlank = 67.0 / 204;
 constexpr double kSheetLine = 43.0 / 30;
@@ -64,18 +67,25 @@ FontMetrics::Master& FontMetrics::MasterOf(const std::string& name) const {
     return place->second;
 }
 
+std::string FontMetrics::NameOfFace(char32_t character, const std::string& name) const {
+    return MasterOf(name).face.supportsCharacter(character) ? name : std::string(kOtherAlphabets);
+}
+
+const QRawFont& FontMetrics::FaceOf(char32_t character, const Font& font) const {
+    return Face({NameOfFace(character, font.name), font.size});
+}
+
 double FontMetrics::CharacterWidth(char32_t character, const Font& font) const {
     if (character == U' ' && medium == Medium::Sheet) {
         return kSheetBlank * font.size;
     }
-    Master& master = MasterOf(font.name);
-    const auto [place, isNew] = master.emWidths.try_emplace(character);
+    const auto [place, isNew] = MasterOf(font.name).emWidths.try_emplace(character);
     if (isNew) {
-        const QList<quint32> glyphs =
-            master.face.glyphIndexesForString(QString::fromUcs4(&character, 1));
-        const QList<QPointF> advances = master.face.advancesForGlyphIndexes(
+        const QRawFont& face = MasterOf(NameOfFace(character, font.name)).face;
+        const QList<quint32> glyphs = face.glyphIndexesForString(QString::fromUcs4(&character, 1));
+        const QList<QPointF> advances = face.advancesForGlyphIndexes(
             glyphs, QRawFont::SeparateAdvances | QRawFont::UseDesignMetrics);
-        place->second = advances.isEmpty() ? 0 : advances.front().x() / master.face.pixelSize();
+        place->second = advances.isEmpty() ? 0 : advances.front().x() / face.pixelSize();
     }
     return place->second * font.size * kPixelsPerPoint;
 }

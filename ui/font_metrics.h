@@ -36,6 +36,10 @@ class FontMetrics : public TextMetrics {
     /// metrics.
     const QRawFont& Face(const Font& font) const;
 
+    /// The face that a character is set in: that of the font, or where it has no such character, as
+    /// in a name of another alphabet, the face of the distribution that knows most of them.
+    const QRawFont& FaceOf(char32_t character, const Font& font) const;
+
     /// Advance of one character, in the font's size.
     double CharacterWidth(char32_t character, const Font& font) const;
 
@@ -47,6 +51,7 @@ class FontMetrics : public TextMetrics {
     };
 
     Master& MasterOf(const std::string& name) const;
+    std::string NameOfFace(char32_t character, const std::string& name) const;
 
     Medium medium;
     mutable std::map<std::string, Master, std::less<>> masters;

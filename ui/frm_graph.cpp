@@ -20,6 +20,8 @@ constexpr int kTwipsPerPixel = 15;
 constexpr int kNormalSide = 8000 / kTwipsPerPixel;
 constexpr int kSmallSide = (4000 + kTwipsPerPixel / 2) / kTwipsPerPixel;
 
+constexpr int kBesideEdge = 24;  ///< from the right edge of the frame, when the window opens
+
 constexpr int kCaptionHeight = 32;  ///< what the desktop adds above a window, at a guess
 
 /// What lies on the drawing keeps away from its edges.
@@ -165,8 +167,10 @@ void FrmGraph::OnTrigger(const char* name, Procedure procedure) {
 void FrmGraph::Open() {
     ResizeDrawing(kNormalSide);
     if (parentWidget() != nullptr) {
+        // Solutions stand at the left of their sheet.
         QRect place = geometry();
         place.moveCenter(parentWidget()->geometry().center());
+        place.moveRight(parentWidget()->geometry().right() - kBesideEdge);
         setGeometry(OnScreen(place, parentWidget()->screen()->availableGeometry()));
     }
     show();

@@ -134,22 +134,22 @@ void FrmPrintPreview::ShowPages() {
     ShownPages shown = preview.show(paper, faces, learner);
 
     auto* stack = new QWidget;
-    Picture1.clear();
+    pictures.clear();
     for (ShownPage& page : shown.pages) {
-        const auto index = static_cast<int>(Picture1.size());
-        Picture1.push_back(
+        const auto index = static_cast<int>(pictures.size());
+        pictures.push_back(
             new PreviewPicture(index, std::move(page), shown.scale, shown.zoom, faces, stack));
     }
     pages->setWidget(stack);
-    label3->setText(QString::number(Picture1.size()));
+    label3->setText(QString::number(pictures.size()));
     FitPictures();
-    ShowPage(std::min(PreviewPage, static_cast<int>(Picture1.size()) - 1));
+    ShowPage(std::min(previewPage, static_cast<int>(pictures.size()) - 1));
 }
 
 void FrmPrintPreview::ShowPage(int page) {
-    PreviewPage = page;
-    for (std::size_t i = 0; i < Picture1.size(); ++i) {
-        Picture1[i]->setVisible(static_cast<int>(i) == page);
+    previewPage = page;
+    for (std::size_t i = 0; i < pictures.size(); ++i) {
+        pictures[i]->setVisible(static_cast<int>(i) == page);
     }
     label4->setText(QString::number(page + 1));
     pages->verticalScrollBar()->setValue(0);
@@ -157,21 +157,21 @@ void FrmPrintPreview::ShowPage(int page) {
 
 /// As wide as the window has room for.
 void FrmPrintPreview::FitPictures() {
-    const double natural = Picture1.front()->NaturalSize().width();
+    const double natural = pictures.front()->NaturalSize().width();
     const double room = pages->viewport()->width() - 2 * kAroundPage;
     const int width = qRound(std::clamp(room, natural, natural * kLargestZoom));
-    for (PreviewPicture* picture : Picture1) {
+    for (PreviewPicture* picture : pictures) {
         picture->SetWidth(width);
         picture->move(kAroundPage, kAroundPage);
     }
-    pages->widget()->setFixedSize(Picture1.front()->size() +
+    pages->widget()->setFixedSize(pictures.front()->size() +
                                   QSize(2 * kAroundPage, 2 * kAroundPage));
 }
 
 /// The page a little larger than life, with the controls beside it.
 QSize FrmPrintPreview::PreferredSize() const {
     constexpr double kComfortable = 1.25;
-    const QSizeF page = Picture1.front()->NaturalSize() * kComfortable;
+    const QSizeF page = pictures.front()->NaturalSize() * kComfortable;
     const int around = 4 * kAroundPage + pages->verticalScrollBar()->sizeHint().width();
     const QSize needed(
         qRound(page.width()) + around + printer.group->sizeHint().width() + 2 * kAroundPage,
@@ -180,7 +180,7 @@ QSize FrmPrintPreview::PreferredSize() const {
 }
 
 bool FrmPrintPreview::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == pages->viewport() && event->type() == QEvent::Resize && !Picture1.empty()) {
+    if (watched == pages->viewport() && event->type() == QEvent::Resize && !pictures.empty()) {
         FitPictures();
     }
     return QDialog::eventFilter(watched, event);
@@ -204,14 +204,14 @@ void FrmPrintPreview::Command3_Click() {
 }
 
 void FrmPrintPreview::Command4_Click() {
-    if (PreviewPage > 0) {
-        ShowPage(PreviewPage - 1);
+    if (previewPage > 0) {
+        ShowPage(previewPage - 1);
     }
 }
 
 void FrmPrintPreview::Command5_Click() {
-    if (PreviewPage + 1 < static_cast<int>(Picture1.size())) {
-        ShowPage(PreviewPage + 1);
+    if (previewPage + 1 < static_cast<int>(pictures.size())) {
+        ShowPage(previewPage + 1);
     }
 }
 

@@ -48,8 +48,8 @@ class FrmPrintPreview : public QDialog {
     FontMetrics faces{FontMetrics::Medium::Print};
     PrinterGroup printer;
     PaperSize paper{};
-    std::vector<PreviewPicture*> Picture1;
-    int PreviewPage = 0;
+    std::vector<PreviewPicture*> pictures;
+    int previewPage = 0;
     QScrollArea* pages = nullptr;
     QLabel* label4 = nullptr;
     QLabel* label3 = nullptr;

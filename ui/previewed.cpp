@@ -74,9 +74,9 @@ ShownPages KeyPages(const HeadingLines& heading, const std::vector<WorkedProblem
                     PaperSize paper, const TextMetrics& faces, Learner& learner) {
     ShownPages shown{.scale = ScaleOfPrint(paper), .zoom = kPreviewZoom, .pages = {}};
     const ScaledMetrics metrics(faces, shown.scale);
-    Surface Printer(metrics, {std::string(kSheetFace), kLineSize});
-    const std::vector<int> places = PrintAnswerKey(heading, problems, Printer, learner);
-    for (int page = 0; page < Printer.PageCount(); ++page) {
+    Surface printer(metrics, {std::string(kSheetFace), kLineSize});
+    const std::vector<int> places = PrintAnswerKey(heading, problems, printer, learner);
+    for (int page = 0; page < printer.PageCount(); ++page) {
         Words words(heading, page);
         for (std::size_t i = 0; i < problems.size(); ++i) {
             if (places[i] == page) {
@@ -85,7 +85,7 @@ ShownPages KeyPages(const HeadingLines& heading, const std::vector<WorkedProblem
             }
         }
         shown.pages.push_back(
-            {MarksInPixels(Printer.PageMarks(page), shown.scale), words.Joined()});
+            {MarksInPixels(printer.PageMarks(page), shown.scale), words.Joined()});
     }
     return shown;
 }

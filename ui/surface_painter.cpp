@@ -133,22 +133,36 @@ class Joint {
     Color color = kBlack;
 };
 
-void PaintText(QPainter& painter, const TextMark& mark, const FontMetrics& faces) {
-    const QRawFont& face = faces.Face(mark.font);
-    QList<quint32> glyphs;
-    QList<QPointF> places;
-    double x = 0;
-    for (const char32_t character : QString::fromStdString(mark.text).toStdU32String()) {
-        glyphs += face.glyphIndexesForString(QString::fromUcs4(&character, 1));
-        places.append({x, 0});
-        x += faces.CharacterWidth(character, mark.font);
-    }
+/// Draws a run of glyphs of one face, whose origin is the mark's left end on the baseline.
+void DrawRun(QPainter& painter, const QRawFont& face, QPointF origin, QList<quint32>& glyphs,
+             QList<QPointF>& places) {
     QGlyphRun run;
     run.setRawFont(face);
     run.setGlyphIndexes(glyphs);
     run.setPositions(places);
+    painter.drawGlyphRun(origin, run);
+    glyphs.clear();
+    places.clear();
+}
+
+void PaintText(QPainter& painter, const TextMark& mark, const FontMetrics& faces) {
+    const QPointF origin(mark.x, mark.y + faces.Ascent(mark.font));
     painter.setPen(ToQColor(mark.color));
-    painter.drawGlyphRun({mark.x, mark.y + faces.Ascent(mark.font)}, run);
+    const QRawFont* face = &faces.Face(mark.font);
+    QList<quint32> glyphs;
+    QList<QPointF> places;
+    double x = 0;
+    for (const char32_t character : QString::fromStdString(mark.text).toStdU32String()) {
+        const QRawFont& its = faces.FaceOf(character, mark.font);
+        if (&its != face) {
+            DrawRun(painter, *face, origin, glyphs, places);
+            face = &its;
+        }
+        glyphs += face->glyphIndexesForString(QString::fromUcs4(&character, 1));
+        places.append({x, 0});
+        x += faces.CharacterWidth(character, mark.font);
+    }
+    DrawRun(painter, *face, origin, glyphs, places);
 }
 
 void PaintStroke(QPainter& painter, const StrokeMark& mark) {

@@ -34,6 +34,21 @@ TEST(PrintHeading, SetsALineTooLongForThePaperSmaller) {
     EXPECT_NEAR(std::get<TextMark>(printer.surface.Marks().back()).y, 4 * kLine, 1e-9);
 }
 
+TEST(PrintHeading, MeansTheCharactersThatTheSheetsDrawAsMathematics) {
+    PlainPrinter printer;
+    PrintHeading({"Bob & Ann $5", "~", ""}, printer.surface);
+    const double ampersand = 3 * kBlank + 3 * kCharacter + kBlank;
+    const double dollar = ampersand + kCharacter + kBlank + 3 * kCharacter + kBlank;
+    const std::string other(kExplanationFace);
+    ExpectRows(printer.surface.Marks(), {{"   Bob ", 0, 3 * kLine},
+                                         {"&", ampersand, 3 * kLine, 12, other},
+                                         {" Ann ", ampersand + kCharacter, 3 * kLine},
+                                         {"$", dollar, 3 * kLine, 12, other},
+                                         {"5", dollar + kCharacter, 3 * kLine},
+                                         {"~", 3 * kBlank, 4 * kLine, 12, other}});
+    EXPECT_EQ(printer.surface.FontName(), kSheetFace);
+}
+
 TEST(PrintHeading, IsBlackWhateverWasPrintedBefore) {
     PlainPrinter printer;
     printer.surface.ForeColor = kBlue;

@@ -234,5 +234,21 @@ TEST(OtherFaces, KeepTheRuledPitchOnASheetOnly) {
     EXPECT_NEAR(explanation.Width(" ", antiqua), 4, 0.001);
 }
 
+TEST(Font, SetsOtherAlphabetsInAnotherFace) {
+    const FontMetrics print(FontMetrics::Medium::Print);
+    const QString name = QString::fromUtf8("\xD0\x9C\xD0\xB0\xCE\xA9");  // two Cyrillic, one Greek
+    for (const char32_t letter : name.toStdU32String()) {
+        const QRawFont& face = print.FaceOf(letter, kTwelve);
+        EXPECT_TRUE(face.supportsCharacter(letter));
+        EXPECT_DOUBLE_EQ(face.pixelSize(), 16);
+        EXPECT_GT(print.CharacterWidth(letter, kTwelve), 4);
+    }
+    EXPECT_EQ(print.FaceOf(U'a', kTwelve).familyName(), "VantrelFont");
+    EXPECT_NEAR(print.Width(name.toStdString(), kTwelve),
+                print.CharacterWidth(0x41C, kTwelve) + print.CharacterWidth(0x430, kTwelve) +
+                    print.CharacterWidth(0x3A9, kTwelve),
+                1e-9);
+}
+
 }  // namespace
 }  // namespace numerello

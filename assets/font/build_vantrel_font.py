@@ -107,6 +107,7 @@ HALF = STROKE / 2
 AXIS = 690  # the middle of the signs over the baseline
 ARM = 550  # half a sign's width
 WIDE = 1720  # the advance of signs that stand between terms: room on both sides
+MINUS = 2040  # more room, and a short stroke: it stands almost in line with the bars of fractions
 
 
 def polygon(points):
@@ -154,7 +155,7 @@ def plus(advance):
 
 
 def minus():
-    return [bar(WIDE / 2, AXIS, ARM - 50)]
+    return [bar(MINUS / 2, AXIS, ARM - 90)]
 
 
 def times():
@@ -332,7 +333,7 @@ def own_glyphs():
         "{": ("divide", division(), WIDE),
         "_": ("barsegment", bar_segment(), DIGIT),
         "+": ("plus", plus(WIDE), WIDE),
-        "-": ("minus", minus(), WIDE),
+        "-": ("minus", minus(), MINUS),
         "=": ("equal", equal(WIDE), WIDE),
         "<": ("less", angle(-1), WIDE),
         ">": ("greater", angle(1), WIDE),

@@ -125,6 +125,13 @@ TEST_F(SheetFont, OperatorsStandClearOfTheFractionsBesideThem) {
     }
 }
 
+TEST_F(SheetFont, AMinusIsToldFromTheBarsBesideIt) {
+    const QRectF minus = Glyph("-", sheet).boundingRect();
+    EXPECT_LT(minus.width(), 0.75 * kDigit);
+    EXPECT_GT(minus.left(), 3);
+    EXPECT_NEAR(sheet.Width("-", kTwelve) - minus.right(), minus.left(), 0.1);
+}
+
 TEST_F(SheetFont, SpecialCharactersLookLikeTheSignsTheyStandFor) {
     EXPECT_EQ(Glyph("`", sheet), Glyph("\u03c0", sheet));
     EXPECT_EQ(Glyph("\\", sheet), Glyph("\u00b1", sheet));

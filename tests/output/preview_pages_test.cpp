@@ -14,7 +14,7 @@ class Previewed : public testing::Test {
   protected:
     void Build(const std::vector<std::string>& lines) { pages.Build(kHeading, lines, learner); }
 
-    const PlainMetrics metrics;
+    PlainMetrics metrics;
     NotingLearner learner;
     PreviewPages pages{metrics};
 };

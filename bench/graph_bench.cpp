@@ -1,11 +1,9 @@
 #include <benchmark/benchmark.h>
 
 #include <QAction>
-#include <QApplication>
 #include <QPixmap>
 
 #include "core/topic_codes.h"
-#include "ui/font_metrics.h"
 #include "ui/frm_graph.h"
 
 namespace numerello {
@@ -69,14 +67,3 @@ BENCHMARK(WindowRedrawnAt160)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace numerello
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication app(argc, argv);
-    if (!numerello::LoadSheetFont()) {
-        return 1;
-    }
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -1,6 +1,5 @@
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
 #include <QPixmap>
 #include <vector>
 
@@ -86,13 +85,3 @@ BENCHMARK(PageTurned)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace numerello
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication app(argc, argv);
-    if (!numerello::LoadSheetFont()) {
-        return 1;
-    }
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}

@@ -1,13 +1,12 @@
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPixmap>
 #include <QTimer>
 
 #include "catalogue/chooser.h"
-#include "ui/font_metrics.h"
 #include "ui/frm_help.h"
 #include "ui/frm_paper.h"
 
@@ -199,14 +198,3 @@ BENCHMARK(HelpSearched)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace numerello
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication app(argc, argv);
-    if (!numerello::LoadSheetFont()) {
-        return 1;
-    }
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

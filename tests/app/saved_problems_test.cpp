@@ -1,9 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "app/solvers.h"
 #include "catalogue/box_keys.h"
 #include "catalogue/entry_layouts.h"
-#include "catalogue/saved_problem.h"
+#include "tests/app/solving_form.h"
 #include "tests/topics/typed_topic.h"
 
 namespace numerello {
@@ -11,30 +10,6 @@ namespace {
 
 constexpr int kProblemsOfATopic = 10;
 constexpr std::string_view kKeys = "0123456789012345678901234567890123456789+-*/^()=~|.,:%xy";
-
-void Solve(Problem& problem) {
-    SilentLearner learner;
-    Stage stage;
-    compute_Click(problem, AllSolvers(), learner, stage);
-}
-
-/// The entry form without its window.
-class SolvingForm : public LoadingForm {
-  public:
-    explicit SolvingForm(Problem& problem) : problem(problem) {}
-
-    void Open() override {
-        Stage stage;
-        EraseProblem(problem, stage);
-    }
-    void ShowEntry() override {}
-    void Form_KeyPress(std::string_view key) override { numerello::Form_KeyPress(problem, key); }
-    void compute_Click() override { Solve(problem); }
-    void TellStatus(std::string_view) override {}
-
-  private:
-    Problem& problem;
-};
 
 void TypeAnything(Problem& problem, Draws& draws) {
     const int keys = draws.Below(40);

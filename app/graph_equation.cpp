@@ -6,14 +6,13 @@
 #include <string>
 
 #include "core/failure.h"
+#include "core/graph_modes.h"
 #include "core/text.h"
 #include "engine/engine.h"
 
 namespace numerello {
 
 namespace {
-
-constexpr int kEquationGraph = 3;
 
 /// The letter that an equation is solved for, and the other one.
 struct Letters {

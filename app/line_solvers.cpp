@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "core/failure.h"
+#include "core/graph_modes.h"
 #include "core/text.h"
 #include "topics/angles.h"
 #include "topics/common_factors.h"
@@ -79,7 +80,7 @@ void RequestPoint(Problem& problem, const std::vector<std::string>& parts) {
     problem.controls.GraphEnabled = true;
     problem.graph.GraphX1 = EntryValue(parts[0]);
     problem.graph.GraphY1 = EntryValue(parts[1]);
-    problem.graph.GraphMode = 1;
+    problem.graph.GraphMode = kOnePointGraph;
 }
 
 /// A whole number, "+" and a fraction; a second "+" would leave a part of the problem out.
@@ -102,7 +103,7 @@ void PlotLine(SolveRun& run) {
     GraphRequest& graph = run.problem.graph;
     graph.GraphX2 = EntryValue(parts[2]);
     graph.GraphY2 = EntryValue(parts[3]);
-    graph.GraphMode = 2;
+    graph.GraphMode = kTwoPointsGraph;
     run.problem.playback.ShownStep = 0;
 }
 

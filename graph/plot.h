@@ -3,16 +3,12 @@
 #include <optional>
 #include <vector>
 
+#include "core/graph_modes.h"
 #include "core/problem.h"
 #include "graph/graph_range.h"
 #include "graph/graph_terms.h"
 
 namespace numerello {
-
-/// What a GraphMode asks for.
-inline constexpr int kOnePointGraph = 1;
-inline constexpr int kTwoPointsGraph = 2;
-inline constexpr int kEquationGraph = 3;
 
 struct GraphPoint {
     double x;

@@ -183,7 +183,7 @@ void FrmPaper::ScrollToLineEnd() {
     constexpr int kAround = 48;
     const Sheet& sheet = worksheet.SheetAt(problem.playback.CurrentPage);
     const int lineEndX = qRound(sheet.left + problem.playback.LineEndX);
-    ensureVisible(lineEndX, qRound(sheet.top + LowestRow(sheet)), kAround, kAround);
+    ensureVisible(lineEndX, qRound(sheet.top + LowestText(sheet.surface)), kAround, kAround);
     ensureVisible(lineEndX, qRound(sheet.top + problem.playback.LineEndY), kAround, kAround);
 }
 

@@ -1,18 +1,16 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/graph_modes.h"
+#include "core/topic_codes.h"
 #include "typeset/lines.h"
 #include "worksheet/number_line.h"
+#include "worksheet/sheet_rows.h"
 #include "worksheet/worksheet.h"
 
 namespace numerello {
 
 namespace {
-
-constexpr int kLinearEquation = 105;
-constexpr int kQuadrantOfPoint = 107;
-constexpr int kPointMode = 1;
-constexpr int kEquationMode = 3;
 
 /// From the end of the line to the top left corner of a mark behind it.
 struct MarkOffset {
@@ -28,16 +26,6 @@ constexpr double kRightmostMark = 760;
 
 /// Divisions with the longest quotients need one row of paper more than a sheet has.
 constexpr double kBelowLowestText = 20;
-
-double LowestText(const Surface& surface) {
-    double lowest = 0;
-    for (const Mark& mark : surface.Marks()) {
-        if (const auto* const text = std::get_if<TextMark>(&mark)) {
-            lowest = std::max(lowest, text->y);
-        }
-    }
-    return lowest;
-}
 
 double MarkLeft(const Playback& playback, MarkOffset offset) {
     return std::min(playback.LineEndX + offset.right, kRightmostMark);
@@ -90,9 +78,9 @@ void Worksheet::ShowLastLine() {
     // An equation without a solution leaves nothing to draw.
     const int code = problem.topic.ProblemType;
     const bool equation =
-        code == kLinearEquation && !std::as_const(problem.typed).ExprVariants[0].empty();
-    if (equation || code == kQuadrantOfPoint) {
-        problem.graph.GraphMode = equation ? kEquationMode : kPointMode;
+        code == kGraphingAnEquation && !std::as_const(problem.typed).ExprVariants[0].empty();
+    if (equation || code == kPointsQuadrant) {
+        problem.graph.GraphMode = equation ? kEquationGraph : kOnePointGraph;
         OpenGraph();
     }
 }

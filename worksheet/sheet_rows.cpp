@@ -97,10 +97,12 @@ std::vector<std::string> SheetRows(const Sheet& sheet) {
     return rows;
 }
 
-double LowestRow(const Sheet& sheet) {
+double LowestText(const Surface& surface) {
     double lowest = 0;
-    for (const TextMark& piece : PiecesOf(sheet.surface)) {
-        lowest = std::max(lowest, piece.y);
+    for (const Mark& mark : surface.Marks()) {
+        if (const auto* const text = std::get_if<TextMark>(&mark)) {
+            lowest = std::max(lowest, text->y);
+        }
     }
     return lowest;
 }

@@ -13,7 +13,7 @@ namespace numerello {
 /// cross of a product is "*", the bracket of a division "into".
 std::vector<std::string> SheetRows(const Sheet& sheet);
 
-/// The upper edge of the lowest text that stands on the sheet, in its pixels; 0 on an empty one.
-double LowestRow(const Sheet& sheet);
+/// The upper edge of the lowest text that stands there; 0 where there is none.
+double LowestText(const Surface& surface);
 
 }  // namespace numerello

@@ -82,11 +82,11 @@ TEST_F(SheetRowsTest, ReadTheCrossOfAProductAsItsSign) {
 }
 
 TEST_F(SheetRowsTest, KnowsWhereTheLowestStands) {
-    EXPECT_EQ(LowestRow(sheet), 0);
+    EXPECT_EQ(LowestText(sheet.surface), 0);
     PrintAt(100, 300, "4");
     PrintAt(120, 317.5, "7");
     PrintAt(99, 283.4, "1");
-    EXPECT_EQ(LowestRow(sheet), 317.5);
+    EXPECT_EQ(LowestText(sheet.surface), 317.5);
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ struct MarkedToken {
 /// "]" go around what is emphasised and are no tokens.
 class LineSetter {
   public:
-    /// `expected` is how many tokens will about be added.
+    /// `expected` is about how many tokens will be added.
     explicit LineSetter(int ProblemType, std::size_t expected = 0) : code(ProblemType) {
         line.reserve(expected);
     }

@@ -1,0 +1,43 @@
+#!/usr/bin/env python3
+"""Works and judges the problems of one family of topics, or tells what no family judges.
+
+    exactness.py NUMERELLO_CLI FAMILY     such as conversions
+    exactness.py NUMERELLO_CLI coverage   that each caption is judged by exactly one family
+"""
+
+import importlib
+import pathlib
+import sys
+from collections import Counter
+
+from judging import Program, failures
+
+SHARED = {"exactness", "judging", "values"}
+
+
+def uncovered(program):
+    captions = {topic["caption"] for topic in program.answers([{"do": "topics"}])[0]["topics"]}
+    families = sorted({path.stem for path in pathlib.Path(__file__).parent.glob("*.py")} - SHARED)
+    judged = Counter(caption for family in families
+                     for topic in importlib.import_module(family).TOPICS
+                     for caption in topic.captions)
+    told = [f"nobody judges {caption}" for caption in sorted(captions - set(judged))]
+    told += [f"no such topic: {caption}" for caption in sorted(set(judged) - captions)]
+    told += [f"judged {count} times: {caption}" for caption, count in judged.items() if count > 1]
+    return told
+
+
+def main():
+    program = Program(sys.argv[1])
+    family = sys.argv[2]
+    if family == "coverage":
+        told = uncovered(program)
+    else:
+        told = [line for topic in importlib.import_module(family).TOPICS
+                for caption in topic.captions
+                for line in failures(program, topic, caption)]
+    print(*told, sep="\n")
+    return 1 if told else 0
+
+
+sys.exit(main())

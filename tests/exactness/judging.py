@@ -16,6 +16,8 @@ JUDGED = 2000
 ROUND = 1000
 # Draws for one judged problem, at most: a topic refuses some of what is drawn.
 DRAWS = 8
+FAILURES = {"overflow": "caused a data overflow", "division by zero": "caused division by 0",
+            "format": "The format of the entered problem was not recognized"}
 
 
 @dataclass(frozen=True)
@@ -64,6 +66,25 @@ class Program:
 def texts(answer):
     """The lines of a worked problem."""
     return [line["text"] for line in answer["lines"]]
+
+
+def ends_in(answer, *lines):
+    """None when the work ends in these lines and nothing failed, else what is wrong.
+
+    A line is its text, or its text and its reason.
+    """
+    if answer["failure"] is not None:
+        return "no failure is to be expected"
+    shown = [line["text"] if isinstance(right, str) else (line["text"], line["note"])
+             for line, right in zip(answer["lines"][-len(lines):], lines)]
+    return None if shown == list(lines) else f"the end is to be {lines}"
+
+
+def fails(answer, kind):
+    """None when the problem fails in that way, and says so to the learner."""
+    told = [message["text"] for message in answer["messages"]]
+    right = answer["failure"] == kind and told and FAILURES[kind] in told[-1]
+    return None if right else "this is to fail: " + kind
 
 
 @dataclass

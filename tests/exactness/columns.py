@@ -201,7 +201,7 @@ def hard(draws):
     first, second = long(draws), long(draws)
     boxes = [first, draws.choice([second] * 12 + [first, first.zfill(10), str(int(first))])]
     # Long products have a hundred drawings: few of them are asked for.
-    return shown(draws, boxes, 0.5 if len(boxes[0]) * len(boxes[1]) < 36 else 0.1)
+    return shown(draws, boxes, 0.5 if len(boxes[0]) * len(boxes[1]) < 25 else 0.05)
 
 
 TOPICS = [

@@ -10,7 +10,7 @@ import random
 import subprocess
 from collections import Counter
 from dataclasses import dataclass, field
-from typing import Callable, Optional, Union
+from typing import Callable, Union
 
 JUDGED = 2000
 ROUND = 1000

@@ -120,8 +120,7 @@ bool IsNumeric(std::string_view text) {
     if (text.starts_with('-')) {
         text.remove_prefix(1);
     }
-    const auto digits =
-        std::count_if(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+    const auto digits = std::count_if(text.begin(), text.end(), [](char c) { return IsDigit(c); });
     const auto points = std::count(text.begin(), text.end(), '.');
     return digits > 0 && points <= 1 && digits + points == static_cast<long>(text.size());
 }

@@ -22,7 +22,7 @@ struct Written {
 };
 
 bool OnlyDigits(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+    return std::all_of(text.begin(), text.end(), [](char c) { return IsDigit(c); });
 }
 
 /// Nothing for a text that is no number. Not empty.

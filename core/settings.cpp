@@ -55,14 +55,6 @@ constexpr std::array kTrueWords{kTrue, std::string_view("-1"), std::string_view(
                                 std::string_view("yes")};
 constexpr std::array kFalseWords{kFalse, std::string_view("0"), std::string_view("no")};
 
-std::string LowerCase(std::string_view text) {
-    std::string lower(text);
-    for (char& c : lower) {
-        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    }
-    return lower;
-}
-
 void ReadNumber(const SettingsStore& store, const NumberKey& number, AnswerSettings& answers) {
     const auto value = ReadInteger16(store.Read(number.key).value_or(""));
     if (value && *value >= number.least && *value <= number.most &&

@@ -37,8 +37,8 @@ class Walk {
         return line.empty() ? '\0' : line.back();
     }
     bool IsEmpty() const { return CharCount() == 0; }
-    bool BehindDigit() const { return Last() >= '0' && Last() <= '9'; }
-    bool BehindLetter() const { return Last() >= 'a' && Last() <= 'z'; }
+    bool BehindDigit() const { return IsDigit(Last()); }
+    bool BehindLetter() const { return IsLetter(Last()); }
     bool ParenthesisIsOpen() const { return problem.input.ParenDepth > 0; }
     bool EqualsTyped() const { return problem.input.EqualsTyped; }
     bool IsComplete() const { return LineIsComplete(problem); }

@@ -12,11 +12,6 @@ namespace numerello {
 
 namespace {
 
-bool IsWhole(double value) {
-    constexpr double kExactWholes = 9007199254740992;  // 2^53
-    return value == std::trunc(value) && std::fabs(value) < kExactWholes;
-}
-
 /// The largest whole number above 1 that divides both; 0 when there is none.
 std::int32_t CommonDivisor(double numerator, double denominator) {
     const std::int64_t divisor =
@@ -41,7 +36,7 @@ ReducedFraction GreatestDivisorText(std::string_view FractionText) {
     if (denominator == 0) {
         return {"", -1};
     }
-    if (!IsWhole(numerator) || !IsWhole(denominator)) {
+    if (!IsExactWhole(numerator) || !IsExactWhole(denominator)) {
         return {std::string(FractionText), 0};
     }
     ReducedFraction reduced;

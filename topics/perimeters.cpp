@@ -3,6 +3,8 @@
 #include "core/number.h"
 #include "core/text.h"
 #include "topics/geometry_common.h"
+#include "topics/refusals.h"
+#include "topics/results.h"
 
 namespace numerello {
 
@@ -21,8 +23,7 @@ void PerimeterOfTriangle(Problem& problem, std::string_view a, std::string_view 
     log.Write(Text("Perimeter = ", a, " + ", b, " + ", c),
               Text("Substitute ", a, " in for a, ", b, " in for b, and ", c, " in for c."));
     if (!AllPositive({a, b, c})) {
-        log.Write("All sides of a triangle must be greater than zero.",
-                  "It is impossible for a triangle to have a side less than or equal to 0.");
+        RefuseTriangleSides(log);
         return;
     }
     const double sum = ToNumber(a) + ToNumber(b) + ToNumber(c);

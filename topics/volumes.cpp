@@ -4,6 +4,8 @@
 #include "core/number.h"
 #include "core/text.h"
 #include "topics/geometry_common.h"
+#include "topics/refusals.h"
+#include "topics/results.h"
 
 namespace numerello {
 

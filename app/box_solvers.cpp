@@ -24,7 +24,7 @@ namespace {
 
 /// The text of Text1 to Text6.
 std::string_view Box(const SolveRun& run, int number) {
-    return run.problem.boxes.Text[static_cast<std::size_t>(number) - 1];
+    return run.problem.boxes.Box(number);
 }
 
 std::string WithoutMarks(const SolveRun& run, int number) {
@@ -35,8 +35,8 @@ std::string WithoutMarks(const SolveRun& run, int number) {
 template <int UnitKind>
 void MetricLadder(SolveRun& run) {
     const EntryBoxes& boxes = run.problem.boxes;
-    ConvertMetric(run.problem, boxes.Text[3], MetricFactor(boxes.ListIndex[0]),
-                  MetricFactor(boxes.ListIndex[1]), UnitKind);
+    ConvertMetric(run.problem, boxes.Box(4), MetricFactor(boxes.List(1)),
+                  MetricFactor(boxes.List(2)), UnitKind);
 }
 
 /// Text1 = Text2 * Text4, or the like. The first empty one is the unknown and gets its word, else
@@ -147,8 +147,8 @@ constexpr auto kRows = std::to_array<SolverRow>({
     {27, TwoScientific<DivideScientific>},
     {26, TwoScientific<MultiplyScientific>},
     {25, ToRegular},
-    {24, MetricLadder<2>},
-    {23, MetricLadder<1>},
+    {24, MetricLadder<kMassUnits>},
+    {23, MetricLadder<kLengthUnits>},
     {22, Distance},
     {21, Work},
     {20, Proportion},

@@ -57,7 +57,7 @@ void FactorsOfLine(SolveRun& run) {
 }
 
 void RoundLine(SolveRun& run) {
-    RoundByChoice(run.problem, run.problem.typed.ProblemText, run.problem.boxes.ListIndex[2]);
+    RoundByChoice(run.problem, run.problem.typed.ProblemText, run.problem.boxes.List(3));
 }
 
 /// The numbers of the line, without parentheses and the sign between two points.

@@ -12,11 +12,6 @@ namespace {
 
 constexpr std::size_t kLengthLimit = 10;
 
-std::string& BoxText(Problem& problem, int box) {
-    CheckIndex(box - 1, static_cast<int>(problem.boxes.Text.size()) - 1);
-    return problem.boxes.Text[static_cast<std::size_t>(box) - 1];
-}
-
 bool PointAllowed(int code, int box) {
     const bool scientific = code >= 25 && code <= 27;
     switch (box) {
@@ -58,7 +53,7 @@ struct Filling {
 Filling FillingOf(const EntryLayout& layout, const EntryBoxes& boxes) {
     Filling filling;
     for (const EntryBoxLayout& box : layout.boxes) {
-        const std::string& text = boxes.Text[static_cast<std::size_t>(box.number) - 1];
+        const std::string& text = boxes.Box(box.number);
         ++(text.empty() ? filling.empty : IsNumeric(text) ? filling.numbers : filling.others);
     }
     return filling;
@@ -80,7 +75,7 @@ bool IsReady(const EntryLayout& layout, const EntryBoxes& boxes) {
         case Readiness::SimilarTriangles:
             return TrianglesReady(boxes, filling);
         case Readiness::ValueAndUnits:
-            return filling.numbers == 1 && boxes.ListIndex[0] >= 0 && boxes.ListIndex[1] >= 0;
+            return filling.numbers == 1 && boxes.List(1) >= 0 && boxes.List(2) >= 0;
         case Readiness::Line:
             break;
     }
@@ -90,7 +85,7 @@ bool IsReady(const EntryLayout& layout, const EntryBoxes& boxes) {
 }  // namespace
 
 bool BoxKey(Problem& problem, int box, std::string_view key) {
-    std::string& text = BoxText(problem, box);
+    std::string& text = problem.boxes.Box(box);
     if (!problem.playback.TypingEnabled) {
         return false;
     }

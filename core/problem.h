@@ -64,6 +64,12 @@ struct EntryBoxes {
 
     std::array<std::string, 6> Text;                        ///< Text1 to Text6 at 0 to 5
     std::array<int, 3> ListIndex{kNoChoice, kNoChoice, 0};  ///< Combo1 to Combo3 at 0 to 2
+
+    /// By the numbers of their names: boxes 1 to 6, lists 1 to 3. Failure(Format) for others.
+    std::string& Box(int number);
+    const std::string& Box(int number) const;
+    int& List(int number);
+    int List(int number) const;
 };
 
 /// The settings that shape answers, examples and explanations.

@@ -95,11 +95,12 @@ SavedProblem ReadProblemLine(std::string_view text) {
     SavedProblem saved;
     saved.TopicTitle = Decoded(fields[0]);
     saved.typed = Decoded(fields[1]);
-    for (std::size_t i = 0; i < saved.Text.size(); ++i) {
-        saved.Text[i] = Decoded(fields[kFirstBox + i]);
+    EntryBoxes& boxes = saved.boxes;
+    for (std::size_t i = 0; i < boxes.Text.size(); ++i) {
+        boxes.Text[i] = Decoded(fields[kFirstBox + i]);
     }
-    for (std::size_t i = 0; i < saved.ListIndex.size(); ++i) {
-        saved.ListIndex[i] = ReadInteger16(fields[kFirstList + i]).value_or(EntryBoxes::kNoChoice);
+    for (std::size_t i = 0; i < boxes.ListIndex.size(); ++i) {
+        boxes.ListIndex[i] = ReadInteger16(fields[kFirstList + i]).value_or(EntryBoxes::kNoChoice);
     }
     saved.ProblemType = *code;
     return saved;

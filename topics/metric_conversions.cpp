@@ -42,7 +42,7 @@ std::string UnitName(double factor, int UnitKind) {
     if (unit == kMetricUnits.end()) {
         throw Failure(FailureKind::Format);
     }
-    return Text(unit->prefix, UnitKind == 1 ? "m" : "g");
+    return Text(unit->prefix, UnitKind == kLengthUnits ? "m" : "g");
 }
 
 }  // namespace
@@ -53,7 +53,7 @@ double MetricFactor(int ListIndex) {
 
 std::string_view MetricItem(int ListIndex, int UnitKind) {
     const MetricUnit& unit = UnitAt(ListIndex);
-    return UnitKind == 1 ? unit.lengthItem : unit.massItem;
+    return UnitKind == kLengthUnits ? unit.lengthItem : unit.massItem;
 }
 
 void ConvertMetric(Problem& problem, std::string_view ValueText, double FromFactor, double ToFactor,
@@ -63,7 +63,7 @@ void ConvertMetric(Problem& problem, std::string_view ValueText, double FromFact
     const std::string to = UnitName(ToFactor, UnitKind);
     const std::string F = NumberText(FromFactor);
     const std::string T = NumberText(ToFactor);
-    const std::string_view base = UnitKind == 1 ? "meters" : "grams";
+    const std::string_view base = UnitKind == kLengthUnits ? "meters" : "grams";
     StepLog& log = problem.log;
 
     problem.playback.DrawingRow = kFirstLineY;

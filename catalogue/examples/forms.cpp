@@ -58,7 +58,7 @@ Example MetricExample(const ExampleRequest& request, ExampleDraws& draws) {
     const int to = draws.RandIntMod(kMetricItems);
     example.boxes.ListIndex[0] = from;
     example.boxes.ListIndex[1] = to;
-    const int UnitKind = request.Code() == kMeterConversions ? 1 : 2;
+    const int UnitKind = request.Code() == kMeterConversions ? kLengthUnits : kMassUnits;
     example.printed = Text(example.boxes.Text[3], " ", MetricItem(from, UnitKind), " = ? ", " ",
                            MetricItem(to, UnitKind));
     return example;

@@ -21,7 +21,7 @@ using Asked = std::array<bool, 6>;
 struct Named {
     std::string_view before;
     Value value;
-    std::size_t box;
+    int box;
 };
 
 constexpr auto kEdges = std::to_array<Named>({
@@ -149,7 +149,7 @@ Example ByName(const Row& row, const Values& values, const Asked& asked) {
         const std::string text = asked[named.value] ? "" : WholeText(values[named.value]);
         example.printed += named.before;
         example.printed += text.empty() ? "?" : text;
-        example.boxes.Text[named.box - 1] = text;
+        example.boxes.Box(named.box) = text;
     }
     example.printed += row.behind;
     return example;
@@ -160,7 +160,7 @@ Example ByNumber(const Row& row, const Values& values, const Asked& asked) {
     Example example;
     for (const EntryBoxLayout& box : FindEntryLayout(row.code)->boxes) {
         const std::size_t i = static_cast<std::size_t>(box.number) - 1;
-        example.boxes.Text[i] = asked[i] ? "" : WholeText(values[i]);
+        example.boxes.Box(box.number) = asked[i] ? "" : WholeText(values[i]);
     }
     return example;
 }

@@ -5,6 +5,7 @@
 #include "catalogue/entry_layouts.h"
 #include "catalogue/guided_input.h"
 #include "core/text.h"
+#include "core/topic_codes.h"
 
 namespace numerello {
 
@@ -13,12 +14,12 @@ namespace {
 constexpr std::size_t kLengthLimit = 10;
 
 bool PointAllowed(int code, int box) {
-    const bool scientific = code >= 25 && code <= 27;
+    const bool scientific = IsScientificBoxTopic(code);
     switch (box) {
         case 1:
-            return code < 200;
+            return !IsColumnTopic(code);
         case 2:
-            return code < 200 && !scientific;
+            return !IsColumnTopic(code) && !scientific;
         case 4:
             return !scientific;
         default:
@@ -27,7 +28,7 @@ bool PointAllowed(int code, int box) {
 }
 
 bool MinusAllowed(int code, int box) {
-    return box > 2 || code < 200;
+    return box > 2 || !IsColumnTopic(code);
 }
 
 bool Fits(int code, int box, std::string_view text, std::string_view key) {

@@ -1,6 +1,7 @@
 #include "core/problem.h"
 
 #include "core/text.h"
+#include "core/topic_codes.h"
 
 namespace numerello {
 
@@ -43,7 +44,7 @@ void ColumnRequest::ClearFlags() {
 }
 
 bool IsTypedOnLine(int ProblemType) {
-    return ProblemType > 27 && ProblemType < 200;
+    return ProblemType > kLastBoxTopic && !IsColumnTopic(ProblemType);
 }
 
 void ResetProblem(Problem& problem, bool ClearSteps) {

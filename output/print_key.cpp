@@ -15,7 +15,7 @@ namespace {
 constexpr std::string_view kIndent = "        ";
 
 bool IsWorkedInColumns(const WorkedProblem& worked) {
-    return worked.problem.topic.ProblemType >= kFirstColumnTopic;
+    return IsColumnTopic(worked.problem.topic.ProblemType);
 }
 
 /// Whether a worked line only says again what the test asks.

@@ -5,6 +5,7 @@
 #include "catalogue/entry_layouts.h"
 #include "catalogue/examples/families.h"
 #include "core/number.h"
+#include "core/topic_codes.h"
 
 /// Geometry and formulas: values with names, some of them asked for.
 namespace numerello {
@@ -173,7 +174,6 @@ int DrawValue(const ExampleRequest& request, ExampleDraws& draws) {
 }
 
 Example MeasuresExample(const ExampleRequest& request, ExampleDraws& draws) {
-    constexpr int kPythagoreanTheorem = 12;
     Values values{};
     for (int& value : values) {
         value = DrawValue(request, draws);

@@ -15,10 +15,6 @@ namespace {
 /// begins.
 constexpr int kLongestWalk = 50;
 
-constexpr int kCalculatingWithExponents = 81;
-constexpr int kAbsoluteValues = 120;
-constexpr int kComplexExpressions = 121;
-
 /// The line as far as it is typed, on an entry form of its own.
 class Walk {
   public:

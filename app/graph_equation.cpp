@@ -4,7 +4,6 @@
 #include <string>
 
 #include "core/failure.h"
-#include "core/graph_modes.h"
 #include "core/text.h"
 #include "engine/engine.h"
 

@@ -5,7 +5,6 @@
 #include <string_view>
 
 #include "core/failure.h"
-#include "core/graph_modes.h"
 #include "core/text.h"
 #include "topics/angles.h"
 #include "topics/common_factors.h"

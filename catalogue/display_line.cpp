@@ -10,8 +10,6 @@ namespace numerello {
 
 namespace {
 
-constexpr int kCellPitch = 4;
-
 /// Whether a "/" in front of this character can divide two numbers.
 bool CanBeginNumber(std::string_view next) {
     return next != "(" && next != "-";
@@ -67,7 +65,7 @@ std::string FormatForDisplay(Problem& problem) {
     std::string text;
     int cell = 0;
     for (const MarkedToken& token : setter.Line()) {
-        cell += kCellPitch;
+        cell += TypedProblem::kCellPitch;
         typed.ExprCells[cell - 1] = token.before;
         typed.ExprCells[cell] = token.text;
         typed.ExprCells[cell + 1] = token.after.substr(0, 1);

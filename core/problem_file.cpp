@@ -107,9 +107,9 @@ SavedProblem ReadProblemLine(std::string_view text) {
 }
 
 std::string SuggestedName(std::string_view TopicTitle, const Date& today) {
-    const std::string name = Text(Replace(TopicTitle, "/", "-"), " ", TwoDigits(today.month), "-",
-                                  TwoDigits(today.day), "-", TwoDigits(today.year));
-    return Replace(Replace(name, "*", "x"), "/", "-");
+    const std::string title = Replace(Replace(TopicTitle, "/", "-"), "*", "x");
+    return Text(title, " ", TwoDigits(today.month), "-", TwoDigits(today.day), "-",
+                TwoDigits(today.year));
 }
 
 std::string StartFilePath(std::string_view StartFile) {

@@ -22,7 +22,8 @@ struct NumberKey {
 constexpr std::array kNumbers{
     NumberKey{"whichAssistant", &AnswerSettings::whichAssistant, 1, 3, 1},
     NumberKey{"RoundVar", &AnswerSettings::RoundDigits, 1, 5, 1},
-    NumberKey{"ComplexEx", &AnswerSettings::ComplexEx, 0, 2, 2},
+    NumberKey{"ComplexEx", &AnswerSettings::ComplexEx, 0, AnswerSettings::kComplex,
+              AnswerSettings::kComplex},
     NumberKey{"ExpDetail", &AnswerSettings::ExpDetail, 1, 3, 1},
     NumberKey{"detail", &AnswerSettings::DetailLevel, 1, 3, 1},
 };

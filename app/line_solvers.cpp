@@ -3,7 +3,9 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "core/bounds.h"
 #include "core/failure.h"
 #include "core/text.h"
 #include "topics/angles.h"

@@ -1,5 +1,6 @@
 #include "graph/graph_terms.h"
 
+#include "core/bounds.h"
 #include "core/failure.h"
 #include "core/number.h"
 #include "core/text.h"

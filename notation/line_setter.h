@@ -1,7 +1,7 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "notation/typing_point.h"

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/bounds.h"
 #include "core/failure.h"
 #include "core/number.h"
 #include "core/text.h"

@@ -1,6 +1,7 @@
-#include <algorithm>
 #include <array>
 #include <span>
+#include <string>
+#include <string_view>
 
 #include "catalogue/entry_layouts.h"
 #include "catalogue/examples/families.h"

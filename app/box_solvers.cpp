@@ -5,13 +5,11 @@
 #include <string>
 #include <string_view>
 
-#include "core/number.h"
 #include "core/text.h"
 #include "topics/areas.h"
 #include "topics/circles.h"
 #include "topics/conversions.h"
 #include "topics/formulas.h"
-#include "topics/geometry_common.h"
 #include "topics/perimeters.h"
 #include "topics/proportions.h"
 #include "topics/scientific.h"
@@ -24,7 +22,7 @@ namespace {
 
 /// The text of Text1 to Text6.
 std::string_view Box(const SolveRun& run, int number) {
-    return run.problem.boxes.Text[static_cast<std::size_t>(number) - 1];
+    return run.problem.boxes.Box(number);
 }
 
 std::string WithoutMarks(const SolveRun& run, int number) {
@@ -35,8 +33,8 @@ std::string WithoutMarks(const SolveRun& run, int number) {
 template <int UnitKind>
 void MetricLadder(SolveRun& run) {
     const EntryBoxes& boxes = run.problem.boxes;
-    ConvertMetric(run.problem, boxes.Text[3], MetricFactor(boxes.ListIndex[0]),
-                  MetricFactor(boxes.ListIndex[1]), UnitKind);
+    ConvertMetric(run.problem, boxes.Box(4), MetricFactor(boxes.List(1)),
+                  MetricFactor(boxes.List(2)), UnitKind);
 }
 
 /// Text1 = Text2 * Text4, or the like. The first empty one is the unknown and gets its word, else
@@ -86,12 +84,10 @@ void TwoScientific(SolveRun& run) {
               WithoutMarks(run, 4));
 }
 
-void TrianglePerimeter(SolveRun& run) {
-    PerimeterOf(run.problem, Box(run, 3), Box(run, 2), Box(run, 1), 19);
-}
-
-void RectanglePerimeter(SolveRun& run) {
-    PerimeterOf(run.problem, Box(run, 2), Box(run, 1), "", 13);
+/// A procedure that knows by the code which shape stands in the boxes.
+template <void (*procedure)(Problem&, const EntryBoxes&, int code)>
+void Shape(SolveRun& run) {
+    procedure(run.problem, run.problem.boxes, run.problem.topic.ProblemType);
 }
 
 template <bool ByRadius>
@@ -117,60 +113,34 @@ void TwoTriangles(SolveRun& run) {
                      Box(run, 5));
 }
 
-/// Base and height, or height and the two parallel sides.
-template <int code>
-void Area(SolveRun& run) {
-    AreaOf(run.problem, Box(run, 2), Box(run, 1), Box(run, 3), code);
-}
-
-void CircleArea(SolveRun& run) {
-    AreaOf(run.problem, NumberText(kPi), Box(run, 2), "", 7);
-}
-
-/// Length, width and height.
-template <int code>
-void EdgedVolume(SolveRun& run) {
-    VolumeOf(run.problem, Box(run, 2), Box(run, 3), Box(run, 1), code);
-}
-
-/// Radius and height.
-template <int code>
-void RoundVolume(SolveRun& run) {
-    VolumeOf(run.problem, NumberText(kPi), Box(run, 2), Box(run, 1), code);
-}
-
-void SphereVolume(SolveRun& run) {
-    VolumeOf(run.problem, NumberText(kPi), Box(run, 2), "NA", 5);
-}
-
 constexpr auto kRows = std::to_array<SolverRow>({
     {27, TwoScientific<DivideScientific>},
     {26, TwoScientific<MultiplyScientific>},
     {25, ToRegular},
-    {24, MetricLadder<2>},
-    {23, MetricLadder<1>},
+    {24, MetricLadder<kMassUnits>},
+    {23, MetricLadder<kLengthUnits>},
     {22, Distance},
     {21, Work},
     {20, Proportion},
-    {19, TrianglePerimeter},
+    {19, Shape<PerimeterOf>},
     {18, Radius},
     {17, Diameter},
     {16, Circumference<false>},
     {15, Circumference<true>},
     {14, Amount},
-    {13, RectanglePerimeter},
+    {13, Shape<PerimeterOf>},
     {12, RightTriangle},
     {11, TwoTriangles},
-    {10, Area<10>},
-    {9, Area<9>},
-    {8, Area<8>},
-    {7, CircleArea},
-    {6, Area<6>},
-    {5, SphereVolume},
-    {4, EdgedVolume<4>},
-    {3, RoundVolume<3>},
-    {2, RoundVolume<2>},
-    {1, EdgedVolume<1>},
+    {10, Shape<AreaOf>},
+    {9, Shape<AreaOf>},
+    {8, Shape<AreaOf>},
+    {7, Shape<AreaOf>},
+    {6, Shape<AreaOf>},
+    {5, Shape<VolumeOf>},
+    {4, Shape<VolumeOf>},
+    {3, Shape<VolumeOf>},
+    {2, Shape<VolumeOf>},
+    {1, Shape<VolumeOf>},
 });
 
 }  // namespace

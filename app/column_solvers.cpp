@@ -1,7 +1,6 @@
 #include "app/column_solvers.h"
 
 #include <array>
-#include <string>
 #include <string_view>
 
 #include "core/number.h"

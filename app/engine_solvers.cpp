@@ -79,7 +79,7 @@ void Evaluate(SolveRun& run) {
 
 constexpr auto kRows = std::to_array<SolverRow>({
     {150, SimplifyNegativeExponents},
-    {122, SolveEquation},
+    {122, SolveEquation},  // of no topic of the catalogue; kept
     {121, Simplify},
     {120, Simplify},
     {105, GraphEquation},

@@ -1,12 +1,9 @@
 #include "app/graph_equation.h"
 
-#include <algorithm>
-#include <cctype>
 #include <optional>
 #include <string>
 
 #include "core/failure.h"
-#include "core/graph_modes.h"
 #include "core/text.h"
 #include "engine/engine.h"
 
@@ -24,14 +21,6 @@ bool Holds(const std::string& text, const std::string& letter) {
     return !letter.empty() && text.find(letter) != std::string::npos;
 }
 
-/// Letters are typed small, whatever the key.
-std::string LowerCase(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(), [](char c) {
-        return static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    });
-    return text;
-}
-
 Letters ChooseLetters(const TypedProblem& typed, Learner& learner) {
     const std::string& first = typed.VarNames[1];
     const std::string& second = typed.VarNames[2];
@@ -47,6 +36,7 @@ Letters ChooseLetters(const TypedProblem& typed, Learner& learner) {
         if (!answer) {
             throw Failure(FailureKind::Unanswered);
         }
+        // Letters are typed small, whatever the key.
         const std::string letter = LowerCase(*answer);
         if (FindVariable(typed, letter) != 0) {
             return {letter, letter == first ? second : first};

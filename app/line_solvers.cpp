@@ -3,9 +3,10 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "core/bounds.h"
 #include "core/failure.h"
-#include "core/graph_modes.h"
 #include "core/text.h"
 #include "topics/angles.h"
 #include "topics/common_factors.h"
@@ -57,7 +58,7 @@ void FactorsOfLine(SolveRun& run) {
 }
 
 void RoundLine(SolveRun& run) {
-    RoundByChoice(run.problem, run.problem.typed.ProblemText, run.problem.boxes.ListIndex[2]);
+    RoundByChoice(run.problem, run.problem.typed.ProblemText, run.problem.boxes.List(3));
 }
 
 /// The numbers of the line, without parentheses and the sign between two points.

@@ -1,19 +1,10 @@
 #include <benchmark/benchmark.h>
 
 #include "columns/steps.h"
+#include "core/silent_learner.h"
 
 namespace numerello {
 namespace {
-
-class SilentLearner : public Learner {
-  public:
-    void MessageBox(std::string_view /*title*/, std::string_view /*text*/) override {}
-    bool Confirm(std::string_view /*title*/, std::string_view /*text*/) override { return false; }
-    std::optional<std::string> InputBox(std::string_view /*title*/,
-                                        std::string_view /*prompt*/) override {
-        return {};
-    }
-};
 
 /// One redraw from nothing that shows a whole problem: the longest that a step has to draw.
 void Redraw(benchmark::State& state, bool ColumnRequest::*flag, const char* Text1,

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "app/solvers.h"
+#include "core/silent_learner.h"
 #include "ui/frm_print_preview.h"
 #include "ui/test_maker.h"
 
@@ -11,13 +12,6 @@ namespace numerello {
 namespace {
 
 constexpr Date kDay{.year = 2026, .month = 11, .day = 21};
-
-class NoLearner : public Learner {
-  public:
-    void MessageBox(std::string_view, std::string_view) override {}
-    bool Confirm(std::string_view, std::string_view) override { return false; }
-    std::optional<std::string> InputBox(std::string_view, std::string_view) override { return {}; }
-};
 
 /// As long as the outline allows: ten topics, 18 problems each.
 std::vector<TestRow> LongestOutline() {
@@ -36,7 +30,7 @@ struct Office {
     TestMaker makeTest = MakerOfTests(clock, settings);
     HeadingLines heading = HeadingAtOpening("Practice Test", kDay);
     PrintDevice device;
-    NoLearner learner;
+    SilentLearner learner;
 
     MadeTest Make() const { return makeTest(LongestOutline()); }
 

@@ -1,9 +1,7 @@
 #include <benchmark/benchmark.h>
 
-#include <optional>
-
-#include "core/learner.h"
 #include "core/problem.h"
+#include "core/silent_learner.h"
 #include "typeset/lines.h"
 
 namespace numerello {
@@ -12,13 +10,6 @@ namespace {
 constexpr std::string_view kSixtyCharacters =
     "x^2^+#1/256#=~b^2^-4~+3x-12(y+7)=[25]+4y-6z+81-19+2x-3y=1000";
 static_assert(kSixtyCharacters.size() == 60);
-
-class SilentLearner : public Learner {
-  public:
-    void MessageBox(std::string_view /*title*/, std::string_view /*text*/) override {}
-    bool Confirm(std::string_view /*title*/, std::string_view /*text*/) override { return false; }
-    std::optional<std::string> InputBox(std::string_view, std::string_view) override { return {}; }
-};
 
 class OneSheet : public PaperSheets {
   public:

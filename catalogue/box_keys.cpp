@@ -5,6 +5,7 @@
 #include "catalogue/entry_layouts.h"
 #include "catalogue/guided_input.h"
 #include "core/text.h"
+#include "core/topic_codes.h"
 
 namespace numerello {
 
@@ -12,18 +13,13 @@ namespace {
 
 constexpr std::size_t kLengthLimit = 10;
 
-std::string& BoxText(Problem& problem, int box) {
-    CheckIndex(box - 1, static_cast<int>(problem.boxes.Text.size()) - 1);
-    return problem.boxes.Text[static_cast<std::size_t>(box) - 1];
-}
-
 bool PointAllowed(int code, int box) {
-    const bool scientific = code >= 25 && code <= 27;
+    const bool scientific = IsScientificBoxTopic(code);
     switch (box) {
         case 1:
-            return code < 200;
+            return !IsColumnTopic(code);
         case 2:
-            return code < 200 && !scientific;
+            return !IsColumnTopic(code) && !scientific;
         case 4:
             return !scientific;
         default:
@@ -32,7 +28,7 @@ bool PointAllowed(int code, int box) {
 }
 
 bool MinusAllowed(int code, int box) {
-    return box > 2 || code < 200;
+    return box > 2 || !IsColumnTopic(code);
 }
 
 bool Fits(int code, int box, std::string_view text, std::string_view key) {
@@ -58,7 +54,7 @@ struct Filling {
 Filling FillingOf(const EntryLayout& layout, const EntryBoxes& boxes) {
     Filling filling;
     for (const EntryBoxLayout& box : layout.boxes) {
-        const std::string& text = boxes.Text[static_cast<std::size_t>(box.number) - 1];
+        const std::string& text = boxes.Box(box.number);
         ++(text.empty() ? filling.empty : IsNumeric(text) ? filling.numbers : filling.others);
     }
     return filling;
@@ -80,7 +76,7 @@ bool IsReady(const EntryLayout& layout, const EntryBoxes& boxes) {
         case Readiness::SimilarTriangles:
             return TrianglesReady(boxes, filling);
         case Readiness::ValueAndUnits:
-            return filling.numbers == 1 && boxes.ListIndex[0] >= 0 && boxes.ListIndex[1] >= 0;
+            return filling.numbers == 1 && boxes.List(1) >= 0 && boxes.List(2) >= 0;
         case Readiness::Line:
             break;
     }
@@ -90,7 +86,7 @@ bool IsReady(const EntryLayout& layout, const EntryBoxes& boxes) {
 }  // namespace
 
 bool BoxKey(Problem& problem, int box, std::string_view key) {
-    std::string& text = BoxText(problem, box);
+    std::string& text = problem.boxes.Box(box);
     if (!problem.playback.TypingEnabled) {
         return false;
     }
@@ -120,8 +116,7 @@ bool IsNumeric(std::string_view text) {
     if (text.starts_with('-')) {
         text.remove_prefix(1);
     }
-    const auto digits =
-        std::count_if(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+    const auto digits = std::count_if(text.begin(), text.end(), [](char c) { return IsDigit(c); });
     const auto points = std::count(text.begin(), text.end(), '.');
     return digits > 0 && points <= 1 && digits + points == static_cast<long>(text.size());
 }

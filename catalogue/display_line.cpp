@@ -2,15 +2,12 @@
 
 #include <algorithm>
 #include <string_view>
-#include <vector>
 
 #include "notation/line_setter.h"
 
 namespace numerello {
 
 namespace {
-
-constexpr int kCellPitch = 4;
 
 /// Whether a "/" in front of this character can divide two numbers.
 bool CanBeginNumber(std::string_view next) {
@@ -67,7 +64,7 @@ std::string FormatForDisplay(Problem& problem) {
     std::string text;
     int cell = 0;
     for (const MarkedToken& token : setter.Line()) {
-        cell += kCellPitch;
+        cell += TypedProblem::kCellPitch;
         typed.ExprCells[cell - 1] = token.before;
         typed.ExprCells[cell] = token.text;
         typed.ExprCells[cell + 1] = token.after.substr(0, 1);

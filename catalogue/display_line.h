@@ -12,7 +12,7 @@ namespace numerello {
 /// no token.
 void ChunkChars(Problem& problem);
 
-/// Sets the tokens of ExprCells apart, token k at 4(k + 1), with the marks of the notation in the
+/// Sets the tokens of ExprCells apart, as kCellPitch says, with the marks of the notation in the
 /// cells beside them; returns the line as text.
 std::string FormatForDisplay(Problem& problem);
 

@@ -19,8 +19,7 @@ constexpr std::array<std::string_view, 7> kRoundingRows{
 
 /// How far a box is wider than a narrow one.
 int Growth(const EntryBoxLayout& box, const EntryBoxes& entered) {
-    return EntryBoxWidth(entered.Text[static_cast<std::size_t>(box.number) - 1].size()) -
-           kNarrowBox;
+    return EntryBoxWidth(entered.Box(box.number).size()) - kNarrowBox;
 }
 
 int ColumnGrowth(const EntryLayout& layout, const EntryBoxes& entered, int column) {

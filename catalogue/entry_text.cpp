@@ -7,10 +7,10 @@ namespace numerello {
 
 namespace {
 
-constexpr std::size_t kRoundingIndex = 2;
+constexpr int kRoundingNumber = 3;
 
-EntryListRows UnitRows(std::size_t list, std::string_view name, int UnitKind) {
-    EntryListRows rows{list, name, {}};
+EntryListRows UnitRows(int number, std::string_view name, int UnitKind) {
+    EntryListRows rows{number, name, {}};
     for (int row = 0; row < kMetricItems; ++row) {
         rows.rows.push_back(MetricItem(row, UnitKind));
     }
@@ -18,16 +18,16 @@ EntryListRows UnitRows(std::size_t list, std::string_view name, int UnitKind) {
 }
 
 std::string BoxText(const EntryBoxLayout& box, const EntryBoxes& boxes) {
-    const std::string& text = boxes.Text[static_cast<std::size_t>(box.number) - 1];
+    const std::string& text = boxes.Box(box.number);
     return Text(PlainName(box), " = ", text.empty() ? "?" : text);
 }
 
 std::string ListText(const EntryListRows& list, const EntryBoxes& boxes) {
-    const int row = boxes.ListIndex[list.list];
+    const int row = boxes.List(list.number);
     const bool isChosen = row >= 0 && row < static_cast<int>(list.rows.size());
     const std::string_view choice = isChosen ? list.rows[static_cast<std::size_t>(row)] : "?";
     // A rounding says itself what it is.
-    return list.list == kRoundingIndex ? std::string(choice) : Text(list.name, " ", choice);
+    return list.number == kRoundingNumber ? std::string(choice) : Text(list.name, " ", choice);
 }
 
 }  // namespace
@@ -47,11 +47,11 @@ std::vector<EntryListRows> ListsOf(int ProblemType) {
     const EntryLayout* layout = FindEntryLayout(ProblemType);
     switch (layout == nullptr ? EntryLists::None : layout->lists) {
         case EntryLists::Lengths:
-            return {UnitRows(0, "From", 1), UnitRows(1, "To", 1)};
+            return {UnitRows(1, "From", kLengthUnits), UnitRows(2, "To", kLengthUnits)};
         case EntryLists::Masses:
-            return {UnitRows(0, "From", 2), UnitRows(1, "To", 2)};
+            return {UnitRows(1, "From", kMassUnits), UnitRows(2, "To", kMassUnits)};
         case EntryLists::Roundings:
-            return {{kRoundingIndex, "Rounding", {RoundingRows().begin(), RoundingRows().end()}}};
+            return {{kRoundingNumber, "Rounding", {RoundingRows().begin(), RoundingRows().end()}}};
         case EntryLists::None:
             break;
     }

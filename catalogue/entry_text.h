@@ -12,9 +12,9 @@ namespace numerello {
 /// The box's name without the sign that leads to the box: "height", "First number".
 std::string_view PlainName(const EntryBoxLayout& box);
 
-/// One of Combo1 to Combo3, from 0, with the rows that it offers.
+/// One of Combo1 to Combo3 with the rows that it offers.
 struct EntryListRows {
-    std::size_t list = 0;
+    int number = 1;
     std::string_view name;
     std::vector<std::string_view> rows;
 };

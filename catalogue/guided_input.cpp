@@ -10,14 +10,6 @@ namespace numerello {
 
 namespace {
 
-std::string LowerCase(std::string_view character) {
-    std::string lower(character);
-    if (IsLetter(character) && character.front() <= 'Z') {
-        lower.front() = static_cast<char>(lower.front() - 'A' + 'a');
-    }
-    return lower;
-}
-
 /// The words for a key that the grammar of expressions refuses, where line start and exponent have
 /// words of their own.
 std::string Recast(const std::string& refusal, const TypingPoint& point, char key) {

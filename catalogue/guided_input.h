@@ -11,6 +11,8 @@ inline constexpr std::string_view kBackspace = "\b";
 
 /// The most characters that a line holds; past that only a Backspace goes on.
 inline constexpr int kLongestLine = 480;
+static_assert(kLongestLine * TypedProblem::kCellPitch + 2 <= TypedProblem::kTopCell,
+              "a line is set out with two marks behind its last token");
 
 /// Whether a key on the form is judged at all: the topic is typed on the line, typing is open, and
 /// the line has room. Any other key is dropped without a word.

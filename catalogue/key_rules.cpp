@@ -280,8 +280,7 @@ std::string KeyRefusal(const Problem& problem, const TypingPoint& point, char ke
         case '*':
             return SignRefusal(problem, point, key);
         default:
-            return IsDigit(std::string_view(&key, 1)) ? DigitRefusal(problem, point)
-                                                      : LetterRefusal(problem, point, key);
+            return IsDigit(key) ? DigitRefusal(problem, point) : LetterRefusal(problem, point, key);
     }
 }
 

@@ -20,10 +20,6 @@ constexpr std::string_view kNotAllowedAfter =
     "The character you typed ({c}) is not allowed after a '{P}' in '{T}'.  Click the Assistant Wiz "
     "for details.";
 
-bool IsDigitKey(char key) {
-    return IsDigit(std::string_view(&key, 1));
-}
-
 /// A number goes on, or begins, as long as its digits do not pass the limit.
 bool DigitFits(const Problem& problem, const TypingPoint& point) {
     return point.last != Role::Digit || point.number.whole < problem.topic.MaxDigits;
@@ -35,8 +31,7 @@ std::string ComparedNumberRefusal(const Problem& problem, const TypingPoint& poi
         return std::string(point.last == Role::Digit && !typed ? "" : kOneComma);
     }
     const bool atNumberStart = point.last == Role::LineStart || point.last == Role::Comma;
-    const bool taken =
-        (key == '-' && atNumberStart) || (IsDigitKey(key) && DigitFits(problem, point));
+    const bool taken = (key == '-' && atNumberStart) || (IsDigit(key) && DigitFits(problem, point));
     return taken ? "" : "'{c}' is not a valid character in '{T}'.";
 }
 
@@ -70,7 +65,7 @@ bool TakesPointKey(const Problem& problem, const TypingPoint& point, const Typed
         case '-':
             return atNumberStart || (secondDue && point.last == Role::CloseParen);
         default:
-            return IsDigitKey(key) && points.open && DigitFits(problem, point);
+            return IsDigit(key) && points.open && DigitFits(problem, point);
     }
 }
 

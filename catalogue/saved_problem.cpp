@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "catalogue/chooser.h"
-#include "catalogue/entry_layouts.h"
+#include "catalogue/entry_text.h"
 #include "catalogue/guided_input.h"
 #include "catalogue/topics.h"
 #include "core/text.h"
@@ -13,18 +13,7 @@ namespace numerello {
 
 namespace {
 
-constexpr int kUnitRows = 7;
 constexpr std::size_t kMostKeys = 10 * static_cast<std::size_t>(kLongestLine);
-
-int RowsOf(EntryLists lists) {
-    return lists == EntryLists::Roundings ? static_cast<int>(RoundingRows().size()) : kUnitRows;
-}
-
-/// Which of Combo1 to Combo3, from 0, the topic shows.
-bool ShowsList(EntryLists lists, std::size_t list) {
-    constexpr std::size_t kRoundingList = 2;
-    return lists != EntryLists::None && (lists == EntryLists::Roundings) == (list == kRoundingList);
-}
 
 /// Nothing when the learner cancels.
 std::optional<SavedProblem> Read(std::string_view StartFile, ProblemFiles& files) {
@@ -56,15 +45,12 @@ EntryBoxes SavedBoxes(const SavedProblem& saved, int ProblemType) {
         return boxes;
     }
     for (const EntryBoxLayout& box : layout->boxes) {
-        const std::size_t i = static_cast<std::size_t>(box.number) - 1;
-        boxes.Text[i] = saved.Text[i];
+        boxes.Box(box.number) = saved.boxes.Box(box.number);
     }
-    for (std::size_t i = 0; i < boxes.ListIndex.size(); ++i) {
-        if (ShowsList(layout->lists, i)) {
-            const int row = saved.ListIndex[i];
-            const bool isThere = row >= 0 && row < RowsOf(layout->lists);
-            boxes.ListIndex[i] = isThere ? row : EntryBoxes::kNoChoice;
-        }
+    for (const EntryListRows& list : ListsOf(ProblemType)) {
+        const int row = saved.boxes.List(list.number);
+        const bool isThere = row >= 0 && row < static_cast<int>(list.rows.size());
+        boxes.List(list.number) = isThere ? row : EntryBoxes::kNoChoice;
     }
     return boxes;
 }

@@ -4,22 +4,19 @@
 #include <vector>
 
 #include "core/number.h"
+#include "core/text.h"
 
 namespace numerello {
 
 namespace {
 
-char Lower(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 bool SameLetter(char a, char b) {
-    return Lower(a) == Lower(b);
+    return LowerCase(a) == LowerCase(b);
 }
 
 bool StandsBefore(std::string_view a, std::string_view b) {
     return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
-                                        [](char x, char y) { return Lower(x) < Lower(y); });
+                                        [](char x, char y) { return LowerCase(x) < LowerCase(y); });
 }
 
 bool BeginsWith(std::string_view row, std::string_view start) {

@@ -33,8 +33,9 @@ void ExampleProblemRequest(Fields& fields, Json& answer) {
     fields.RejectOthers();
 
     UnsolvedForm form(problem);
-    ExampleChop(GenerateExample(problem.topic, false, complex ? 2 : 0, requested.Draws()), problem,
-                form);
+    ExampleChop(GenerateExample(problem.topic, false, complex ? AnswerSettings::kComplex : 0,
+                                requested.Draws()),
+                problem, form);
     answer["ok"] = true;
     answer["code"] = problem.topic.ProblemType;
     answer["problem"] = problem.typed.ProblemText;

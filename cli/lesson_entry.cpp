@@ -99,7 +99,7 @@ Next AskForRow(Terminal& terminal, const EntryListRows& list, Problem& problem) 
         terminal.Say(
             Text("    ", WholeText(row + 1), "  ", list.rows[static_cast<std::size_t>(row)]));
     }
-    int& choice = problem.boxes.ListIndex[list.list];
+    int& choice = problem.boxes.List(list.number);
     while (true) {
         std::string text;
         const std::string prompt = Text(list.name, " (1 to ", WholeText(count), "): ");
@@ -118,7 +118,7 @@ Next AskForRow(Terminal& terminal, const EntryListRows& list, Problem& problem) 
 
 Next FillBoxes(Terminal& terminal, const EntryLayout& layout, Problem& problem) {
     for (const EntryBoxLayout& box : layout.boxes) {
-        const std::string& text = problem.boxes.Text[static_cast<std::size_t>(box.number) - 1];
+        const std::string& text = problem.boxes.Box(box.number);
         const Field field{Text(PlainName(box), " = "), [&text] { return text; },
                           [&](const std::string& key) { BoxKey(problem, box.number, key); },
                           kCommands};

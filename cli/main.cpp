@@ -13,6 +13,7 @@
 #include "cli/requests.h"
 #include "cli/saved_request.h"
 #include "core/clock.h"
+#include "core/topic_codes.h"
 
 namespace {
 
@@ -126,8 +127,7 @@ int Solve(const SolveArguments& arguments) {
     request["answers"] = arguments.answers;
     request["settings"] = Settings(arguments.settings);
     const Json answer = numerello::Answer(request, nullptr);
-    constexpr int kFirstColumnTopic = 200;
-    if (!arguments.json && answer.value("code", 0) >= kFirstColumnTopic) {
+    if (!arguments.json && numerello::IsColumnTopic(answer.value("code", 0))) {
         return SolveInColumns(request);
     }
     return numerello::PrintSolved(answer, arguments.json, std::cout, std::cerr);

@@ -14,7 +14,8 @@ namespace numerello {
 using ColumnCells = BoundedArray<std::string, 25>;
 
 /// Makes both texts end in the same number of decimals: a point and zeros go behind the shorter
-/// one, and a text that then begins with its point gets a 0 before it.
+/// one, and a text that then begins with its point gets a 0 before it. Changes nothing as long as the
+/// boxes of columns take no point.
 void AlignDecimals(std::string& Top, std::string& Bottom);
 
 /// Pads the shorter text with blanks in front until both are equally long, then puts a blank before

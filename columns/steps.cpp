@@ -10,6 +10,7 @@
 #include "columns/multiplication.h"
 #include "columns/subtraction.h"
 #include "core/failure.h"
+#include "core/topic_codes.h"
 
 namespace numerello {
 
@@ -24,10 +25,10 @@ struct Operation {
 
 // A product's highest carry belongs to its eighth row: no later one is drawn.
 constexpr std::array kOperations{
-    Operation{200, &ColumnRequest::ColumnAdd, ColumnAddition, 283},
-    Operation{201, &ColumnRequest::ColumnSubtract, ColumnSubtraction, 300},
-    Operation{202, &ColumnRequest::ColumnMultiply, ColumnMultiplication, 250},
-    Operation{203, &ColumnRequest::ColumnDivide, LongDivision, 280},
+    Operation{kAddition, &ColumnRequest::ColumnAdd, ColumnAddition, 283},
+    Operation{kSubtraction, &ColumnRequest::ColumnSubtract, ColumnSubtraction, 300},
+    Operation{kMultiplication, &ColumnRequest::ColumnMultiply, ColumnMultiplication, 250},
+    Operation{kDivision, &ColumnRequest::ColumnDivide, LongDivision, 280},
 };
 
 // A digit and a line of 12 points on the sheet.

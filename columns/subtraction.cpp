@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "columns/column_rows.h"
+#include "core/bounds.h"
 #include "core/number.h"
 #include "core/text.h"
 

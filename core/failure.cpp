@@ -17,7 +17,7 @@ std::string_view FailureName(FailureKind kind) {
 }
 
 const char* Failure::what() const noexcept {
-    return FailureName(kind).data();
+    return FailureName(kind).data();  // whole literals: they end in a zero
 }
 
 }  // namespace numerello

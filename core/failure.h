@@ -16,7 +16,8 @@ enum class FailureKind {
 std::string_view FailureName(FailureKind kind);
 
 /// The one error that ends a solver. Thrown by the arithmetic, the conversions and the bounded
-/// tables; caught by the solve driver's trap and by the guarded line routines, nowhere else.
+/// tables; caught by the solve driver's trap, and where what is done already has to be kept: a
+/// sheet, a page, a graph, a practice test.
 class Failure : public std::exception {
   public:
     explicit Failure(FailureKind kind) : kind(kind) {}

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <numeric>
 
 #include "core/failure.h"
 #include "core/text.h"
@@ -22,7 +23,7 @@ struct Written {
 };
 
 bool OnlyDigits(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+    return std::all_of(text.begin(), text.end(), [](char c) { return IsDigit(c); });
 }
 
 /// Nothing for a text that is no number. Not empty.
@@ -222,7 +223,7 @@ std::optional<std::int16_t> LeadingInteger16(std::string_view text) {
 std::string NumberText(double value) {
     // Most are whole; those need no digits weighed.
     constexpr double kSixteenDigits = 1e15;
-    if (std::abs(value) < kSixteenDigits && value == std::trunc(value)) {
+    if (std::abs(value) < kSixteenDigits && IsWhole(value)) {
         return WholeText(static_cast<std::int64_t>(value));
     }
     return FloatText(value, 15);
@@ -256,6 +257,11 @@ double Checked(double value) {
     return value;
 }
 
+bool IsExactWhole(double value) {
+    constexpr double kExactWholes = 9007199254740992;  // 2^53
+    return IsWhole(value) && std::abs(value) < kExactWholes;
+}
+
 double Divide(double dividend, double divisor) {
     if (divisor == 0) {
         throw Failure(FailureKind::DivisionByZero);
@@ -269,6 +275,11 @@ std::int16_t ToInteger16(double value) {
 
 std::int32_t ToInteger32(double value) {
     return ToInteger<std::int32_t>(value);
+}
+
+std::int32_t LeastCommonMultiple(std::int32_t one, std::int32_t other) {
+    const std::int64_t multiple = std::lcm(std::int64_t{one}, std::int64_t{other});
+    return ToInteger32(static_cast<double>(multiple));
 }
 
 float ToSingle(double value) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -47,6 +48,13 @@ double Round(double value, int places);
 /// `value`, or Failure(Overflow) when it is no finite number.
 double Checked(double value);
 
+inline bool IsWhole(double value) {
+    return value == std::trunc(value);
+}
+
+/// Whether it is whole and so small that its neighbours are Doubles too.
+bool IsExactWhole(double value);
+
 /// Failure(DivisionByZero) for a divisor 0, also of 0; Failure(Overflow) beyond the range.
 double Divide(double dividend, double divisor);
 
@@ -55,6 +63,10 @@ std::int16_t ToInteger16(double value);
 
 /// Half to even, then Failure(Overflow) outside the 32-bit range.
 std::int32_t ToInteger32(double value);
+
+/// The smallest number that both divide, without a sign; 0 beside a 0. Failure(Overflow) beyond the
+/// 32-bit range.
+std::int32_t LeastCommonMultiple(std::int32_t one, std::int32_t other);
 
 /// The nearest Single; Failure(Overflow) beyond the largest one.
 float ToSingle(double value);

@@ -16,8 +16,6 @@ struct Detail {
 constexpr std::array<std::string_view, 3> kDetailNames{"High", "Medium", "Low"};
 constexpr std::array kDetails{Detail{3, 1}, Detail{2, 2}, Detail{1, 3}};
 
-constexpr int kComplex = 2;
-
 /// The explanation's detail alone decides the row, also where the other does not go with it.
 int DetailRow(int ExpDetail) {
     int row = 0;
@@ -39,7 +37,7 @@ std::span<const std::string_view> DetailRows() {
 
 OptionControls ShownOptions(const AnswerSettings& settings) {
     return {settings.RoundDigits - 1, DetailRow(settings.ExpDetail), settings.ClickNotify,
-            settings.ComplexEx == kComplex};
+            settings.ComplexEx == AnswerSettings::kComplex};
 }
 
 void Command1_Click(const OptionControls& controls, AnswerSettings& settings) {
@@ -52,7 +50,7 @@ void Command1_Click(const OptionControls& controls, AnswerSettings& settings) {
         settings.DetailLevel = detail.DetailLevel;
     }
     settings.ClickNotify = controls.Check2;
-    settings.ComplexEx = controls.Check3 ? kComplex : 0;
+    settings.ComplexEx = controls.Check3 ? AnswerSettings::kComplex : 0;
 }
 
 }  // namespace numerello

@@ -1,6 +1,7 @@
 #include "core/problem.h"
 
 #include "core/text.h"
+#include "core/topic_codes.h"
 
 namespace numerello {
 
@@ -9,7 +10,30 @@ namespace {
 /// CollectVariables and the reset clear these cells only; the cells above keep what they held.
 constexpr int kTopClearedVariable = 20;
 
+/// The cell of a control's number, which counts from 1.
+template <class Cells>
+auto& CellOf(Cells& cells, int number) {
+    CheckIndex(number - 1, static_cast<int>(cells.size()) - 1);
+    return cells[static_cast<std::size_t>(number) - 1];
+}
+
 }  // namespace
+
+std::string& EntryBoxes::Box(int number) {
+    return CellOf(Text, number);
+}
+
+const std::string& EntryBoxes::Box(int number) const {
+    return CellOf(Text, number);
+}
+
+int& EntryBoxes::List(int number) {
+    return CellOf(ListIndex, number);
+}
+
+int EntryBoxes::List(int number) const {
+    return CellOf(ListIndex, number);
+}
 
 bool ColumnRequest::Any() const {
     return ColumnAdd || ColumnSubtract || ColumnMultiply || ColumnDivide;
@@ -20,7 +44,7 @@ void ColumnRequest::ClearFlags() {
 }
 
 bool IsTypedOnLine(int ProblemType) {
-    return ProblemType > 27 && ProblemType < 200;
+    return ProblemType > kLastBoxTopic && !IsColumnTopic(ProblemType);
 }
 
 void ResetProblem(Problem& problem, bool ClearSteps) {

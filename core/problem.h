@@ -19,7 +19,7 @@ struct TopicChoice {
     std::string InstructionText;
     int MaxDigits = 5;
     int MaxVariables = 0;
-    int LinearGraphTopic = 0;
+    int LinearGraphTopic = 0;  ///< 1 once the linear graph was chosen; kept, though nothing asks
     bool ChooserCancelled = false;
     bool ClickedOnly = false;  ///< the topic came by a click, a list change or a file
 };
@@ -28,10 +28,13 @@ struct TopicChoice {
 struct TypedProblem {
     static constexpr int kTopCell = 2000;
     static constexpr int kTopVariable = 25;
+    /// Of a line that is set out: token k, from 0, stands at (k + 1) * kCellPitch, the mark before
+    /// it one cell lower, those behind it in the next two.
+    static constexpr int kCellPitch = 4;
 
     BoundedArray<std::string, kTopCell> ExprChars;  ///< one character a cell, from 0
     int ExprCharCount = 0;                          ///< the next key lands at this index
-    BoundedArray<std::string, kTopCell> ExprCells;  ///< once set out: tokens at 4, 8, 12 ...
+    BoundedArray<std::string, kTopCell> ExprCells;  ///< tokens from 0, then set out
     int ExprCellCount = 0;                          ///< top used index of ExprCells
     BoundedArray<std::string, kTopCell> ExprVariants;
     BoundedArray<std::string, kTopVariable> VarNames;  ///< from index 1; index 0 stays empty
@@ -44,7 +47,7 @@ struct TypedProblem {
 struct LineFlags {
     bool RootOpen = false;
     bool AbsOpen = false;
-    int AbsDepth = 0;
+    int AbsDepth = 0;  ///< 1 while AbsOpen: bars do not nest
     bool EqualsTyped = false;
     bool InExponent = false;
     bool InFraction = false;  ///< in a denominator
@@ -64,15 +67,23 @@ struct EntryBoxes {
 
     std::array<std::string, 6> Text;                        ///< Text1 to Text6 at 0 to 5
     std::array<int, 3> ListIndex{kNoChoice, kNoChoice, 0};  ///< Combo1 to Combo3 at 0 to 2
+
+    /// By the numbers of their names: boxes 1 to 6, lists 1 to 3. Failure(Format) for others.
+    std::string& Box(int number);
+    const std::string& Box(int number) const;
+    int& List(int number);
+    int List(int number) const;
 };
 
 /// The settings that shape answers, examples and explanations.
 struct AnswerSettings {
+    static constexpr int kComplex = 2;
+
     int RoundDigits = 2;  ///< 1 to 5
     bool UseFractions = true;
     int DetailLevel = 1;  ///< 1 to 3: keep one recorded step in so many
     int ExpDetail = 3;    ///< 1 to 3
-    int ComplexEx = 0;    ///< 0 or 2
+    int ComplexEx = 0;    ///< 0, or kComplex
     bool ClickNotify = true;
     int whichAssistant = 3;  ///< 1 to 3
     bool mnuShowStep = true;
@@ -91,7 +102,7 @@ struct Playback {
     int ShowAllSteps = 0;
     int CurrentPage = 0;  ///< 0 to 9
     bool TypingEnabled = false;
-    int SavedPointer = 0;
+    int SavedPointer = 0;  ///< unused: each face puts its pointer back itself
     double LineEndX = 0;
     double LineEndY = 0;
     std::optional<double> DrawingRow;  ///< Y at which a solver wants the first sheet to go on
@@ -111,8 +122,11 @@ struct ColumnRequest {
     void ClearFlags();
 };
 
+/// What a GraphMode asks for.
+enum : int { kNoGraph, kOnePointGraph, kTwoPointsGraph, kEquationGraph };
+
 struct GraphRequest {
-    int GraphMode = 0;  ///< 0 none, 1 one point, 2 two points, 3 an equation
+    int GraphMode = kNoGraph;
     double GraphX1 = 0;
     double GraphY1 = 0;
     double GraphX2 = 0;

@@ -95,20 +95,21 @@ SavedProblem ReadProblemLine(std::string_view text) {
     SavedProblem saved;
     saved.TopicTitle = Decoded(fields[0]);
     saved.typed = Decoded(fields[1]);
-    for (std::size_t i = 0; i < saved.Text.size(); ++i) {
-        saved.Text[i] = Decoded(fields[kFirstBox + i]);
+    EntryBoxes& boxes = saved.boxes;
+    for (std::size_t i = 0; i < boxes.Text.size(); ++i) {
+        boxes.Text[i] = Decoded(fields[kFirstBox + i]);
     }
-    for (std::size_t i = 0; i < saved.ListIndex.size(); ++i) {
-        saved.ListIndex[i] = ReadInteger16(fields[kFirstList + i]).value_or(EntryBoxes::kNoChoice);
+    for (std::size_t i = 0; i < boxes.ListIndex.size(); ++i) {
+        boxes.ListIndex[i] = ReadInteger16(fields[kFirstList + i]).value_or(EntryBoxes::kNoChoice);
     }
     saved.ProblemType = *code;
     return saved;
 }
 
 std::string SuggestedName(std::string_view TopicTitle, const Date& today) {
-    const std::string name = Text(Replace(TopicTitle, "/", "-"), " ", TwoDigits(today.month), "-",
-                                  TwoDigits(today.day), "-", TwoDigits(today.year));
-    return Replace(Replace(name, "*", "x"), "/", "-");
+    const std::string title = Replace(Replace(TopicTitle, "/", "-"), "*", "x");
+    return Text(title, " ", TwoDigits(today.month), "-", TwoDigits(today.day), "-",
+                TwoDigits(today.year));
 }
 
 std::string StartFilePath(std::string_view StartFile) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <string>
 #include <string_view>
 
@@ -17,10 +16,8 @@ inline constexpr std::size_t kLongestProblemFile = 1048576;
 /// The fields of a problem file. Nothing is known yet of the topic and of what it allows.
 struct SavedProblem {
     std::string TopicTitle;
-    std::string typed;                ///< the problem as typed on the line
-    std::array<std::string, 6> Text;  ///< Text1 to Text6 at 0 to 5
-    std::array<int, 3> ListIndex{EntryBoxes::kNoChoice, EntryBoxes::kNoChoice,
-                                 EntryBoxes::kNoChoice};  ///< Combo1 to Combo3 at 0 to 2
+    std::string typed;  ///< the problem as typed on the line
+    EntryBoxes boxes;
     int ProblemType = 0;
 };
 

@@ -16,18 +16,13 @@ constexpr std::string_view kExtension = "nrl";
 constexpr std::string_view kSaveTitle = "Save Problem As";
 constexpr std::string_view kLoadTitle = "Load Problem";
 
-char Lower(char character) {
-    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
-                                                : character;
-}
-
 }  // namespace
 
 bool HasExtension(std::string_view path, std::string_view extension) {
     const std::string end = Text(".", extension);
     return path.size() >= end.size() &&
            std::equal(end.rbegin(), end.rend(), path.rbegin(),
-                      [](char one, char other) { return Lower(one) == Lower(other); });
+                      [](char one, char other) { return LowerCase(one) == LowerCase(other); });
 }
 
 ProblemFiles::ProblemFiles(std::string documents, FileDialog& dialog)

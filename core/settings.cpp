@@ -22,7 +22,8 @@ struct NumberKey {
 constexpr std::array kNumbers{
     NumberKey{"whichAssistant", &AnswerSettings::whichAssistant, 1, 3, 1},
     NumberKey{"RoundVar", &AnswerSettings::RoundDigits, 1, 5, 1},
-    NumberKey{"ComplexEx", &AnswerSettings::ComplexEx, 0, 2, 2},
+    NumberKey{"ComplexEx", &AnswerSettings::ComplexEx, 0, AnswerSettings::kComplex,
+              AnswerSettings::kComplex},
     NumberKey{"ExpDetail", &AnswerSettings::ExpDetail, 1, 3, 1},
     NumberKey{"detail", &AnswerSettings::DetailLevel, 1, 3, 1},
 };
@@ -54,14 +55,6 @@ constexpr std::string_view kFalse = "false";
 constexpr std::array kTrueWords{kTrue, std::string_view("-1"), std::string_view("1"),
                                 std::string_view("yes")};
 constexpr std::array kFalseWords{kFalse, std::string_view("0"), std::string_view("no")};
-
-std::string LowerCase(std::string_view text) {
-    std::string lower(text);
-    for (char& c : lower) {
-        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    }
-    return lower;
-}
 
 void ReadNumber(const SettingsStore& store, const NumberKey& number, AnswerSettings& answers) {
     const auto value = ReadInteger16(store.Read(number.key).value_or(""));

@@ -1,6 +1,7 @@
 #include "core/solve_driver.h"
 
 #include <algorithm>
+#include <array>
 #include <string_view>
 
 namespace numerello {
@@ -9,40 +10,39 @@ namespace {
 
 constexpr int kTopSheet = 9;
 
+/// Without a message a failure ends the solve in silence.
 struct TrapMessage {
+    FailureKind kind;
     std::string_view title;
     std::string_view text;
 };
 
-constexpr TrapMessage kOverflow{
-    "Overflow!",
-    "The entered problem caused a data overflow.  Click the 'Erase' button and try again."};
-constexpr TrapMessage kDivisionByZero{
-    "Division by 0!",
-    "The problem entered caused division by 0 (which is not mathematically possible).  Click the "
-    "'Erase' button and try again."};
-constexpr TrapMessage kFormat{
-    "",
-    "The format of the entered problem was not recognized.  Click the 'Erase' button and try "
-    "again."};
+constexpr std::array kTrapMessages{
+    TrapMessage{
+        FailureKind::Overflow, "Overflow!",
+        "The entered problem caused a data overflow.  Click the 'Erase' button and try again."},
+    TrapMessage{
+        FailureKind::DivisionByZero, "Division by 0!",
+        "The problem entered caused division by 0 (which is not mathematically possible).  Click "
+        "the 'Erase' button and try again."},
+    TrapMessage{
+        FailureKind::Format, "",
+        "The format of the entered problem was not recognized.  Click the 'Erase' button and try "
+        "again."},
+};
 
 void TellFailure(FailureKind kind, Learner& learner) {
-    switch (kind) {
-        case FailureKind::Overflow:
-            return learner.MessageBox(kOverflow.title, kOverflow.text);
-        case FailureKind::DivisionByZero:
-            return learner.MessageBox(kDivisionByZero.title, kDivisionByZero.text);
-        case FailureKind::Format:
-            return learner.MessageBox(kFormat.title, kFormat.text);
-        case FailureKind::Unanswered:
-            return;
+    for (const TrapMessage& message : kTrapMessages) {
+        if (message.kind == kind) {
+            learner.MessageBox(message.title, message.text);
+        }
     }
 }
 
 /// The requests of an earlier problem must not reach into the next one.
 void DropRequests(Problem& problem) {
     problem.columns.ClearFlags();
-    problem.graph.GraphMode = 0;
+    problem.graph.GraphMode = kNoGraph;
     problem.playback.DrawingRow.reset();
     problem.playback.NumberLine.reset();
 }
@@ -102,6 +102,7 @@ std::optional<FailureKind> FailureOf(const std::function<void()>& part) {
     } catch (const Failure& failure) {
         return failure.Kind();
     } catch (const std::exception&) {
+        // Whatever else a library throws, the learner keeps the sheet.
         return FailureKind::Format;
     }
 }

@@ -18,10 +18,10 @@ struct StepLog {
     int StepCount = 1;  ///< index of the next free step
 
     std::string StepReason;    ///< note of the next recorded step
-    int StepLevel = 0;         ///< detail class of the next recorded step, 1 to 3
+    int StepLevel = 0;         ///< what kind of step is recorded next, 0 to 3; kept in StepLevels
     std::string LastStepLine;  ///< drops a step that repeats the last one recorded
     bool StepUnchanged = false;
-    bool FreshProblem = true;
+    bool FreshProblem = true;  ///< kept, though nothing asks
 
     /// Adds a step: its line and its reason.
     void Write(std::string text, std::string note);

@@ -54,4 +54,12 @@ std::string_view Trimmed(std::string_view text) {
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
+std::string LowerCase(std::string_view text) {
+    std::string lower(text);
+    for (char& character : lower) {
+        character = LowerCase(character);
+    }
+    return lower;
+}
+
 }  // namespace numerello

@@ -25,14 +25,30 @@ std::string Replace(std::string_view text, std::string_view from, std::string_vi
 /// The text less the blanks at its ends.
 std::string_view Trimmed(std::string_view text);
 
-inline bool IsDigit(std::string_view character) {
-    return character.size() == 1 && character[0] >= '0' && character[0] <= '9';
+// Digits and letters are those of ASCII, whatever the language of the desktop.
+
+constexpr bool IsDigit(char character) {
+    return character >= '0' && character <= '9';
 }
 
-/// True for "A".."Z" and "a".."z".
-inline bool IsLetter(std::string_view character) {
-    return character.size() == 1 && ((character[0] >= 'A' && character[0] <= 'Z') ||
-                                     (character[0] >= 'a' && character[0] <= 'z'));
+constexpr bool IsLetter(char character) {
+    return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z');
 }
+
+constexpr bool IsDigit(std::string_view character) {
+    return character.size() == 1 && IsDigit(character.front());
+}
+
+constexpr bool IsLetter(std::string_view character) {
+    return character.size() == 1 && IsLetter(character.front());
+}
+
+/// A letter of "A".."Z" as that of "a".."z"; everything else stays.
+constexpr char LowerCase(char character) {
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
+                                                : character;
+}
+
+std::string LowerCase(std::string_view text);
 
 }  // namespace numerello

@@ -90,7 +90,8 @@ bool Engine::SolveFor(const std::string& variable) {
     }
     const std::vector<Term> left = TermsOf(0);
     const std::string line = ExprToText();
-    const bool letterLeft = std::any_of(tokens.begin(), tokens.end(), IsLetter);
+    const bool letterLeft = std::any_of(tokens.begin(), tokens.end(),
+                                        [](const std::string& token) { return IsLetter(token); });
     if (line.find(variable) != std::string::npos && !left.empty() && left.front().Num != 0) {
         if (problem.log.LastStepLine.find('[') != std::string::npos) {
             Because("Remove cancelled terms from both sides.", kOrdinaryStep);

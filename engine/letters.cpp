@@ -40,8 +40,7 @@ std::vector<LetterPower> InOrder(const TypedProblem& typed, const Exponents& exp
 }  // namespace
 
 bool HasLetters(std::string_view text) {
-    return std::any_of(text.begin(), text.end(),
-                       [](const char& each) { return IsLetter(std::string_view(&each, 1)); });
+    return std::any_of(text.begin(), text.end(), [](char each) { return IsLetter(each); });
 }
 
 std::vector<LetterPower> ReadLetters(std::string_view text) {

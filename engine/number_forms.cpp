@@ -21,13 +21,9 @@ bool IsShownAsFraction(const AnswerSettings& settings, const std::string& text) 
 
 }  // namespace
 
-bool IsWhole(double value) {
-    return value == std::trunc(value);
-}
-
 std::string SingleValueText(float value) {
-    const bool whole = value == std::trunc(value);
-    return whole ? NumberText(static_cast<double>(value)) : SingleText(value);
+    const auto number = static_cast<double>(value);
+    return IsWhole(number) ? NumberText(number) : SingleText(value);
 }
 
 double PowerOf(double base, float power) {
@@ -41,12 +37,12 @@ std::string ReduceRatio(double a, double b) {
     if (b == 0) {
         throw Failure(FailureKind::DivisionByZero);
     }
-    const std::int32_t numerator = ToInteger32(a);
-    const std::int32_t denominator = ToInteger32(b);
+    const std::int64_t numerator = ToInteger32(a);
+    const std::int64_t denominator = ToInteger32(b);
     if (numerator == 0) {
         return "0";
     }
-    const std::int32_t divisor = std::gcd(numerator, denominator);
+    const std::int64_t divisor = std::gcd(numerator, denominator);
     const std::string reduced = WholeText(numerator / divisor);
     return denominator == divisor ? reduced : reduced + "/" + WholeText(denominator / divisor);
 }
@@ -77,9 +73,9 @@ std::string NumberToFractionText(const AnswerSettings& settings, const Ratio& nu
 }
 
 std::string PrimeFactorList(double n) {
-    std::int32_t rest = std::abs(ToInteger32(n));
+    std::int64_t rest = std::abs(std::int64_t{ToInteger32(n)});
     std::string list;
-    for (std::int32_t d = 2; d <= rest / d; ++d) {
+    for (std::int64_t d = 2; d <= rest / d; ++d) {
         while (rest % d == 0) {
             list += WholeText(d) + "*";
             rest /= d;
@@ -93,11 +89,12 @@ std::string PrimeFactorList(double n) {
 }
 
 std::string GreatestCommonText(std::string_view list) {
-    std::int32_t greatest = 0;
+    std::int64_t greatest = 0;
     for (std::size_t at = 0; at < list.size();) {
         const std::size_t end = std::min(list.find(' ', at), list.size());
         if (end > at) {
-            greatest = std::gcd(greatest, ToInteger32(ToNumber(list.substr(at, end - at))));
+            greatest =
+                std::gcd(greatest, std::int64_t{ToInteger32(ToNumber(list.substr(at, end - at)))});
         }
         at = end + 1;
     }
@@ -105,14 +102,13 @@ std::string GreatestCommonText(std::string_view list) {
 }
 
 std::string LeastCommonMultipleText(std::span<const double> numbers) {
-    std::int64_t multiple = 1;
+    std::int32_t multiple = 1;
     for (const double number : numbers) {
         const std::int32_t whole = ToInteger32(number);
         if (whole == 0) {
             return "0";
         }
-        multiple =
-            ToInteger32(static_cast<double>(std::lcm(multiple, static_cast<std::int64_t>(whole))));
+        multiple = LeastCommonMultiple(multiple, whole);
     }
     return WholeText(multiple);
 }

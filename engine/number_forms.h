@@ -15,8 +15,6 @@ struct Ratio {
     double under = 1;
 };
 
-bool IsWhole(double value);
-
 /// A Single as text: whole numbers in full, others with the digits that a Single holds.
 std::string SingleValueText(float value);
 

@@ -1,6 +1,7 @@
 #pragma once
 
-/// The detail class of a recorded step.
+/// What kind of step is recorded. It is kept with the step and steers nothing: whether a step has
+/// one at all tells the logs of the recorder from those that are not thinned.
 namespace numerello {
 
 inline constexpr int kOpeningStep = 0;

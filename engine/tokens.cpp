@@ -12,7 +12,7 @@ namespace numerello {
 
 namespace {
 
-constexpr int kCellPitch = 4;
+constexpr int kCellPitch = TypedProblem::kCellPitch;
 
 bool IsNumeric(std::string_view token) {
     return IsDigit(token) || IsMark(token, '.');

@@ -1,7 +1,9 @@
 #include "graph/graph_terms.h"
 
+#include "core/bounds.h"
 #include "core/failure.h"
 #include "core/number.h"
+#include "core/text.h"
 
 namespace numerello {
 
@@ -14,7 +16,7 @@ bool IsSign(char c) {
 }
 
 bool IsNumberPart(char c) {
-    return (c >= '0' && c <= '9') || c == '.';
+    return IsDigit(c) || c == '.';
 }
 
 /// Reads one side from left to right.

@@ -3,7 +3,6 @@
 #include <optional>
 #include <vector>
 
-#include "core/graph_modes.h"
 #include "core/problem.h"
 #include "graph/graph_range.h"
 #include "graph/graph_terms.h"

@@ -82,12 +82,14 @@ std::string SpokenWayTo(double x, double y) {
                 x != 0 && y != 0 ? " and" : "", SpokenWay(y, " up", " down"), ".");
 }
 
+/// Of an equation that was plotted: it has terms.
 std::string SpokenEquation(const Graph& graph) {
     if (const std::optional<AxisLine> line = AxisLineOf(*graph.Terms())) {
         return SpokenAxisLine(*line);
     }
     const Curve curve(*graph.Terms());
     if (curve.IsStraight()) {
+        // A straight line has a y above every x.
         const double atZero = *curve.YAt(0);
         return SpokenLine(atZero, *curve.YAt(1) - atZero);
     }

@@ -13,7 +13,7 @@ namespace {
 
 bool IsWordCharacter(char c) {
     const bool inMultibyte = static_cast<unsigned char>(c) >= 0x80;
-    return inMultibyte || IsDigit(std::string_view(&c, 1)) || IsLetter(std::string_view(&c, 1));
+    return inMultibyte || IsDigit(c) || IsLetter(c);
 }
 
 /// Small letters, and a blank before each word in place of all that is none.
@@ -21,7 +21,7 @@ std::string Folded(std::string_view text) {
     std::string folded = " ";
     for (const char c : text) {
         if (IsWordCharacter(c)) {
-            folded += c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+            folded += LowerCase(c);
         } else if (folded.back() != ' ') {
             folded += ' ';
         }

@@ -47,7 +47,7 @@ std::string PercentEncoded(std::string_view text) {
     std::string encoded;
     for (const char c : text) {
         const auto byte = static_cast<unsigned char>(c);
-        if (IsDigit(std::string_view(&c, 1)) || IsLetter(std::string_view(&c, 1))) {
+        if (IsDigit(c) || IsLetter(c)) {
             encoded += c;
         } else {
             encoded += '%';

@@ -30,7 +30,7 @@ std::string ChapterPath(std::string_view key) {
 }
 
 std::string_view UnitName(const EntryLayout& layout, int row) {
-    return MetricItem(row, layout.lists == EntryLists::Lengths ? 1 : 2);
+    return MetricItem(row, layout.lists == EntryLists::Lengths ? kLengthUnits : kMassUnits);
 }
 
 /// What to do to enter the example, one sentence a list item.
@@ -44,7 +44,7 @@ std::string EntryOf(const TopicText& text, const EntryLayout* layout) {
     }
     if (layout != nullptr) {
         for (const EntryBoxLayout& box : layout->boxes) {
-            const std::string& number = text.boxes.Text[static_cast<std::size_t>(box.number) - 1];
+            const std::string& number = text.boxes.Box(box.number);
             const std::string name =
                 layout->boxes.size() == 1 ? "the box" : Text("<b>", BoxName(box), "</b>");
             add(number.empty() ? Text("Leave ", name, " empty.")

@@ -10,6 +10,7 @@
 #include "catalogue/instructions.h"
 #include "core/number.h"
 #include "core/text.h"
+#include "core/topic_codes.h"
 #include "help/box_names.h"
 #include "help/set_text.h"
 #include "help/worked_example.h"
@@ -45,9 +46,6 @@ constexpr std::array kKeys{
     Key{"%", "the percent sign <code>%</code>"},
 };
 
-/// The filter takes bars there too, but no number to be rounded has any.
-constexpr int kRoundingCode = 98;
-
 /// "a", "a and b", "a, b and c".
 std::string Listed(const std::vector<std::string>& items) {
     std::string text;
@@ -77,7 +75,8 @@ bool IsTaken(Problem problem, std::string_view example, std::string_view key) {
 std::string KeysOfLine(const Problem& problem, std::string_view example) {
     std::vector<std::string> keys;
     for (const Key& each : kKeys) {
-        const bool useless = problem.topic.ProblemType == kRoundingCode && each.key == "|";
+        // The filter takes bars there too, but no number to be rounded has any.
+        const bool useless = problem.topic.ProblemType == kRounding && each.key == "|";
         if (!useless && IsTaken(problem, example, each.key)) {
             keys.emplace_back(each.text);
         }

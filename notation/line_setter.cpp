@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/failure.h"
+
 namespace numerello {
 
 namespace {
@@ -109,6 +111,9 @@ bool LineSetter::IsWithinDenominator() const {
 
 /// Fractions within the numerator are written with a plain "/".
 void LineSetter::OpenFraction(std::size_t numerator) {
+    if (numerator >= line.size()) {
+        throw Failure(FailureKind::Format);
+    }
     for (std::size_t i = numerator; i < line.size(); ++i) {
         RemoveFractionMarks(line[i].before);
         RemoveFractionMarks(line[i].after);
@@ -139,6 +144,9 @@ void LineSetter::NoteStarts(bool behindFractionBar) {
             termStarts.push_back(here + 1);
             break;
         case Role::CloseParen:
+            if (openParens.empty()) {
+                throw Failure(FailureKind::Format);
+            }
             lastParen = openParens.back();
             openParens.pop_back();
             termStarts.pop_back();

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "notation/typing_point.h"
@@ -17,7 +17,8 @@ struct MarkedToken {
 };
 
 /// Goes through the tokens of a line and opens and closes fractions, exponents and roots. "[" and
-/// "]" go around what is emphasised and are no tokens.
+/// "]" go around what is emphasised and are no tokens. A token has a character at least. Throws
+/// Failure(Format) at a ")" that closes nothing and at a fraction bar with nothing before it.
 class LineSetter {
   public:
     /// `expected` is about how many tokens will be added.

@@ -1,5 +1,8 @@
 #include "notation/typing_point.h"
 
+#include <algorithm>
+#include <array>
+
 #include "core/text.h"
 #include "core/topic_codes.h"
 
@@ -36,60 +39,44 @@ TypingPoint ReadLine(std::string_view line, int ProblemType) {
 }
 
 void TypingPoint::Pass(char character, int ProblemType) {
-    const std::string_view text(&character, 1);
-    if (IsDigit(text) || character == '.') {
+    if (IsDigit(character) || character == '.') {
         PassNumber(character);
     } else if (character == kPowerOfTen || key == kPowerOfTen) {
         last = Role::Digit;
-    } else if (IsLetter(text)) {
+    } else if (IsLetter(character)) {
         PassLetter();
+    } else if (character == '/') {
+        PassSlash(ProblemType);
+    } else if (const MarkProcedure pass = ProcedureOf(character)) {
+        (this->*pass)();
     } else {
-        switch (character) {
-            case '+':
-            case '-':
-            case '*':
-                PassMinusOrOperator(character);
-                break;
-            case '/':
-                PassSlash(ProblemType);
-                break;
-            case '~':
-                PassRoot();
-                break;
-            case '|':
-                PassBar();
-                break;
-            case '(':
-                PassOpenParen();
-                break;
-            case ')':
-                PassCloseParen();
-                break;
-            case '^':
-                last = Role::Caret;
-                InExponent = true;
-                break;
-            case '=':
-                last = Role::EqualSign;
-                EqualsTyped = true;
-                InExponent = RootOpen = false;
-                LeaveFraction();
-                break;
-            case ',':
-                last = Role::Comma;
-                InFraction = false;
-                break;
-            case ':':
-                last = Role::Colon;
-                break;
-            case '%':
-                last = Role::Percent;
-                break;
-            default:
-                return;
-        }
+        return;
     }
     key = character;
+}
+
+TypingPoint::MarkProcedure TypingPoint::ProcedureOf(char mark) {
+    struct Row {
+        char mark;
+        MarkProcedure pass;
+    };
+    static constexpr auto kRows = std::to_array<Row>({
+        {'+', &TypingPoint::PassOperator},
+        {'-', &TypingPoint::PassMinus},
+        {'*', &TypingPoint::PassOperator},
+        {'~', &TypingPoint::PassRoot},
+        {'|', &TypingPoint::PassBar},
+        {'(', &TypingPoint::PassOpenParen},
+        {')', &TypingPoint::PassCloseParen},
+        {'^', &TypingPoint::PassCaret},
+        {'=', &TypingPoint::PassEqualSign},
+        {',', &TypingPoint::PassComma},
+        {':', &TypingPoint::PassColon},
+        {'%', &TypingPoint::PassPercent},
+    });
+    const auto* const row = std::find_if(kRows.begin(), kRows.end(),
+                                         [mark](const Row& each) { return each.mark == mark; });
+    return row == kRows.end() ? nullptr : row->pass;
 }
 
 void TypingPoint::PassNumber(char character) {
@@ -115,12 +102,18 @@ void TypingPoint::PassLetter() {
     last = Role::Letter;
 }
 
-void TypingPoint::PassMinusOrOperator(char character) {
+void TypingPoint::PassOperator() {
     if (IsOperandEnd(last)) {
         last = Role::Operator;
         InExponent = RootOpen = false;
         LeaveFraction();
-    } else if (character == '-') {
+    }
+}
+
+void TypingPoint::PassMinus() {
+    if (IsOperandEnd(last)) {
+        PassOperator();
+    } else {
         last = last == Role::Caret ? Role::ExponentSign : Role::Sign;
     }
 }
@@ -172,6 +165,31 @@ void TypingPoint::PassCloseParen() {
     if (ParenDepth < FractionDepth) {
         InFraction = false;
     }
+}
+
+void TypingPoint::PassCaret() {
+    last = Role::Caret;
+    InExponent = true;
+}
+
+void TypingPoint::PassEqualSign() {
+    last = Role::EqualSign;
+    EqualsTyped = true;
+    InExponent = RootOpen = false;
+    LeaveFraction();
+}
+
+void TypingPoint::PassComma() {
+    last = Role::Comma;
+    InFraction = false;
+}
+
+void TypingPoint::PassColon() {
+    last = Role::Colon;
+}
+
+void TypingPoint::PassPercent() {
+    last = Role::Percent;
 }
 
 void TypingPoint::LeaveFraction() {

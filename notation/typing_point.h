@@ -50,14 +50,26 @@ struct TypingPoint : LineFlags {
     void Pass(char character, int ProblemType);
 
   private:
+    using MarkProcedure = void (TypingPoint::*)();
+
+    /// Null for what is no mark of the notation. A "/" has another meaning in some topics and is
+    /// not among them.
+    static MarkProcedure ProcedureOf(char mark);
+
+    void PassNumber(char character);
     void PassLetter();
-    void PassMinusOrOperator(char character);
     void PassSlash(int ProblemType);
+    void PassOperator();
+    void PassMinus();
     void PassRoot();
     void PassBar();
     void PassOpenParen();
     void PassCloseParen();
-    void PassNumber(char character);
+    void PassCaret();
+    void PassEqualSign();
+    void PassComma();
+    void PassColon();
+    void PassPercent();
     void LeaveFraction();
 };
 

@@ -12,10 +12,10 @@ namespace numerello {
 
 namespace {
 
-/// Nobody is there to be asked or told.
-class AbsentLearner : public Learner {
+/// Answers as the key needs it; what was told last ends up in the key.
+class KeyLearner : public Learner {
   public:
-    explicit AbsentLearner(const Problem& problem) : problem(problem) {}
+    explicit KeyLearner(const Problem& problem) : problem(problem) {}
 
     void MessageBox(std::string_view /*title*/, std::string_view text) override { told = text; }
     bool Confirm(std::string_view /*title*/, std::string_view /*text*/) override { return true; }
@@ -63,7 +63,7 @@ Problem Entered(const TestProblem& asked) {
 Problem Worked(const TestProblem& asked, const AnswerSettings& settings, const Solvers& solvers) {
     Problem problem = Entered(asked);
     problem.settings = settings;
-    AbsentLearner learner(problem);
+    KeyLearner learner(problem);
     Stage noStage;
     compute_Click(problem, solvers, learner, noStage);
     if (!learner.told.empty()) {

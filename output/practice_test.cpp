@@ -33,7 +33,8 @@ void WriteLine(PracticeTest& test, std::string line) {
 }
 
 void WriteProblem(PracticeTest& test, bool complex, ExampleDraws& draws) {
-    const Example example = GenerateExample(test.topic, true, complex ? 2 : 0, draws);
+    const Example example =
+        GenerateExample(test.topic, true, complex ? AnswerSettings::kComplex : 0, draws);
     const auto number = static_cast<std::int64_t>(test.problems.size()) + 1;
     const std::string line =
         Text(WholeText(number), ") ", example.printed, example.suffix, test.TestSuffix);

@@ -8,7 +8,7 @@ PrintChoices ChoicesAtOpening(int ProblemType, bool graphIsOpen) {
     // Of these two the graph is all there is.
     const bool hasLines = ProblemType != kLineThroughTwoPoints && ProblemType != kPlottingAPoint;
     return {.Problem = {hasLines, hasLines},
-            .Explanation = {hasLines && ProblemType < kFirstColumnTopic, false},
+            .Explanation = {hasLines && !IsColumnTopic(ProblemType), false},
             .Graph = {graphIsOpen, graphIsOpen}};
 }
 

@@ -5,11 +5,11 @@
 
 #include "columns/steps.h"
 #include "core/failure.h"
+#include "core/silent_learner.h"
 #include "core/text.h"
 #include "core/topic_codes.h"
 #include "output/print_line.h"
 #include "output/print_scale.h"
-#include "output/silent_learner.h"
 
 namespace numerello {
 

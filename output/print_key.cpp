@@ -1,11 +1,11 @@
 #include "output/print_key.h"
 
+#include "core/silent_learner.h"
 #include "core/text.h"
 #include "core/topic_codes.h"
 #include "graph/spoken_graph.h"
 #include "output/print_columns.h"
 #include "output/print_line.h"
-#include "output/silent_learner.h"
 #include "typeset/variants.h"
 
 namespace numerello {
@@ -15,7 +15,7 @@ namespace {
 constexpr std::string_view kIndent = "        ";
 
 bool IsWorkedInColumns(const WorkedProblem& worked) {
-    return worked.problem.topic.ProblemType >= kFirstColumnTopic;
+    return IsColumnTopic(worked.problem.topic.ProblemType);
 }
 
 /// Whether a worked line only says again what the test asks.

@@ -46,7 +46,7 @@ void PrintSteps(const StepLog& log, bool withReasons, Surface& Printer, Learner&
 
 /// A problem that failed before its first line is named as it was typed.
 void PrintProblem(const Problem& problem, bool withReasons, Surface& Printer, Learner& learner) {
-    if (problem.topic.ProblemType >= kFirstColumnTopic) {
+    if (IsColumnTopic(problem.topic.ProblemType)) {
         PrintWholeColumns(problem, Printer, learner);
     } else if (problem.log.StepCount <= 1 && IsTypedOnLine(problem.topic.ProblemType)) {
         PrintWholeLine(problem.typed.DisplayLine, Printer, false, learner);

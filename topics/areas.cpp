@@ -4,6 +4,8 @@
 #include "core/number.h"
 #include "core/text.h"
 #include "topics/geometry_common.h"
+#include "topics/refusals.h"
+#include "topics/results.h"
 
 namespace numerello {
 
@@ -15,7 +17,9 @@ void WriteArea(Problem& problem, double area) {
 }
 
 /// Takes measures of 0 and less as well: kept as it is.
-void AreaOfRectangle(Problem& problem, std::string_view b, std::string_view h) {
+void AreaOfRectangle(Problem& problem, const EntryBoxes& boxes) {
+    const std::string_view b = boxes.Box(2);
+    const std::string_view h = boxes.Box(1);
     StepLog& log = problem.log;
     log.Write(Text("base = ", b, ", height = ", h), "");
     log.Write("Area = base * height",
@@ -26,23 +30,26 @@ void AreaOfRectangle(Problem& problem, std::string_view b, std::string_view h) {
     WriteArea(problem, ToNumber(b) * ToNumber(h));
 }
 
-void AreaOfCircle(Problem& problem, std::string_view pi, std::string_view r) {
+void AreaOfCircle(Problem& problem, const EntryBoxes& boxes) {
+    const std::string_view r = boxes.Box(2);
     StepLog& log = problem.log;
     log.Write(Text("radius = ", r), "");
     if (!AllPositive({r})) {
         RefuseRadius(log);
         return;
     }
-    log.Write(Text("Area = ` * radius^2^   (` equals about ", RoundedResult(problem, ToNumber(pi)),
+    log.Write(Text("Area = ` * radius^2^   (` equals about ", RoundedResult(problem, kPi),
                    " or about #22/7#)"),
               "This is the formula for calculating the area of a circle.");
-    log.Write(Text("Area = ", pi, " * ", r, "^2^"),
+    log.Write(Text("Area = ", NumberText(kPi), " * ", r, "^2^"),
               "Substitute the value of pi and the radius into the formula.");
     const double radius = ToNumber(r);
-    WriteArea(problem, ToNumber(pi) * (radius * radius));
+    WriteArea(problem, kPi * (radius * radius));
 }
 
-void AreaOfTriangle(Problem& problem, std::string_view b, std::string_view h) {
+void AreaOfTriangle(Problem& problem, const EntryBoxes& boxes) {
+    const std::string_view b = boxes.Box(2);
+    const std::string_view h = boxes.Box(1);
     StepLog& log = problem.log;
     log.Write(Text("base = ", b, ", height = ", h), "");
     if (!AllPositive({b, h})) {
@@ -56,7 +63,10 @@ void AreaOfTriangle(Problem& problem, std::string_view b, std::string_view h) {
     WriteArea(problem, 0.5 * ToNumber(b) * ToNumber(h));
 }
 
-void AreaOfTrapezoid(Problem& problem, std::string_view h, std::string_view a, std::string_view b) {
+void AreaOfTrapezoid(Problem& problem, const EntryBoxes& boxes) {
+    const std::string_view h = boxes.Box(2);
+    const std::string_view a = boxes.Box(1);
+    const std::string_view b = boxes.Box(3);
     StepLog& log = problem.log;
     log.Write(Text("height = ", h, ", a = ", a, ", b = ", b), "");
     if (!AllPositive({h, a, b})) {
@@ -72,18 +82,17 @@ void AreaOfTrapezoid(Problem& problem, std::string_view h, std::string_view a, s
 
 }  // namespace
 
-void AreaOf(Problem& problem, std::string_view first, std::string_view second,
-            std::string_view third, int code) {
+void AreaOf(Problem& problem, const EntryBoxes& boxes, int code) {
     switch (code) {
         case 6:
         case 9:
-            return AreaOfRectangle(problem, first, second);
+            return AreaOfRectangle(problem, boxes);
         case 7:
-            return AreaOfCircle(problem, first, second);
+            return AreaOfCircle(problem, boxes);
         case 8:
-            return AreaOfTriangle(problem, first, second);
+            return AreaOfTriangle(problem, boxes);
         case 10:
-            return AreaOfTrapezoid(problem, first, second, third);
+            return AreaOfTrapezoid(problem, boxes);
         default:
             throw Failure(FailureKind::Format);
     }

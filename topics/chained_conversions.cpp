@@ -20,9 +20,6 @@ struct TwoStepConversion {
     ConversionLine summary;
 };
 
-constexpr ConversionLine kThreeFeet{"There are 3 feet in a yard.", "3 feet = 1 yard"};
-constexpr ConversionLine kFeetOfMile{"There are 5280 feet in a mile.", "5280 feet = 1 mile"};
-constexpr ConversionLine kTwelveInches{"There are 12 inches in a foot.", "12 inches = 1 foot"};
 constexpr ConversionLine kFeetToInches{
     "To convert feet to inches, multiply the number of feet ({f}) by 12:",
     "Multiplying by 12 will convert feet to inches."};

@@ -3,6 +3,7 @@
 #include "core/number.h"
 #include "core/text.h"
 #include "topics/geometry_common.h"
+#include "topics/results.h"
 
 namespace numerello {
 

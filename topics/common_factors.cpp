@@ -20,12 +20,12 @@ std::string LargestCommonDivisor(const std::vector<ListEntry>& entries) {
     if (ToInteger16(std::fabs(smallest->value)) == 0) {
         return "";
     }
-    std::int32_t divisor = 0;
+    std::int64_t divisor = 0;
     for (const ListEntry& entry : entries) {
-        if (entry.value != std::trunc(entry.value)) {
+        if (!IsWhole(entry.value)) {
             return "";
         }
-        divisor = std::gcd(divisor, ToInteger32(entry.value));
+        divisor = std::gcd(divisor, std::int64_t{ToInteger32(entry.value)});
     }
     return WholeText(divisor);
 }
@@ -73,7 +73,7 @@ std::string ComputeLCM(std::string_view ListText) {
         entries.begin(), entries.end(),
         [](const ListEntry& one, const ListEntry& other) { return SmallerValue(other, one); });
 
-    std::int64_t multiple = ToInteger32(entries.front().value);
+    std::int32_t multiple = LeastCommonMultiple(1, ToInteger32(entries.front().value));
     for (auto entry = entries.begin() + 1; entry != entries.end(); ++entry) {
         if (entry->text == "0" || entries.front().text == "0") {
             return "0";
@@ -82,9 +82,8 @@ std::string ComputeLCM(std::string_view ListText) {
             throw Failure(FailureKind::DivisionByZero);
         }
     }
-    for (const ListEntry& entry : entries) {
-        multiple = ToInteger32(static_cast<double>(
-            std::lcm(multiple, static_cast<std::int64_t>(ToInteger32(entry.value)))));
+    for (auto entry = entries.begin() + 1; entry != entries.end(); ++entry) {
+        multiple = LeastCommonMultiple(multiple, ToInteger32(entry->value));
     }
     return WholeText(multiple);
 }

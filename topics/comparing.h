@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string_view>
-
 #include "core/problem.h"
 
 namespace numerello {

@@ -16,6 +16,12 @@ struct ConversionLine {
     std::string_view note;
 };
 
+// Facts that direct and chained conversions share.
+inline constexpr ConversionLine kTwelveInches{"There are 12 inches in a foot.",
+                                              "12 inches = 1 foot"};
+inline constexpr ConversionLine kThreeFeet{"There are 3 feet in a yard.", "3 feet = 1 yard"};
+inline constexpr ConversionLine kFeetOfMile{"There are 5280 feet in a mile.", "5280 feet = 1 mile"};
+
 struct ConversionNumbers {
     std::string_view v{};
     std::string_view f{};

@@ -47,8 +47,11 @@ std::string ConvertPoundsToOunces(Problem& problem, std::string_view ValueText, 
 std::string ConvertPoundsToTons(Problem& problem, std::string_view ValueText, bool Standalone);
 std::string ConvertTonsToPounds(Problem& problem, std::string_view ValueText, bool Standalone);
 
+// UnitKind: what the metric units of a list measure.
+inline constexpr int kLengthUnits = 1;
+inline constexpr int kMassUnits = 2;
+
 /// The ladder of the metric units. The factors are two of MetricFactor's; any other fails (Format).
-/// UnitKind is 1 for length and 2 for mass.
 void ConvertMetric(Problem& problem, std::string_view ValueText, double FromFactor, double ToFactor,
                    int UnitKind);
 

@@ -1,7 +1,5 @@
 #include "topics/decimal_point.h"
 
-#include <cmath>
-
 #include "core/number.h"
 
 namespace numerello {

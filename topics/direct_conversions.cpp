@@ -16,35 +16,35 @@ struct DirectConversion {
 
 constexpr DirectConversion kInchesToFeet{
     {Operation::Divide, 12, 2},
-    {"There are 12 inches in a foot.", "12 inches = 1 foot"},
+    kTwelveInches,
     {"To convert inches to feet, divide the number of inches ({v}) by 12:",
      "Dividing by 12 will convert inches to feet."},
     {"{v} inches = {r} feet", "Inches converted to feet."}};
 
 constexpr DirectConversion kFeetToInches{
     {Operation::Multiply, 12, kEveryDigit},
-    {"There are 12 inches in a foot.", "12 inches = 1 foot"},
+    kTwelveInches,
     {"To convert feet to inches, multiply the number of feet ({v}) by 12:",
      "Multiplying by 12 will convert feet to inches."},
     {"{v} feet = {r} inches", "Feet converted to inches."}};
 
 constexpr DirectConversion kFeetToYards{
     {Operation::Divide, 3, kEveryDigit},
-    {"There are 3 feet in a yard.", "3 feet = 1 yard"},
+    kThreeFeet,
     {"To convert feet to yards, divide the number of feet ({v}) by 3:",
      "Dividing by 3 will convert feet to yards."},
     {"{v} feet = {r} yards", "Feet converted to yards."}};
 
 constexpr DirectConversion kFeetToMiles{
     {Operation::Divide, 5280, 5},
-    {"There are 5280 feet in a mile.", "5280 feet = 1 mile"},
+    kFeetOfMile,
     {"To convert feet to miles, divide the number of feet ({v}) by 5280:",
      "Dividing by 5280 will convert feet to miles."},
     {"{v} feet = {r} miles", "Feet converted to miles."}};
 
 constexpr DirectConversion kYardsToFeet{
     {Operation::Multiply, 3, kEveryDigit},
-    {"There are 3 feet in a yard.", "3 feet = 1 yard"},
+    kThreeFeet,
     {"To convert yards to feet, multiply the number of yards ({v}) by 3:",
      "Multiplying by 3 will convert yards to feet."},
     {"{v} yards = {r} feet", "Yards converted to feet."}};
@@ -58,7 +58,7 @@ constexpr DirectConversion kYardsToMiles{
 
 constexpr DirectConversion kMilesToFeet{
     {Operation::Multiply, 5280, kEveryDigit},
-    {"There are 5280 feet in a mile.", "5280 feet = 1 mile"},
+    kFeetOfMile,
     {"To convert miles to feet, multiply the number of miles ({v}) by 5280:",
      "Multiplying by 5280 will convert miles to feet."},
     {"{v} miles = {r} feet", "Miles converted to feet."}};

@@ -7,14 +7,6 @@
 
 namespace numerello {
 
-namespace {
-
-bool IsWhole(double value) {
-    return value == std::trunc(value);
-}
-
-}  // namespace
-
 void ListMultiples(Problem& problem, std::string_view ValueText) {
     const std::string_view v = ValueText;
     StepLog& log = problem.log;

@@ -5,6 +5,8 @@
 #include "core/number.h"
 #include "core/text.h"
 #include "topics/asked.h"
+#include "topics/refusals.h"
+#include "topics/results.h"
 
 namespace numerello {
 
@@ -67,11 +69,11 @@ void SolveByDividing(Problem& problem, const Quotient& quotient) {
               std::string(quotient.divideNote));
     const double divisor = ToNumber(quotient.divisor);
     if (divisor == 0) {
-        log.Write("Division by 0 is illegal.", "It is impossible to divide any number by 0.");
+        RefuseDivisionByZero(log);
         return;
     }
     const double value = Divide(ToNumber(quotient.dividend), divisor);
-    const std::string r = NumberText(Round(value, problem.settings.RoundDigits));
+    const std::string r = RoundedResult(problem, value);
     log.Write(Replace(quotient.result, "{r}", r), std::string(quotient.resultNote));
 }
 

@@ -7,21 +7,51 @@
 #include "core/failure.h"
 #include "core/number.h"
 #include "core/text.h"
+#include "topics/refusals.h"
 
 namespace numerello {
 
 namespace {
-
-bool IsWhole(double value) {
-    constexpr double kExactWholes = 9007199254740992;  // 2^53
-    return value == std::trunc(value) && std::fabs(value) < kExactWholes;
-}
 
 /// The largest whole number above 1 that divides both; 0 when there is none.
 std::int32_t CommonDivisor(double numerator, double denominator) {
     const std::int64_t divisor =
         std::gcd(static_cast<std::int64_t>(numerator), static_cast<std::int64_t>(denominator));
     return divisor > 1 ? ToInteger32(static_cast<double>(divisor)) : 0;
+}
+
+/// Whether a fraction has a mixed number; writes why not, or what it is instead.
+bool IsAboveOne(StepLog& log, std::string_view FractionText, double numerator, double denominator) {
+    if (denominator == 0) {
+        RefuseFractionOverZero(log);
+        return false;
+    }
+    if (numerator == denominator) {
+        log.Write(Text("#", FractionText, "# = 1"),
+                  "A number other than 0 divided by itself equals 1.");
+        return false;
+    }
+    if (numerator < denominator) {
+        log.Write(
+            "The numerator must be greater than the denominator to convert to mixed notation.",
+            "If the numerator is not greater than the denominator, then the denominator can't "
+            "divide into the numerator to form a whole number.");
+        return false;
+    }
+    return true;
+}
+
+void WriteWholeAndRest(StepLog& log, std::string_view FractionText, const std::string& q,
+                       const std::string& r) {
+    const std::string division =
+        Text("#", FractionText, "# = ", q, " with a remainder of ", r, ".");
+    log.Write(Text("The numerator divides evenly into the denominator ", q, " times."), division);
+    log.Write(Text(q, " becomes the whole number."),
+              "The remainder of the division will become the numerator of the fraction portion of "
+              "the mixed number.");
+    log.Write("The remainder of that division becomes the numerator of the fraction:", division);
+    // The denominator stays unknown until the last line fills it in.
+    log.Write(Text(q, " #", r, "/?#"), "Mixed number format.");
 }
 
 }  // namespace
@@ -41,7 +71,7 @@ ReducedFraction GreatestDivisorText(std::string_view FractionText) {
     if (denominator == 0) {
         return {"", -1};
     }
-    if (!IsWhole(numerator) || !IsWhole(denominator)) {
+    if (!IsExactWhole(numerator) || !IsExactWhole(denominator)) {
         return {std::string(FractionText), 0};
     }
     ReducedFraction reduced;
@@ -130,37 +160,14 @@ void FractionToMixed(Problem& problem, std::string_view FractionText) {
     const auto [a, b] = SplitAt(FractionText, '/');
     const double numerator = ToNumber(a);
     const double denominator = ToNumber(b);
-    if (denominator == 0) {
-        log.Write("This fraction isn't valid because division by zero is illegal.",
-                  "It is mathematically impossible to divide any number by 0.");
+    if (!IsAboveOne(log, FractionText, numerator, denominator)) {
         return;
     }
-    if (numerator == denominator) {
-        log.Write(Text("#", FractionText, "# = 1"),
-                  "A number other than 0 divided by itself equals 1.");
-        return;
-    }
-    if (numerator < denominator) {
-        log.Write(
-            "The numerator must be greater than the denominator to convert to mixed notation.",
-            "If the numerator is not greater than the denominator, then the denominator can't "
-            "divide into the numerator to form a whole number.");
-        return;
-    }
-
     const double quotient = std::trunc(numerator / denominator);
     const double remainder = numerator - quotient * denominator;
     const std::string q = NumberText(quotient);
     const std::string r = NumberText(remainder);
-    const std::string division =
-        Text("#", FractionText, "# = ", q, " with a remainder of ", r, ".");
-    log.Write(Text("The numerator divides evenly into the denominator ", q, " times."), division);
-    log.Write(Text(q, " becomes the whole number."),
-              "The remainder of the division will become the numerator of the fraction portion of "
-              "the mixed number.");
-    log.Write("The remainder of that division becomes the numerator of the fraction:", division);
-    // The denominator stays unknown until the last line fills it in.
-    log.Write(Text(q, " #", r, "/?#"), "Mixed number format.");
+    WriteWholeAndRest(log, FractionText, q, r);
     if (remainder == 0) {
         log.Write("Since the numerator is 0, the fraction portion is not necessary.",
                   "The fraction portion equals 0, since 0 divided by any number (other than 0) "

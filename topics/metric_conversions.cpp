@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/bounds.h"
 #include "core/failure.h"
 #include "core/number.h"
 #include "core/text.h"
@@ -42,7 +43,7 @@ std::string UnitName(double factor, int UnitKind) {
     if (unit == kMetricUnits.end()) {
         throw Failure(FailureKind::Format);
     }
-    return Text(unit->prefix, UnitKind == 1 ? "m" : "g");
+    return Text(unit->prefix, UnitKind == kLengthUnits ? "m" : "g");
 }
 
 }  // namespace
@@ -53,7 +54,7 @@ double MetricFactor(int ListIndex) {
 
 std::string_view MetricItem(int ListIndex, int UnitKind) {
     const MetricUnit& unit = UnitAt(ListIndex);
-    return UnitKind == 1 ? unit.lengthItem : unit.massItem;
+    return UnitKind == kLengthUnits ? unit.lengthItem : unit.massItem;
 }
 
 void ConvertMetric(Problem& problem, std::string_view ValueText, double FromFactor, double ToFactor,
@@ -63,7 +64,7 @@ void ConvertMetric(Problem& problem, std::string_view ValueText, double FromFact
     const std::string to = UnitName(ToFactor, UnitKind);
     const std::string F = NumberText(FromFactor);
     const std::string T = NumberText(ToFactor);
-    const std::string_view base = UnitKind == 1 ? "meters" : "grams";
+    const std::string_view base = UnitKind == kLengthUnits ? "meters" : "grams";
     StepLog& log = problem.log;
 
     problem.playback.DrawingRow = kFirstLineY;

@@ -6,6 +6,8 @@
 #include "core/text.h"
 #include "topics/decimal_point.h"
 #include "topics/fractions.h"
+#include "topics/refusals.h"
+#include "topics/results.h"
 
 namespace numerello {
 
@@ -63,8 +65,7 @@ void FractionToDecimal(Problem& problem, std::string_view FractionText) {
     const auto [a, b] = SplitAt(FractionText, '/');
     const double denominator = ToNumber(b);
     if (denominator == 0) {
-        log.Write("This fraction isn't valid because division by zero is illegal.",
-                  "It is mathematically impossible to divide any number by 0.");
+        RefuseFractionOverZero(log);
         return;
     }
     log.Write("Divide the numerator by the denominator:",
@@ -84,7 +85,7 @@ void FractionToPercent(Problem& problem, std::string_view FractionText) {
     const auto [a, b] = SplitAt(FractionText, '/');
     const double denominator = ToNumber(b);
     if (denominator == 0) {
-        log.Write("Division by 0 is illegal.", "It is impossible to divide any number by 0.");
+        RefuseDivisionByZero(log);
         return;
     }
     log.Write(
@@ -92,7 +93,7 @@ void FractionToPercent(Problem& problem, std::string_view FractionText) {
         "The numerator is the number above the division symbol, the denominator is the number "
         "below.");
     const double quotient = Divide(ToNumber(a), denominator);
-    const std::string decimal = NumberText(Round(quotient, problem.settings.RoundDigits));
+    const std::string decimal = RoundedResult(problem, quotient);
     log.Write(decimal, "Divide.");
     DecimalToPercent(problem, decimal, false);
 }

@@ -1,19 +1,23 @@
 #include "topics/perimeters.h"
 
+#include "core/failure.h"
 #include "core/number.h"
 #include "core/text.h"
+#include "core/topic_codes.h"
 #include "topics/geometry_common.h"
+#include "topics/refusals.h"
+#include "topics/results.h"
 
 namespace numerello {
 
 namespace {
 
-constexpr int kTriangle = 19;
-
 // The checks follow the substitution: a refused shape still shows its formula.
 
-void PerimeterOfTriangle(Problem& problem, std::string_view a, std::string_view b,
-                         std::string_view c) {
+void PerimeterOfTriangle(Problem& problem, const EntryBoxes& boxes) {
+    const std::string_view a = boxes.Box(3);
+    const std::string_view b = boxes.Box(2);
+    const std::string_view c = boxes.Box(1);
     StepLog& log = problem.log;
     log.Write(Text("a = ", a, ", b = ", b, ", c = ", c), "");
     log.Write("Perimeter = a + b + c",
@@ -21,8 +25,7 @@ void PerimeterOfTriangle(Problem& problem, std::string_view a, std::string_view 
     log.Write(Text("Perimeter = ", a, " + ", b, " + ", c),
               Text("Substitute ", a, " in for a, ", b, " in for b, and ", c, " in for c."));
     if (!AllPositive({a, b, c})) {
-        log.Write("All sides of a triangle must be greater than zero.",
-                  "It is impossible for a triangle to have a side less than or equal to 0.");
+        RefuseTriangleSides(log);
         return;
     }
     const double sum = ToNumber(a) + ToNumber(b) + ToNumber(c);
@@ -30,7 +33,9 @@ void PerimeterOfTriangle(Problem& problem, std::string_view a, std::string_view 
               "Add all the terms to calculate the perimeter of the triangle.");
 }
 
-void PerimeterOfRectangle(Problem& problem, std::string_view b, std::string_view h) {
+void PerimeterOfRectangle(Problem& problem, const EntryBoxes& boxes) {
+    const std::string_view b = boxes.Box(2);
+    const std::string_view h = boxes.Box(1);
     StepLog& log = problem.log;
     log.Write(Text("base = ", b, ", height = ", h), "");
     log.Write(
@@ -53,12 +58,14 @@ void PerimeterOfRectangle(Problem& problem, std::string_view b, std::string_view
 
 }  // namespace
 
-void PerimeterOf(Problem& problem, std::string_view a, std::string_view b, std::string_view c,
-                 int code) {
-    if (code == kTriangle) {
-        PerimeterOfTriangle(problem, a, b, c);
-    } else {
-        PerimeterOfRectangle(problem, a, b);
+void PerimeterOf(Problem& problem, const EntryBoxes& boxes, int code) {
+    switch (code) {
+        case kPerimeterOfTriangle:
+            return PerimeterOfTriangle(problem, boxes);
+        case kPerimeterOfRectangle:
+            return PerimeterOfRectangle(problem, boxes);
+        default:
+            throw Failure(FailureKind::Format);
     }
 }
 

@@ -3,7 +3,6 @@
 #include <array>
 #include <string>
 
-#include "core/number.h"
 #include "core/text.h"
 #include "topics/number_list.h"
 

@@ -6,6 +6,7 @@
 #include "core/number.h"
 #include "core/text.h"
 #include "topics/decimal_point.h"
+#include "topics/refusals.h"
 
 namespace numerello {
 
@@ -81,7 +82,7 @@ void DivideScientific(Problem& problem, std::string_view Base1, std::string_view
               "Scientific notation is written as a number * 10^power^.");
     const double divisor = ToNumber(Base2);
     if (divisor == 0) {
-        log.Write("Division by 0 is illegal.", "It is impossible to divide any number by 0.");
+        RefuseDivisionByZero(log);
         return;
     }
     const std::string quotient = NumberText(Divide(ToNumber(Base1), divisor));

@@ -7,6 +7,7 @@
 #include "core/number.h"
 #include "core/text.h"
 #include "topics/number_list.h"
+#include "topics/results.h"
 
 namespace numerello {
 
@@ -100,8 +101,7 @@ void FindMean(Problem& problem, std::string_view ListText) {
     log.Write(Text("Average = #", NumberText(sum), " / ", n, "#"),
               "Add all the numbers in the numerator.");
     const double mean = sum / static_cast<double>(entries.size());
-    log.Write(Text("Average = ", NumberText(Round(mean, problem.settings.RoundDigits))),
-              "Divide to find the average.");
+    log.Write(Text("Average = ", RoundedResult(problem, mean)), "Divide to find the average.");
 }
 
 void FindMedian(Problem& problem, std::string_view ListText) {

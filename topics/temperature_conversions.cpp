@@ -3,6 +3,7 @@
 #include "core/number.h"
 #include "topics/conversion_sentences.h"
 #include "topics/conversions.h"
+#include "topics/results.h"
 
 namespace numerello {
 
@@ -39,7 +40,7 @@ void Work(Problem& problem, const TemperatureConversion& conversion, std::string
         WriteConversionLine(problem, line, {.v = ValueText});
     }
     const double result = Checked(conversion.compute(ToNumber(ValueText)));
-    const std::string r = NumberText(Round(result, problem.settings.RoundDigits));
+    const std::string r = RoundedResult(problem, result);
     for (const ConversionLine& line : conversion.withResult) {
         WriteConversionLine(problem, line, {.v = ValueText, .r = r});
     }

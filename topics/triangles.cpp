@@ -8,6 +8,8 @@
 #include "core/number.h"
 #include "core/text.h"
 #include "topics/geometry_common.h"
+#include "topics/refusals.h"
+#include "topics/results.h"
 
 namespace numerello {
 
@@ -33,8 +35,7 @@ double DifferenceOfSquares(std::string_view longer, std::string_view shorter) {
 void SolveLongestSide(Problem& problem, std::string_view a, std::string_view b) {
     StepLog& log = problem.log;
     if (!AllPositive({a, b})) {
-        log.Write("All sides of a triangle must be greater than zero.",
-                  "It is impossible for a triangle to have a side less than or equal to 0.");
+        RefuseTriangleSides(log);
         return;
     }
     const std::string aSquare = NumberText(Square(a));

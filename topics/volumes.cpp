@@ -4,6 +4,8 @@
 #include "core/number.h"
 #include "core/text.h"
 #include "topics/geometry_common.h"
+#include "topics/refusals.h"
+#include "topics/results.h"
 
 namespace numerello {
 
@@ -16,7 +18,10 @@ void WriteVolume(Problem& problem, double volume) {
                       "Calculate the answer by multiplying.");
 }
 
-void VolumeOfBox(Problem& problem, std::string_view l, std::string_view w, std::string_view h) {
+void VolumeOfBox(Problem& problem, const EntryBoxes& boxes) {
+    const std::string_view l = boxes.Box(2);
+    const std::string_view w = boxes.Box(3);
+    const std::string_view h = boxes.Box(1);
     StepLog& log = problem.log;
     log.Write(Text("length = ", l, ", width = ", w, ", height = ", h), "");
     if (!AllPositive({l, w, h})) {
@@ -30,7 +35,10 @@ void VolumeOfBox(Problem& problem, std::string_view l, std::string_view w, std::
     WriteVolume(problem, ToNumber(l) * ToNumber(w) * ToNumber(h));
 }
 
-void VolumeOfPyramid(Problem& problem, std::string_view l, std::string_view w, std::string_view h) {
+void VolumeOfPyramid(Problem& problem, const EntryBoxes& boxes) {
+    const std::string_view l = boxes.Box(2);
+    const std::string_view w = boxes.Box(3);
+    const std::string_view h = boxes.Box(1);
     StepLog& log = problem.log;
     log.Write(Text("length = ", l, ", width = ", w, ", height = ", h), "");
     if (!AllPositive({l, w, h})) {
@@ -44,8 +52,9 @@ void VolumeOfPyramid(Problem& problem, std::string_view l, std::string_view w, s
     WriteVolume(problem, 1.0 / 3 * (ToNumber(l) * ToNumber(w) * ToNumber(h)));
 }
 
-void VolumeOfCylinder(Problem& problem, std::string_view pi, std::string_view r,
-                      std::string_view h) {
+void VolumeOfCylinder(Problem& problem, const EntryBoxes& boxes) {
+    const std::string_view r = boxes.Box(2);
+    const std::string_view h = boxes.Box(1);
     StepLog& log = problem.log;
     log.Write(Text("radius = ", r, ", height = ", h), "");
     if (!AllPositive({r, h})) {
@@ -56,60 +65,62 @@ void VolumeOfCylinder(Problem& problem, std::string_view pi, std::string_view r,
     log.Write("Volume = base * height",
               "This is the formula for calculating the volume of a cylinder.");
     log.Write(Text("Volume = ` * radius^2^ * height   (` equals about ",
-                   RoundedResult(problem, ToNumber(pi)), " or about #22/7#)"),
+                   RoundedResult(problem, kPi), " or about #22/7#)"),
               std::string(kBaseIsCircle));
-    log.Write(Text("Volume = ", pi, " * ", r, "^2^ * ", h),
+    log.Write(Text("Volume = ", NumberText(kPi), " * ", r, "^2^ * ", h),
               "Substitute the value of pi, radius, and height of the cylinder into the formula.");
     const double radius = ToNumber(r);
-    WriteVolume(problem, ToNumber(pi) * (radius * radius) * ToNumber(h));
+    WriteVolume(problem, kPi * (radius * radius) * ToNumber(h));
 }
 
 /// Takes measures of 0 and less as well: kept as it is.
-void VolumeOfCone(Problem& problem, std::string_view pi, std::string_view r, std::string_view h) {
+void VolumeOfCone(Problem& problem, const EntryBoxes& boxes) {
+    const std::string_view r = boxes.Box(2);
+    const std::string_view h = boxes.Box(1);
     StepLog& log = problem.log;
     log.Write(Text("radius = ", r, ", height = ", h), "");
     log.Write("Volume = #1/3# base * height",
               "This is the formula for calculating the volume of a cone.");
     log.Write(Text("Volume = #1/3# * ` * radius^2^ * height   (` equals about ",
-                   RoundedResult(problem, ToNumber(pi)), " or about #22/7#)"),
+                   RoundedResult(problem, kPi), " or about #22/7#)"),
               std::string(kBaseIsCircle));
-    log.Write(Text("Volume = #1/3# * ", pi, " * ", r, "^2^ * ", h),
+    log.Write(Text("Volume = #1/3# * ", NumberText(kPi), " * ", r, "^2^ * ", h),
               "Substitute the value of pi, radius, and height of the cone into the formula.");
     const double radius = ToNumber(r);
-    WriteVolume(problem, 1.0 / 3 * ToNumber(pi) * (radius * radius) * ToNumber(h));
+    WriteVolume(problem, 1.0 / 3 * kPi * (radius * radius) * ToNumber(h));
 }
 
-void VolumeOfSphere(Problem& problem, std::string_view pi, std::string_view r) {
+void VolumeOfSphere(Problem& problem, const EntryBoxes& boxes) {
+    const std::string_view r = boxes.Box(2);
     StepLog& log = problem.log;
     log.Write(Text("radius = ", r), "");
     if (!AllPositive({r})) {
         RefuseRadius(log);
         return;
     }
-    log.Write(Text("Volume = #4/3# * ` * radius^3^   (` equals about ",
-                   RoundedResult(problem, ToNumber(pi)), " or about #22/7#)"),
+    log.Write(Text("Volume = #4/3# * ` * radius^3^   (` equals about ", RoundedResult(problem, kPi),
+                   " or about #22/7#)"),
               "This is the formula for calculating the volume of a sphere.");
-    log.Write(Text("Volume = #4/3# * ", pi, " * ", r, "^3^"),
+    log.Write(Text("Volume = #4/3# * ", NumberText(kPi), " * ", r, "^3^"),
               "Substitute the value of pi and radius into the formula.");
     const double radius = ToNumber(r);
-    WriteVolume(problem, 4.0 / 3 * ToNumber(pi) * (radius * radius * radius));
+    WriteVolume(problem, 4.0 / 3 * kPi * (radius * radius * radius));
 }
 
 }  // namespace
 
-void VolumeOf(Problem& problem, std::string_view first, std::string_view second,
-              std::string_view third, int code) {
+void VolumeOf(Problem& problem, const EntryBoxes& boxes, int code) {
     switch (code) {
         case 1:
-            return VolumeOfBox(problem, first, second, third);
+            return VolumeOfBox(problem, boxes);
         case 2:
-            return VolumeOfCylinder(problem, first, second, third);
+            return VolumeOfCylinder(problem, boxes);
         case 3:
-            return VolumeOfCone(problem, first, second, third);
+            return VolumeOfCone(problem, boxes);
         case 4:
-            return VolumeOfPyramid(problem, first, second, third);
+            return VolumeOfPyramid(problem, boxes);
         case 5:
-            return VolumeOfSphere(problem, first, second);
+            return VolumeOfSphere(problem, boxes);
         default:
             throw Failure(FailureKind::Format);
     }

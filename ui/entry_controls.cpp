@@ -68,7 +68,7 @@ EntryBox::EntryBox(int number, Problem& problem, QWidget* sheet)
 }
 
 void EntryBox::ShowText() {
-    const std::string& text = problem.boxes.Text[static_cast<std::size_t>(number) - 1];
+    const std::string& text = problem.boxes.Box(number);
     if (const QString shown = ToQString(text); shown != this->text()) {
         setText(shown);
     }
@@ -128,7 +128,7 @@ EntryList::EntryList(int number, Problem& problem, QWidget* sheet)
 }
 
 void EntryList::ShowChoice() {
-    setCurrentIndex(problem.boxes.ListIndex[static_cast<std::size_t>(number) - 1]);
+    setCurrentIndex(problem.boxes.List(number));
 }
 
 int EntryList::WidthForAll() const {
@@ -162,7 +162,7 @@ void EntryList::FitRows(int width) {
 }
 
 void EntryList::Choose(int row) {
-    problem.boxes.ListIndex[static_cast<std::size_t>(number) - 1] = row;
+    problem.boxes.List(number) = row;
     problem.topic.ClickedOnly = true;
     CheckBoxesReady(problem);
     emit Chosen();

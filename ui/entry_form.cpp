@@ -110,9 +110,9 @@ void EntryForm::MakeBox(const EntryBoxLayout& box) {
 void EntryForm::MakeLists() {
     switch (layout->lists) {
         case EntryLists::Lengths:
-            return MakeUnitLists(1);
+            return MakeUnitLists(kLengthUnits);
         case EntryLists::Masses:
-            return MakeUnitLists(2);
+            return MakeUnitLists(kMassUnits);
         case EntryLists::Roundings:
             return MakeRoundingList();
         case EntryLists::None:

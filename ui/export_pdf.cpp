@@ -12,6 +12,7 @@
 #include "catalogue/saved_problem.h"
 #include "core/clock.h"
 #include "core/random_source.h"
+#include "core/silent_learner.h"
 #include "core/text.h"
 #include "graph/graph.h"
 #include "output/print_choices.h"
@@ -24,7 +25,7 @@ namespace numerello {
 namespace {
 
 /// Nobody is there to read or to answer; what was said last is why nothing more came.
-class AbsentLearner : public Learner {
+class LastWords : public Learner {
   public:
     std::string said;
 
@@ -62,7 +63,7 @@ class UnseenForm : public LoadingForm {
 /// The reason why a file's problem could not be worked, empty when it was.
 std::string Work(const SavedProblem& saved, Problem& problem) {
     MersenneSource random;
-    AbsentLearner learner;
+    LastWords learner;
     UnseenForm form(problem, learner);
     LoadSavedProblem(saved, problem, form, SystemClock(), random);
     if (!form.solved) {
@@ -104,7 +105,7 @@ void Write(const QString& pdf, const Problem& problem) {
         .compose = [&](Surface& Printer,
                        Learner& learner) { PrintSolution(problem, order, Printer, learner); },
         .graph = graph};
-    AbsentLearner learner;
+    SilentLearner learner;
     const ComposedJob composed(job, PaperOf(UsualLayout()), learner);
     const QByteArray content = PdfOf(composed, UsualLayout(), job.name);
     WriteFile(pdf.toStdString(), {content.constData(), static_cast<std::size_t>(content.size())});

@@ -5,9 +5,9 @@
 #include <QWidget>
 #include <algorithm>
 #include <cmath>
-#include <optional>
 
 #include "catalogue/entry_layouts.h"
+#include "core/silent_learner.h"
 #include "core/text.h"
 #include "help/contents.h"
 #include "help/worked_example.h"
@@ -45,17 +45,6 @@ class EndlessSheet : public Sheets {
 
   private:
     Surface surface;
-};
-
-/// Nobody reads messages of a picture; the line stays as far as it could be drawn.
-class Unheard : public Learner {
-  public:
-    void MessageBox(std::string_view /*title*/, std::string_view /*text*/) override {}
-    bool Confirm(std::string_view /*title*/, std::string_view /*text*/) override { return false; }
-    std::optional<std::string> InputBox(std::string_view /*title*/,
-                                        std::string_view /*prompt*/) override {
-        return std::nullopt;
-    }
 };
 
 /// As on the sheets, but at the left edge, and on and on.
@@ -186,7 +175,7 @@ QImage HelpPictures::Mathematics(const QString& address, const Look& look) const
     const std::string line = address.section(u'/', 1).toStdString();
     EndlessSheet sheet(metrics);
     sheet.Current().CurrentY = kHeadroom;
-    Unheard nobody;
+    SilentLearner nobody;
     const auto end =
         DrawMathLine(Characters(line), LoneLine(), ink == QLatin1String("blue"), sheet, nobody);
     std::vector<Mark> marks = sheet.Current().Marks();

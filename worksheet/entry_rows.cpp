@@ -1,6 +1,7 @@
 #include "worksheet/entry_rows.h"
 
 #include "catalogue/entry_layouts.h"
+#include "core/topic_codes.h"
 
 namespace numerello {
 
@@ -10,15 +11,13 @@ constexpr double kTypedRow = 81;
 constexpr double kRowBelowPicture = 265;
 constexpr double kRowBelowBoxes = 173;
 
-constexpr int kTopBoxTopic = 27;
-
 }  // namespace
 
 std::optional<double> EntryRow(int ProblemType) {
     if (IsTypedOnLine(ProblemType)) {
         return kTypedRow;
     }
-    if (ProblemType > kTopBoxTopic) {
+    if (ProblemType > kLastBoxTopic) {
         return std::nullopt;
     }
     const EntryLayout* layout = FindEntryLayout(ProblemType);

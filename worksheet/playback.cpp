@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "core/graph_modes.h"
 #include "core/topic_codes.h"
 #include "typeset/lines.h"
 #include "worksheet/number_line.h"

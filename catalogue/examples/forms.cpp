@@ -11,13 +11,8 @@ namespace numerello {
 
 namespace {
 
-constexpr int kAddition = 200;
 /// Addition, subtraction, multiplication, division.
 constexpr std::array<std::string_view, 4> kColumnOperators{" + ", " - ", " * ", " { "};
-
-constexpr int kMeterConversions = 23;
-constexpr int kToRegular = 25;
-constexpr int kDividingScientific = 27;
 
 std::string ValueText(const ExampleRequest& request, ExampleDraws& draws) {
     return WholeText(DrawValue(request, draws));
@@ -46,7 +41,7 @@ Example ColumnExample(const ExampleRequest& request, ExampleDraws& draws) {
     example.boxes.Text[0] = WholeText(top);
     example.boxes.Text[1] = WholeText(bottom);
     const std::string_view sign =
-        kColumnOperators[static_cast<std::size_t>(request.Code() - kAddition)];
+        kColumnOperators[static_cast<std::size_t>(request.Code() - kFirstColumnTopic)];
     example.printed = Text(example.boxes.Text[0], sign, example.boxes.Text[1]);
     return example;
 }
@@ -58,7 +53,7 @@ Example MetricExample(const ExampleRequest& request, ExampleDraws& draws) {
     const int to = draws.RandIntMod(kMetricItems);
     example.boxes.ListIndex[0] = from;
     example.boxes.ListIndex[1] = to;
-    const int UnitKind = request.Code() == kMeterConversions ? 1 : 2;
+    const int UnitKind = request.Code() == kMeterConversions ? kLengthUnits : kMassUnits;
     example.printed = Text(example.boxes.Text[3], " ", MetricItem(from, UnitKind), " = ? ", " ",
                            MetricItem(to, UnitKind));
     return example;
@@ -69,7 +64,7 @@ Example ScientificExample(const ExampleRequest& request, ExampleDraws& draws) {
     std::array<std::string, 6>& box = example.boxes.Text;
     box[0] = Mantissa(request, draws);
     box[1] = Exponent(request, draws);
-    if (request.Code() == kToRegular) {
+    if (request.Code() == kScientificToRegular) {
         box[1].insert(0, request.ForTest ? "" : draws.Sign());
         example.printed = Text(box[0], " * 10^", box[1], "^");
         return example;

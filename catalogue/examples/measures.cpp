@@ -1,10 +1,12 @@
-#include <algorithm>
 #include <array>
 #include <span>
+#include <string>
+#include <string_view>
 
 #include "catalogue/entry_layouts.h"
 #include "catalogue/examples/families.h"
 #include "core/number.h"
+#include "core/topic_codes.h"
 
 /// Geometry and formulas: values with names, some of them asked for.
 namespace numerello {
@@ -21,7 +23,7 @@ using Asked = std::array<bool, 6>;
 struct Named {
     std::string_view before;
     Value value;
-    std::size_t box;
+    int box;
 };
 
 constexpr auto kEdges = std::to_array<Named>({
@@ -149,7 +151,7 @@ Example ByName(const Row& row, const Values& values, const Asked& asked) {
         const std::string text = asked[named.value] ? "" : WholeText(values[named.value]);
         example.printed += named.before;
         example.printed += text.empty() ? "?" : text;
-        example.boxes.Text[named.box - 1] = text;
+        example.boxes.Box(named.box) = text;
     }
     example.printed += row.behind;
     return example;
@@ -160,7 +162,7 @@ Example ByNumber(const Row& row, const Values& values, const Asked& asked) {
     Example example;
     for (const EntryBoxLayout& box : FindEntryLayout(row.code)->boxes) {
         const std::size_t i = static_cast<std::size_t>(box.number) - 1;
-        example.boxes.Text[i] = asked[i] ? "" : WholeText(values[i]);
+        example.boxes.Box(box.number) = asked[i] ? "" : WholeText(values[i]);
     }
     return example;
 }
@@ -173,7 +175,6 @@ int DrawValue(const ExampleRequest& request, ExampleDraws& draws) {
 }
 
 Example MeasuresExample(const ExampleRequest& request, ExampleDraws& draws) {
-    constexpr int kPythagoreanTheorem = 12;
     Values values{};
     for (int& value : values) {
         value = DrawValue(request, draws);

@@ -15,10 +15,6 @@ namespace {
 /// begins.
 constexpr int kLongestWalk = 50;
 
-constexpr int kCalculatingWithExponents = 81;
-constexpr int kAbsoluteValues = 120;
-constexpr int kComplexExpressions = 121;
-
 /// The line as far as it is typed, on an entry form of its own.
 class Walk {
   public:
@@ -37,8 +33,8 @@ class Walk {
         return line.empty() ? '\0' : line.back();
     }
     bool IsEmpty() const { return CharCount() == 0; }
-    bool BehindDigit() const { return Last() >= '0' && Last() <= '9'; }
-    bool BehindLetter() const { return Last() >= 'a' && Last() <= 'z'; }
+    bool BehindDigit() const { return IsDigit(Last()); }
+    bool BehindLetter() const { return IsLetter(Last()); }
     bool ParenthesisIsOpen() const { return problem.input.ParenDepth > 0; }
     bool EqualsTyped() const { return problem.input.EqualsTyped; }
     bool IsComplete() const { return LineIsComplete(problem); }

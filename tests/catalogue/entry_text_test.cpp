@@ -24,11 +24,11 @@ TEST(ListsOf, HasTheRowsOfTheForm) {
     EXPECT_TRUE(ListsOf(91).empty());
     const std::vector<EntryListRows> lengths = ListsOf(23);
     ASSERT_EQ(lengths.size(), 2U);
-    EXPECT_EQ(lengths[1].list, 1U);
+    EXPECT_EQ(lengths[1].number, 2);
     EXPECT_EQ(lengths[1].name, "To");
     EXPECT_EQ(lengths[0].rows.front(), "mm (0.001 meters)");
     EXPECT_EQ(lengths[0].rows.size(), 7U);
-    EXPECT_EQ(ListsOf(98).at(0).list, 2U);
+    EXPECT_EQ(ListsOf(98).at(0).number, 3);
 }
 
 }  // namespace

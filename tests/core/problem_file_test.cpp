@@ -34,8 +34,8 @@ std::string WhyNotRead(std::string_view text) {
 void ExpectFilled(const SavedProblem& saved) {
     EXPECT_EQ(saved.TopicTitle, "Proportions");
     EXPECT_EQ(saved.typed, "4*3+2");
-    EXPECT_EQ(saved.Text, (std::array<std::string, 6>{"1", "-2.5", "3", "4", "5", "6"}));
-    EXPECT_EQ(saved.ListIndex, (std::array<int, 3>{0, 6, -1}));
+    EXPECT_EQ(saved.boxes.Text, (std::array<std::string, 6>{"1", "-2.5", "3", "4", "5", "6"}));
+    EXPECT_EQ(saved.boxes.ListIndex, (std::array<int, 3>{0, 6, -1}));
     EXPECT_EQ(saved.ProblemType, 20);
 }
 
@@ -83,8 +83,8 @@ TEST(ReadProblemLine, ASeparatorInAFieldShiftsTheRest) {
         ReadProblemLine("Add BB ition BB  BB 1 BB 2 BB  BB  BB  BB  BB -1 BB -1 BB 0 BB 200");
     EXPECT_EQ(saved.TopicTitle, "Add");
     EXPECT_EQ(saved.typed, "ition");
-    EXPECT_EQ(saved.Text[1], "1");
-    EXPECT_EQ(saved.ListIndex, (std::array<int, 3>{-1, -1, -1}));
+    EXPECT_EQ(saved.boxes.Text[1], "1");
+    EXPECT_EQ(saved.boxes.ListIndex, (std::array<int, 3>{-1, -1, -1}));
     EXPECT_EQ(saved.ProblemType, 0);
 }
 
@@ -93,9 +93,9 @@ TEST(ReadProblemLine, FieldsKeepTheirBlanksAndLineEnds) {
         ReadProblemLine(" Add  BB \n4 BB  1  BB \t BB BB BB  BB  BB  BB  BB -1 BB -1 BB 0 BB 200");
     EXPECT_EQ(saved.TopicTitle, " Add ");
     EXPECT_EQ(saved.typed, "\n4");
-    EXPECT_EQ(saved.Text[0], " 1 ");
-    EXPECT_EQ(saved.Text[1], "\t");
-    EXPECT_EQ(saved.Text[2], "BB");
+    EXPECT_EQ(saved.boxes.Text[0], " 1 ");
+    EXPECT_EQ(saved.boxes.Text[1], "\t");
+    EXPECT_EQ(saved.boxes.Text[2], "BB");
 }
 
 TEST(ReadProblemLine, ATextCutAnywhereHasTooFewFieldsOrNoCode) {
@@ -154,8 +154,8 @@ TEST(ReadProblemLine, BytesThatAreNoCharacterAreReplaced) {
         "A\xFF BB 4\x80+\xC3 BB \xE2\x82 BB caf\xC3\xA9 BB  BB  BB  BB  BB 0 BB 0 BB 0 BB 1");
     EXPECT_EQ(saved.TopicTitle, "A\xEF\xBF\xBD");
     EXPECT_EQ(saved.typed, "4\xEF\xBF\xBD+\xEF\xBF\xBD");
-    EXPECT_EQ(saved.Text[0], "\xEF\xBF\xBD\xEF\xBF\xBD");
-    EXPECT_EQ(saved.Text[1], "caf\xC3\xA9");
+    EXPECT_EQ(saved.boxes.Text[0], "\xEF\xBF\xBD\xEF\xBF\xBD");
+    EXPECT_EQ(saved.boxes.Text[1], "caf\xC3\xA9");
 }
 
 TEST(ReadProblemLine, AZeroByteEndsNothing) {

@@ -177,7 +177,7 @@ TEST(AreaOf, BeyondADoubleItOverflowsAtTheResult) {
 
 TEST(AreaOf, AnotherCodeHasNoArea) {
     Problem problem;
-    EXPECT_THROW(AreaOf(problem, "3", "4", "5", 11), Failure);
+    EXPECT_THROW(AreaOf(problem, problem.boxes, 11), Failure);
 }
 
 TEST(AreaOf, RandomBasesAndHeights) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "app/solvers.h"
+#include "core/silent_learner.h"
 
 namespace numerello {
 
@@ -22,15 +23,6 @@ inline Log LogOf(const Problem& problem) {
     }
     return log;
 }
-
-class SilentLearner : public Learner {
-  public:
-    void MessageBox(std::string_view, std::string_view) override {}
-    bool Confirm(std::string_view, std::string_view) override { return true; }
-    std::optional<std::string> InputBox(std::string_view, std::string_view) override {
-        return std::nullopt;
-    }
-};
 
 /// A problem of the code with the text on its line, boxes and lists as the form opens them.
 inline Problem ProblemOf(int code, std::string_view text = "") {

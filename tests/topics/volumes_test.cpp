@@ -200,7 +200,7 @@ TEST(VolumeOf, BeyondADoubleItOverflowsAtTheResult) {
 
 TEST(VolumeOf, AnotherCodeHasNoVolume) {
     Problem problem;
-    EXPECT_THROW(VolumeOf(problem, "3", "4", "5", 6), Failure);
+    EXPECT_THROW(VolumeOf(problem, problem.boxes, 6), Failure);
 }
 
 TEST(VolumeOf, RandomEdges) {

@@ -8,7 +8,7 @@
 
 namespace numerello {
 
-/// For pages that are composed only to be measured.
+/// Nobody is there: what is told goes unread, and every question is cancelled.
 class SilentLearner : public Learner {
   public:
     void MessageBox(std::string_view, std::string_view) override {}

@@ -6,7 +6,8 @@
 #include <QPixmap>
 #include <QTimer>
 
-#include "catalogue/chooser.h"
+#include "catalogue/topic_choice.h"
+#include "core/erasing.h"
 #include "ui/frm_help.h"
 #include "ui/frm_paper.h"
 

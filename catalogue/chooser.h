@@ -5,49 +5,13 @@
 #include <utility>
 #include <vector>
 
+#include "catalogue/topic_choice.h"
+#include "catalogue/topic_tree.h"
 #include "core/clock.h"
 #include "core/problem.h"
 #include "core/random_source.h"
 
 namespace numerello {
-
-/// What choosing a topic knows of the chooser. A default one is closed.
-struct ChooserState {
-    bool loaded = false;
-    bool stillOpen = false;  ///< nothing has been chosen since it opened
-    bool arrowFlag = false;  ///< an arrow key led to the selected node: passing over, no choice
-    int storedProblemType = 0;
-    int storedInputMask = 0;
-
-    /// Opens the chooser and stores what closing it without a choice brings back.
-    void Load(const TopicChoice& topic);
-
-    /// Closes the chooser. Without a choice the stored values come back and ChooserCancelled is
-    /// set. Nothing happens to a closed one.
-    void Unload(TopicChoice& topic);
-};
-
-/// Sets the topic from its caption, exact in every character; any other text, a folder's caption
-/// included, sets code 0 and keeps the mask. A real choice also gets title and instruction and
-/// closes the chooser; with the arrow flag set nothing is chosen yet.
-void TreeViewSelect(std::string_view caption, TopicChoice& topic, ChooserState& chooser,
-                    const Clock& clock, RandomSource& random);
-
-/// As above, with no chooser open.
-void TreeViewSelect(std::string_view caption, TopicChoice& topic, const Clock& clock,
-                    RandomSource& random);
-
-/// A row of the topic tree.
-struct TreeNode {
-    std::string_view key;     ///< empty for a topic
-    std::string_view parent;  ///< key of the folder that holds it, empty for a root
-    std::string_view caption;
-    std::string_view image;  ///< "book1" for a folder, "book2" for a topic
-};
-
-/// All nodes in the order in which they are added, the folders first: each stands below the
-/// siblings before it. With `forNewProblem` the present topic is forgotten first.
-std::vector<TreeNode> BuildTopicTree(TopicChoice& topic, bool forNewProblem);
 
 /// The keys that mean something in the chooser.
 enum class ChooserKey { Other, Enter, Escape, Up, Right, Down };

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <optional>
 
-#include "catalogue/chooser.h"
 #include "catalogue/entry_text.h"
 #include "catalogue/guided_input.h"
+#include "catalogue/topic_choice.h"
 #include "catalogue/topics.h"
 #include "core/text.h"
 

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "core/solve_driver.h"
+#include "core/learner.h"
+#include "core/problem.h"
+#include "core/stage.h"
 #include "typeset/surface.h"
 
 namespace numerello {

@@ -7,15 +7,16 @@
 #include <utility>
 
 #include "app/solvers.h"
-#include "catalogue/chooser.h"
 #include "catalogue/examples/example_click.h"
 #include "catalogue/guided_input.h"
+#include "catalogue/topic_choice.h"
 #include "cli/column_picture.h"
 #include "cli/column_stage.h"
 #include "cli/lesson_entry.h"
 #include "cli/mark_fields.h"
 #include "cli/terminal.h"
 #include "cli/terminal_text.h"
+#include "core/erasing.h"
 #include "core/text.h"
 
 namespace numerello {

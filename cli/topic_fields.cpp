@@ -2,10 +2,10 @@
 
 #include <limits>
 
-#include "catalogue/chooser.h"
+#include "catalogue/topic_choice.h"
 #include "catalogue/topics.h"
+#include "core/erasing.h"
 #include "core/number.h"
-#include "core/solve_driver.h"
 #include "core/text.h"
 
 namespace numerello {

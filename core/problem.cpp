@@ -73,6 +73,13 @@ void ResetProblem(Problem& problem, bool ClearSteps) {
     }
 }
 
+void DropRequests(Problem& problem) {
+    problem.columns.ClearFlags();
+    problem.graph.GraphMode = kNoGraph;
+    problem.playback.DrawingRow.reset();
+    problem.playback.NumberLine.reset();
+}
+
 void CollectVariables(TypedProblem& typed) {
     typed.VarCount = 1;
     typed.VarNames.Clear(0, kTopClearedVariable);

@@ -167,6 +167,10 @@ bool IsTypedOnLine(int ProblemType);
 /// The one full reset of the typed problem and, when `ClearSteps`, of the step log.
 void ResetProblem(Problem& problem, bool ClearSteps);
 
+/// Takes back what a problem asked for beside its lines: columns, a graph, a number line. It must
+/// not reach into the next problem.
+void DropRequests(Problem& problem);
+
 /// Fills VarNames with the letters of ExprChars in order of first appearance.
 void CollectVariables(TypedProblem& typed);
 

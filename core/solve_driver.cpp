@@ -8,8 +8,6 @@ namespace numerello {
 
 namespace {
 
-constexpr int kTopSheet = 9;
-
 /// Without a message a failure ends the solve in silence.
 struct TrapMessage {
     FailureKind kind;
@@ -37,14 +35,6 @@ void TellFailure(FailureKind kind, Learner& learner) {
             learner.MessageBox(message.title, message.text);
         }
     }
-}
-
-/// The requests of an earlier problem must not reach into the next one.
-void DropRequests(Problem& problem) {
-    problem.columns.ClearFlags();
-    problem.graph.GraphMode = kNoGraph;
-    problem.playback.DrawingRow.reset();
-    problem.playback.NumberLine.reset();
 }
 
 void PrepareSheet(Problem& problem, Stage& stage) {
@@ -140,37 +130,6 @@ void FailSolve(Problem& problem, FailureKind kind, Learner& learner) {
     problem.playback.ShownStep = 0;
     // A column problem that draws itself at once has written its reason there.
     problem.log.StepNote[0] = problem.topic.InstructionText;
-}
-
-void EraseProblem(Problem& problem, Stage& stage) {
-    ResetProblem(problem, true);
-    DropRequests(problem);
-    stage.CloseExplanation();
-
-    problem.controls = EntryControls();
-    problem.controls.LightToolTip = "Click the red light for incorrect input details.";
-
-    problem.boxes = EntryBoxes();
-    problem.playback.LineEndX = 0;
-    problem.playback.LineEndY = 0;
-    problem.playback.CurrentPage = std::min(problem.playback.CurrentPage, kTopSheet);
-    stage.BlankSheets();
-    problem.playback.CurrentPage = 0;
-
-    problem.playback.TypingEnabled = true;
-    // A long product is played on behind the last step that has a note.
-    if (problem.playback.ShownStep <= StepLog::kTopIndex) {
-        problem.log.StepNote[problem.playback.ShownStep] = problem.topic.InstructionText;
-    }
-    problem.log.StepNote[0] = problem.topic.InstructionText;
-}
-
-bool clear_Click(Problem& problem, Learner& learner, Stage& stage) {
-    if (!learner.Confirm("Clear Problem", "This will erase your entire problem.")) {
-        return false;
-    }
-    EraseProblem(problem, stage);
-    return true;
 }
 
 }  // namespace numerello

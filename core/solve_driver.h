@@ -7,26 +7,9 @@
 #include "core/failure.h"
 #include "core/learner.h"
 #include "core/problem.h"
+#include "core/stage.h"
 
 namespace numerello {
-
-/// What the driver asks of the sheets and windows around the problem. The command line has none.
-class Stage {
-  public:
-    virtual ~Stage() = default;
-
-    virtual void CloseGraph() {}
-    virtual void CloseExplanation() {}
-
-    /// Shows the line that ShownStep points at, or all lines.
-    virtual void ShowNextStep() {}
-
-    /// Draws the next step of the column request.
-    virtual void DrawColumns() {}
-
-    /// Blanks the sheets 0 to CurrentPage, leaves the first alone and puts the pencil beside it.
-    virtual void BlankSheets() {}
-};
 
 /// What a solver gets: the problem to work, and the learner it may have to ask.
 struct SolveRun {
@@ -66,11 +49,5 @@ std::optional<FailureKind> Trapped(Problem& problem, Learner& learner,
 /// Ends a solve that failed, also one that fails while it is played: the learner gets the message
 /// of the failure, nothing more is shown, and all stays locked until the problem is erased.
 void FailSolve(Problem& problem, FailureKind kind, Learner& learner);
-
-/// Wipes problem and sheets: the state in which the topic's entry form opens.
-void EraseProblem(Problem& problem, Stage& stage);
-
-/// Asks, then erases. False when the learner did not agree.
-bool clear_Click(Problem& problem, Learner& learner, Stage& stage);
 
 }  // namespace numerello

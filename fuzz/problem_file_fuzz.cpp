@@ -3,6 +3,7 @@
 
 #include "catalogue/saved_problem.h"
 #include "catalogue/topics.h"
+#include "core/erasing.h"
 #include "line_invariants.h"
 #include "typing.h"
 

@@ -1,6 +1,6 @@
 #include "help/contents.h"
 
-#include "catalogue/chooser.h"
+#include "catalogue/topic_tree.h"
 #include "catalogue/topics.h"
 #include "core/text.h"
 

@@ -4,8 +4,9 @@
 
 #include "app/solvers.h"
 #include "catalogue/box_keys.h"
-#include "catalogue/chooser.h"
 #include "catalogue/guided_input.h"
+#include "catalogue/topic_choice.h"
+#include "core/erasing.h"
 #include "core/text.h"
 #include "help/help_error.h"
 #include "worksheet/shown_note.h"

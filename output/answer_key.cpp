@@ -3,8 +3,9 @@
 #include <utility>
 
 #include "catalogue/box_keys.h"
-#include "catalogue/chooser.h"
 #include "catalogue/guided_input.h"
+#include "catalogue/topic_choice.h"
+#include "core/erasing.h"
 #include "core/text.h"
 #include "core/topic_codes.h"
 

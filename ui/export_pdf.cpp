@@ -11,6 +11,7 @@
 #include "catalogue/guided_input.h"
 #include "catalogue/saved_problem.h"
 #include "core/clock.h"
+#include "core/erasing.h"
 #include "core/random_source.h"
 #include "core/silent_learner.h"
 #include "core/text.h"

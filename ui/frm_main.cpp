@@ -13,6 +13,7 @@
 
 #include "catalogue/chooser.h"
 #include "catalogue/saved_problem.h"
+#include "catalogue/topic_tree.h"
 #include "ui/artwork.h"
 #include "ui/desk.h"
 #include "ui/dropped_file.h"

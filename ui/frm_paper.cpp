@@ -7,6 +7,7 @@
 #include "app/solvers.h"
 #include "catalogue/examples/example_click.h"
 #include "catalogue/guided_input.h"
+#include "core/erasing.h"
 #include "core/text.h"
 #include "ui/accessible_sheet.h"
 #include "ui/desk.h"

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "catalogue/chooser.h"
+#include "catalogue/topic_tree.h"
 #include "core/clock.h"
 #include "ui/held_enter.h"
 #include "ui/previewed.h"

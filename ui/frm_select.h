@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "catalogue/chooser.h"
+#include "catalogue/topic_tree.h"
 
 class QLineEdit;
 class QListWidget;

@@ -3,7 +3,7 @@
 #include <span>
 #include <vector>
 
-#include "catalogue/chooser.h"
+#include "catalogue/topic_tree.h"
 
 class QListWidget;
 class QTreeWidget;

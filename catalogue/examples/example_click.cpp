@@ -1,5 +1,6 @@
 #include "catalogue/examples/example_click.h"
 
+#include "core/erasing.h"
 #include "core/text.h"
 
 namespace numerello {

@@ -2,7 +2,7 @@
 
 #include "catalogue/entering.h"
 #include "catalogue/examples/example.h"
-#include "core/solve_driver.h"
+#include "core/stage.h"
 
 namespace numerello {
 

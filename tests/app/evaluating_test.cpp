@@ -1,8 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "app/solvers.h"
-#include "catalogue/chooser.h"
 #include "catalogue/guided_input.h"
+#include "catalogue/topic_choice.h"
+#include "core/erasing.h"
 
 namespace numerello {
 namespace {

@@ -3,6 +3,7 @@
 #include "app/solvers.h"
 #include "catalogue/guided_input.h"
 #include "catalogue/saved_problem.h"
+#include "core/erasing.h"
 #include "core/solve_driver.h"
 #include "tests/topics/typed_topic.h"
 

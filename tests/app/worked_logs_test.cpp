@@ -4,8 +4,9 @@
 #include <fstream>
 
 #include "app/solvers.h"
-#include "catalogue/chooser.h"
 #include "catalogue/guided_input.h"
+#include "catalogue/topic_choice.h"
+#include "core/erasing.h"
 #include "core/text.h"
 
 /// Works the problems of worked_logs/. A file names its topic; its problems are separated by empty

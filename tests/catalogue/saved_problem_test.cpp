@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "catalogue/topics.h"
+#include "core/erasing.h"
 #include "core/text.h"
 #include "tests/core/temporary_folder.h"
 #include "typing.h"

@@ -3,7 +3,8 @@
 #include <map>
 #include <string>
 
-#include "catalogue/chooser.h"
+#include "catalogue/topic_choice.h"
+#include "catalogue/topic_tree.h"
 #include "catalogue/topics.h"
 #include "core/number.h"
 

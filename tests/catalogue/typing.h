@@ -2,8 +2,9 @@
 
 #include <string_view>
 
-#include "catalogue/chooser.h"
 #include "catalogue/guided_input.h"
+#include "catalogue/topic_choice.h"
+#include "core/erasing.h"
 #include "core/solve_driver.h"
 #include "core/text.h"
 

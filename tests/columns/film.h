@@ -10,9 +10,10 @@
 #include <vector>
 
 #include "app/solvers.h"
-#include "catalogue/chooser.h"
+#include "catalogue/topic_choice.h"
 #include "catalogue/topics.h"
 #include "columns/steps.h"
+#include "core/erasing.h"
 #include "core/solve_driver.h"
 
 namespace numerello {

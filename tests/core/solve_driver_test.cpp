@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/erasing.h"
 #include "core/number.h"
 
 namespace numerello {

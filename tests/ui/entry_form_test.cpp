@@ -12,8 +12,8 @@
 #include <QTest>
 #include <memory>
 
-#include "catalogue/chooser.h"
 #include "catalogue/input_classes.h"
+#include "catalogue/topic_choice.h"
 #include "catalogue/topics.h"
 #include "tests/ui/window.h"
 #include "ui/artwork.h"

@@ -4,7 +4,7 @@
 #include <QScrollBar>
 #include <QToolButton>
 
-#include "catalogue/chooser.h"
+#include "catalogue/topic_choice.h"
 #include "catalogue/topics.h"
 #include "tests/ui/frm_main_fixture.h"
 #include "ui/frm_paper.h"

@@ -9,7 +9,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "catalogue/chooser.h"
+#include "catalogue/topic_choice.h"
 #include "core/topic_codes.h"
 #include "graph/coordinate_list.h"
 #include "tests/ui/frm_main_fixture.h"

@@ -2,10 +2,11 @@
 
 #include "app/column_worksheet.h"
 #include "app/solvers.h"
-#include "catalogue/chooser.h"
 #include "catalogue/examples/example_click.h"
 #include "catalogue/guided_input.h"
+#include "catalogue/topic_choice.h"
 #include "catalogue/topics.h"
+#include "core/erasing.h"
 #include "core/topic_codes.h"
 #include "ui/font_metrics.h"
 

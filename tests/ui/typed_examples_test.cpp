@@ -3,7 +3,7 @@
 #include <QMainWindow>
 #include <QWidget>
 
-#include "catalogue/chooser.h"
+#include "catalogue/topic_choice.h"
 #include "core/clock.h"
 #include "core/text.h"
 #include "tests/ui/window.h"

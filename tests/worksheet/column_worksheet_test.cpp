@@ -1,5 +1,6 @@
 #include "app/column_worksheet.h"
 
+#include "core/erasing.h"
 #include "tests/worksheet/desk.h"
 
 namespace numerello {

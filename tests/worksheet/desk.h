@@ -8,9 +8,10 @@
 #include <vector>
 
 #include "app/solvers.h"
-#include "catalogue/chooser.h"
 #include "catalogue/guided_input.h"
+#include "catalogue/topic_choice.h"
 #include "catalogue/topics.h"
+#include "core/erasing.h"
 #include "core/number.h"
 #include "core/text.h"
 #include "worksheet/worksheet.h"

@@ -4,6 +4,7 @@
 #include "catalogue/input_classes.h"
 #include "catalogue/key_rules.h"
 #include "catalogue/point_rules.h"
+#include "core/failure.h"
 #include "core/text.h"
 
 namespace numerello {
@@ -114,9 +115,12 @@ void FormFilter(Problem& problem, std::string_view key) {
     }
 }
 
-void StoreUnjudged(Problem& problem, std::string_view character) {
+void StoreDigitUnjudged(Problem& problem, std::string_view digit) {
+    if (!IsDigit(digit)) {
+        throw Failure(FailureKind::Format);
+    }
     problem.input.InputError.clear();
-    Store(problem, character);
+    Store(problem, digit);
     SetOutLine(problem);
 }
 

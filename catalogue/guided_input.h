@@ -26,8 +26,8 @@ void Form_KeyPress(Problem& problem, std::string_view key);
 /// accepted one. For a line of at most kLongestLine characters.
 void FormFilter(Problem& problem, std::string_view key);
 
-/// Stores a character as an accepted one without judging it.
-void StoreUnjudged(Problem& problem, std::string_view character);
+/// Stores a digit as an accepted one without judging it. Throws Failure(Format) for anything else.
+void StoreDigitUnjudged(Problem& problem, std::string_view digit);
 
 /// The grammar: true to accept the character, a letter in lower case, behind ProblemText, whose
 /// letters stand in VarNames; else InputError says why not.

@@ -41,7 +41,7 @@ void EnterLine(Problem& problem, std::string_view keys) {
         FormFilter(problem, key);
         // A test keeps the digits that are too many for the line of the form.
         if (!problem.input.KeyAccepted && IsDigit(key)) {
-            StoreUnjudged(problem, key);
+            StoreDigitUnjudged(problem, key);
         }
     }
 }

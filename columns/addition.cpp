@@ -95,20 +95,12 @@ class AdditionSheet {
 
 }  // namespace
 
-void ColumnAddition(std::string& Top, std::string& Bottom, ColumnRun& run) {
+void ColumnAddition(std::string Top, std::string Bottom, ColumnRun& run) {
     run.log.StepNote[run.playback.ShownStep] = Text("Add ", Top, " and ", Bottom, ".");
     AlignDecimals(Top, Bottom);
     const int length = PadToColumns(Top, Bottom, '+');
-    const int counter = NextReveal(run.playback, length);
-
     AdditionSheet sheet(run, Top, Bottom);
-    sheet.PrintNumbers();
-    for (int i = length - 1; i >= counter && i > 0; --i) {
-        sheet.WorkColumn(i);
-    }
-    if (!run.mnuShowStep || counter == 1) {
-        run.Finish();
-    }
+    WorkColumns(sheet, length, run);
 }
 
 }  // namespace numerello

@@ -7,8 +7,7 @@
 namespace numerello {
 
 /// Draws two whole numbers in columns, "+" before the lower one, and below the rule the digits of
-/// their sum that are worked by now, the carries above the columns they go to. The numbers are
-/// changed in place.
-void ColumnAddition(std::string& Top, std::string& Bottom, ColumnRun& run);
+/// their sum that are worked by now, the carries above the columns they go to.
+void ColumnAddition(std::string Top, std::string Bottom, ColumnRun& run);
 
 }  // namespace numerello

@@ -14,8 +14,8 @@ namespace numerello {
 using ColumnCells = BoundedArray<std::string, 25>;
 
 /// Makes both texts end in the same number of decimals: a point and zeros go behind the shorter
-/// one, and a text that then begins with its point gets a 0 before it. Changes nothing as long as the
-/// boxes of columns take no point.
+/// one, and a text that then begins with its point gets a 0 before it. Changes nothing as long as
+/// the boxes of columns take no point.
 void AlignDecimals(std::string& Top, std::string& Bottom);
 
 /// Pads the shorter text with blanks in front until both are equally long, then puts a blank before
@@ -41,5 +41,19 @@ void DrawRule(ColumnPen& pen, double left, int length);
 /// Lets a counter that falls with every drawing go on, from `length` at the first one; in
 /// all-at-once mode it is below 0. Returns it.
 int NextReveal(Playback& playback, int length);
+
+/// Goes on with a sum or a difference in rows of this length: its numbers, and from the right the
+/// columns that are revealed by now.
+template <class Sheet>
+void WorkColumns(Sheet& sheet, int length, ColumnRun& run) {
+    const int counter = NextReveal(run.playback, length);
+    sheet.PrintNumbers();
+    for (int i = length - 1; i >= counter && i > 0; --i) {
+        sheet.WorkColumn(i);
+    }
+    if (!run.mnuShowStep || counter == 1) {
+        run.Finish();
+    }
+}
 
 }  // namespace numerello

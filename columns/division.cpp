@@ -60,8 +60,8 @@ class DivisionSheet {
           length(static_cast<int>(Dividend.size())),
           dividendDigits(SplitColumns(Dividend)) {}
 
-    /// Without cells the frame alone.
-    void DrawDivision(const ColumnCells* QuotientCells) {
+    /// Empty cells show the frame alone.
+    void DrawDivision(const ColumnCells& QuotientCells) {
         Playback& playback = run.playback;
         playback.LineEndX = playback.LineEndY = 0;
         pen.MoveTo(kLeft, kTop);
@@ -72,9 +72,7 @@ class DivisionSheet {
         for (int i = 0; i < length + kCellsBehindDigits; ++i) {
             const double X0 = pen.X;
             pen.Print(dividendDigits[i]);
-            if (QuotientCells != nullptr) {
-                DrawQuotientCell(*QuotientCells, i, X0);
-            }
+            DrawQuotientCell(QuotientCells, i, X0);
             pen.MoveTo(X0 + ColumnPen::kCell, BarY);
         }
         pen.SetDrawWidth(kBarWidth);
@@ -215,7 +213,7 @@ ColumnCells RevealedCells(const Quotient& quotient, int digits, bool remainder) 
 
 }  // namespace
 
-void LongDivision(std::string& Dividend, std::string& Divisor, ColumnRun& run) {
+void LongDivision(std::string Dividend, std::string Divisor, ColumnRun& run) {
     if (ToNumber(Dividend) < ToNumber(Divisor)) {
         std::swap(Dividend, Divisor);
     }
@@ -229,16 +227,10 @@ void LongDivision(std::string& Dividend, std::string& Divisor, ColumnRun& run) {
     const int counter = NextReveal(run.playback, length);
 
     DivisionSheet sheet(run, Divisor, Dividend);
-    if (counter >= length) {
-        sheet.DrawDivision(nullptr);
-    } else {
-        // All at once "r" and the remainder are always there, also of a division without one.
-        const bool allAtOnce = counter < 0;
-        const bool remainder = allAtOnce || (counter == 0 && quotient.remainder != "0");
-        const ColumnCells cells =
-            RevealedCells(quotient, allAtOnce ? length : length - counter, remainder);
-        sheet.DrawDivision(&cells);
-    }
+    // All at once "r" and the remainder are always there, also of a division without one.
+    const bool allAtOnce = counter < 0;
+    const bool remainder = allAtOnce || (counter == 0 && quotient.remainder != "0");
+    sheet.DrawDivision(RevealedCells(quotient, allAtOnce ? length : length - counter, remainder));
     // With two zeros the run is over at once; the check mark waits until it has its place.
     if (!run.mnuShowStep || counter == 0 || bothZero) {
         run.Finish();

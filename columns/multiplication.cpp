@@ -106,7 +106,7 @@ class MultiplicationSheet {
 
 }  // namespace
 
-void ColumnMultiplication(std::string& Top, std::string& Bottom, ColumnRun& run) {
+void ColumnMultiplication(std::string Top, std::string Bottom, ColumnRun& run) {
     if (Top.size() < Bottom.size()) {
         std::swap(Top, Bottom);
     }

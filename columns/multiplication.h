@@ -9,7 +9,7 @@ namespace numerello {
 /// Draws two whole numbers in columns, "x" before the lower one, and below the rule the first cells
 /// of their multiplication: partial products with inserted zeros, carries above, then the column
 /// sums. One cell more with every drawing, 100 at most, where a longer working is cut off. The
-/// numbers are changed in place, and switched when Top is shorter.
-void ColumnMultiplication(std::string& Top, std::string& Bottom, ColumnRun& run);
+/// shorter number stands below.
+void ColumnMultiplication(std::string Top, std::string Bottom, ColumnRun& run);
 
 }  // namespace numerello

@@ -19,7 +19,7 @@ namespace {
 struct Operation {
     int ProblemType;
     bool ColumnRequest::*flag;
-    void (*procedure)(std::string& Top, std::string& Bottom, ColumnRun& run);
+    void (*procedure)(std::string Top, std::string Bottom, ColumnRun& run);
     double highest;  ///< Y of the topmost mark that the layout can hold
 };
 
@@ -42,7 +42,8 @@ void RequireDigits(const std::string& number) {
     }
 }
 
-void Draw(const Operation& operation, std::string Top, std::string Bottom, ColumnRun& run) {
+void Draw(const Operation& operation, const std::string& Top, const std::string& Bottom,
+          ColumnRun& run) {
     RequireDigits(Top);
     RequireDigits(Bottom);
     operation.procedure(Top, Bottom, run);

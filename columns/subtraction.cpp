@@ -177,23 +177,15 @@ class SubtractionSheet {
 
 }  // namespace
 
-void ColumnSubtraction(std::string& Top, std::string& Bottom, ColumnRun& run) {
+void ColumnSubtraction(std::string Top, std::string Bottom, ColumnRun& run) {
     AlignDecimals(Top, Bottom);
     if (ToNumber(Bottom) > ToNumber(Top)) {
         std::swap(Top, Bottom);
     }
     run.log.StepNote[run.playback.ShownStep] = Text("Subtract ", Bottom, " from ", Top, ".");
     const int length = PadToColumns(Top, Bottom, '-');
-    const int counter = NextReveal(run.playback, length);
-
     SubtractionSheet sheet(run, Top, Bottom);
-    sheet.PrintNumbers();
-    for (int i = length - 1; i >= counter && i > 0; --i) {
-        sheet.WorkColumn(i);
-    }
-    if (!run.mnuShowStep || counter == 1) {
-        run.Finish();
-    }
+    WorkColumns(sheet, length, run);
 }
 
 }  // namespace numerello

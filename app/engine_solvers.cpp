@@ -68,7 +68,7 @@ void SolveEquation(SolveRun& run) {
     Engine engine(run.problem);
     engine.Open();
     engine.SimplifyBothSides();
-    engine.SolveFor(run.problem.typed.VarNames[1]);
+    engine.SolveFor(run.problem.typed.VarNames.Get(1));
 }
 
 void Evaluate(SolveRun& run) {

@@ -34,14 +34,14 @@ void ChunkChars(Problem& problem) {
     TypingPoint point;
     int tokens = 0;
     for (int i = 0; i < typed.ExprCharCount; ++i) {
-        const std::string& character = typed.ExprChars[i];
+        const std::string& character = typed.ExprChars.Get(i);
         const TypingPoint before = point;
         point.Pass(character.front(), code);
         if (point.last == Role::RootEnd) {
             continue;
         }
         std::string& last = typed.ExprCells[std::max(tokens - 1, 0)];
-        const std::string& next = typed.ExprChars[i + 1];
+        const std::string& next = typed.ExprChars.Get(i + 1);
         if (JoinsToken(before, point.last, last, next)) {
             last += character;
         } else {
@@ -54,8 +54,8 @@ void ChunkChars(Problem& problem) {
 std::string FormatForDisplay(Problem& problem) {
     TypedProblem& typed = problem.typed;
     LineSetter setter(problem.topic.ProblemType, static_cast<std::size_t>(typed.ExprCellCount) + 1);
-    for (int i = 0; i <= typed.ExprCellCount && !typed.ExprCells[i].empty(); ++i) {
-        setter.Add(typed.ExprCells[i]);
+    for (int i = 0; i <= typed.ExprCellCount && !typed.ExprCells.Get(i).empty(); ++i) {
+        setter.Add(typed.ExprCells.Get(i));
     }
     setter.CloseAll();
 

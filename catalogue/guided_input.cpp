@@ -27,7 +27,7 @@ std::string Recast(const std::string& refusal, const TypingPoint& point, char ke
 void JoinProblemText(TypedProblem& typed) {
     typed.ProblemText.clear();
     for (int i = 0; i < typed.ExprCharCount; ++i) {
-        typed.ProblemText += typed.ExprChars[i];
+        typed.ProblemText += typed.ExprChars.Get(i);
     }
 }
 
@@ -51,7 +51,7 @@ void Undo(Problem& problem) {
     problem.controls.Pencil = EntryControls::PencilPicture::Eraser;
     problem.input.KeyAccepted = true;
     RemoveLast(typed);
-    if (typed.ExprCharCount > 0 && typed.ExprChars[typed.ExprCharCount - 1] == "^") {
+    if (typed.ExprCharCount > 0 && typed.ExprChars.Get(typed.ExprCharCount - 1) == "^") {
         RemoveLast(typed);
     }
 }

@@ -42,7 +42,7 @@ class FilmedColumns {
   private:
     Json Frame() const {
         const Playback& playback = problem.playback;
-        return {{"note", std::as_const(problem.log).StepNote[playback.ShownStep]},
+        return {{"note", problem.log.StepNote.Get(playback.ShownStep)},
                 {"marks", MarksOf(stage.Page())},
                 {"end", {Rounded(playback.LineEndX), Rounded(playback.LineEndY)}},
                 {"finished", stage.Finished()}};

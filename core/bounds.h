@@ -11,7 +11,8 @@ void CheckIndex(int index, int top);
 
 /// An array with indexes 0 to Top whose storage grows with use: a cell that was never written
 /// reads as the neutral value. An index outside the bounds throws Failure(Format). References stay
-/// valid while it grows, so that a cell may be copied to a higher one.
+/// valid while it grows, so that a cell may be copied to a higher one. What is only read is read by
+/// Get(), which never grows it.
 template <class T, int Top>
 class BoundedArray {
   public:
@@ -25,7 +26,9 @@ class BoundedArray {
         return cells[static_cast<std::size_t>(index)];
     }
 
-    const T& operator[](int index) const {
+    const T& operator[](int index) const { return Get(index); }
+
+    const T& Get(int index) const {
         CheckIndex(index, Top);
         return index < static_cast<int>(cells.size()) ? cells[static_cast<std::size_t>(index)]
                                                       : neutral;

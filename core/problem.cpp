@@ -83,9 +83,8 @@ void DropRequests(Problem& problem) {
 void CollectVariables(TypedProblem& typed) {
     typed.VarCount = 1;
     typed.VarNames.Clear(0, kTopClearedVariable);
-    const auto& typedChars = typed.ExprChars;
     for (int i = 0; i < typed.ExprCharCount; ++i) {
-        const std::string& cell = typedChars[i];
+        const std::string& cell = typed.ExprChars.Get(i);
         if (IsLetter(cell) && FindVariable(typed, cell) == 0) {
             typed.VarNames[typed.VarCount++] = cell;
         }

@@ -11,8 +11,7 @@ void StepLog::Write(std::string text, std::string note) {
 }
 
 void ThinSteps(StepLog& log, int detailLevel) {
-    const StepLog& recorded = log;
-    if (log.StepCount <= 2 || recorded.StepLevels[2] >= StepLog::kUnsetLevel) {
+    if (log.StepCount <= 2 || log.StepLevels.Get(2) >= StepLog::kUnsetLevel) {
         return;
     }
     const int last = log.StepCount - 1;

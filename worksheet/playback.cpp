@@ -69,7 +69,7 @@ void Worksheet::ShowAllLines() {
 
 void Worksheet::ShowLastLine() {
     const int shown = problem.playback.ShownStep;
-    if (!std::as_const(problem.log).StepText[shown].empty()) {
+    if (!problem.log.StepText.Get(shown).empty()) {
         PrintStep(shown, false);
     }
     FinishWork();
@@ -77,7 +77,7 @@ void Worksheet::ShowLastLine() {
     // An equation without a solution leaves nothing to draw.
     const int code = problem.topic.ProblemType;
     const bool equation =
-        code == kGraphingAnEquation && !std::as_const(problem.typed).ExprVariants[0].empty();
+        code == kGraphingAnEquation && !problem.typed.ExprVariants.Get(0).empty();
     if (equation || code == kPointsQuadrant) {
         problem.graph.GraphMode = equation ? kEquationGraph : kOnePointGraph;
         OpenGraph();
@@ -89,7 +89,7 @@ void Worksheet::PrintStep(int index, bool showBlinker) {
     if (outOfSheets) {
         return;
     }
-    const std::string& line = std::as_const(problem.log).StepText[index];
+    const std::string& line = problem.log.StepText.Get(index);
     FPrintLine(line, showBlinker, *this, problem.playback, learner);
     if (!outOfSheets) {
         CurrentSheet().lines.push_back(line);

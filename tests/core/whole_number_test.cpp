@@ -28,6 +28,11 @@ TEST(IsExactWhole, EndsWhereNeighboursAreNoDoubles) {
     EXPECT_FALSE(IsExactWhole(1.5));
 }
 
+TEST(SingleText, OfZeroIsOneDigit) {
+    EXPECT_EQ(SingleText(0.0F), "0");
+    EXPECT_EQ(SingleText(-0.0F), "0");
+}
+
 TEST(LeastCommonMultiple, OfTwoNumbers) {
     EXPECT_EQ(LeastCommonMultiple(4, 6), 12);
     EXPECT_EQ(LeastCommonMultiple(5, 5), 5);

@@ -205,12 +205,19 @@ class TableReader {
     void ReadPower(Group& group) {
         ++group.tail;
         std::string power;
-        if (IsMark(tokens[group.tail], '-')) {
+        if (IsMark(ExponentAt(group.tail), '-')) {
             power = "-";
             ++group.tail;
         }
-        power += tokens[group.tail++];
+        power += ExponentAt(group.tail++);
         group.Power = ToSingle(ToNumber(power));
+    }
+
+    const std::string& ExponentAt(std::size_t at) const {
+        if (at >= side.end) {
+            throw Failure(FailureKind::Format);
+        }
+        return tokens[at];
     }
 
     /// Back from the bracket over the factor before it, to the sign or "*" that begins it.

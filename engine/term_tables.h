@@ -73,7 +73,8 @@ SideRange RangeOfSide(const Tokens& tokens, int Side);
 /// Gives every term the exponent of its first letter, 0 without one.
 void TellFirstExponents(TermTables& tables);
 
-/// Throws Failure(Format) past a bound of TermTables, Failure(Overflow) past a Single.
+/// Throws Failure(Format) past a bound of TermTables and for a bracket with a "^" but no exponent,
+/// Failure(Overflow) past a Single.
 TermTables BreakIntoTerms(const Tokens& tokens, int Side);
 
 }  // namespace numerello

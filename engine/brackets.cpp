@@ -70,15 +70,16 @@ bool Engine::TakeParensAway(std::size_t group) {
     if (first.Den == 0) {
         throw Failure(FailureKind::DivisionByZero);
     }
+    const bool divided = before == "/";
     if (divided && IsDivided(first)) {
-        Because(std::string(kFlipReason), kOrdinaryStep);
+        Because(kFlipReason, kOrdinaryStep);
         ReplaceBetween(open - 1, pair.tail, Text("*", first.OpMark, Flipped(first)));
         return true;
     }
-    if (after == "/" && IsDivided(first)) {
+    if (TokenAt(pair.tail) == "/" && IsDivided(first)) {
         return TurnWhatFollows(pair);
     }
-    Because(std::string(kRemoveParensReason), kOrdinaryStep);
+    Because(kRemoveParensReason, kOrdinaryStep);
     const bool joins = before == "*" || divided;
     const std::size_t inner = pair.begin + (joins && first.OpMark == "+" ? 1 : 0);
     ReplaceBetween(joins ? open : open - 1, pair.tail, TextBetween(tokens, inner, pair.end));
@@ -105,7 +106,7 @@ bool Engine::TurnWhatFollows(const Group& group) {
     }
     const bool joins = TokenAt(group.begin - 2) == "*";
     const bool plus = group.terms.front().OpMark == "+";
-    Because(std::string(kFlipReason), kOrdinaryStep);
+    Because(kFlipReason, kOrdinaryStep);
     ReplaceBetween(joins ? group.begin - 1 : group.begin - 2, end,
                    Text(TextBetween(tokens, group.begin + (joins && plus ? 1 : 0), group.end),
                         "*1/", TextBetween(tokens, begin, end)));

@@ -154,7 +154,7 @@ class Engine {
     // Composing the next one.
     void ReplaceBetween(std::size_t begin, std::size_t end, std::string_view text);
     void ReplaceGroup(std::size_t group, std::string_view text);
-    void Because(std::string reason, int level);
+    void Because(std::string_view reason, int level);
 
     void ReadLine();
     const std::string& ShownLine();
@@ -176,7 +176,7 @@ class Engine {
 
     // combining.cpp
     void RemoveNegativeExponents(std::size_t group);
-    std::string CombiningReason() const;
+    std::string_view CombiningReason() const;
     bool KeepsFractions(const Group& group) const;
     void RecordSorted(std::size_t group, bool changed, Record record);
 

@@ -107,7 +107,7 @@ bool Engine::MultiplyFractionPair(std::size_t group) {
         throw Failure(FailureKind::DivisionByZero);
     }
     if (divides) {
-        Because(std::string(kFlipReason), kFineStep);
+        Because(kFlipReason, kFineStep);
         ReplaceBetween(
             at - 1, at + 2,
             Text(RatioText(left.over, left.under), "*", RatioText(right.under, right.over)));
@@ -202,7 +202,7 @@ void Engine::ReduceAndDropZeros(std::size_t group) {
     if (text == WithoutEmphasis(TextBetween(tokens, all.begin, all.end))) {
         return;
     }
-    Because(std::string(zeros ? kZeroDividedReason : "Reduce fractions."), kFineStep);
+    Because(zeros ? kZeroDividedReason : "Reduce fractions.", kFineStep);
     ReplaceGroup(group, text.empty() ? "+0" : text);
     RecordStep();
 }
@@ -212,8 +212,8 @@ void Engine::CombineOverLcd(std::size_t group) {
     const std::vector<Term> terms = GroupAt(group).terms;
     const std::string before = TextBetween(tokens, 0, GroupAt(group).begin);
     const std::string after = TextBetween(tokens, GroupAt(group).end, tokens.size());
-    const auto write = [&](std::string_view text, std::string reason, int level) {
-        Because(std::move(reason), level);
+    const auto write = [&](std::string_view text, std::string_view reason, int level) {
+        Because(reason, level);
         SetText(Text(before, text, after));
         RecordStep();
     };

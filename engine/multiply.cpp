@@ -124,7 +124,7 @@ bool Engine::ReorderFactor(std::size_t group) {
     if (end == begin || tokens[end - 1] == "/") {
         return false;
     }
-    Because(std::string(kReorderReason), kOrdinaryStep);
+    Because(kReorderReason, kOrdinaryStep);
     ReplaceBetween(begin, end, Text("(+", TextBetween(tokens, begin, end), ")"));
     RecordStep();
     if (power) {

@@ -157,7 +157,7 @@ bool Engine::ExpandFrontPower(std::size_t group) {
     if (text.ends_with(')')) {
         text += "*";
     }
-    Because(std::string(factors.zeroPower ? kLetterZeroPowerReason : kWrittenOutReason), kFineStep);
+    Because(factors.zeroPower ? kLetterZeroPowerReason : kWrittenOutReason, kFineStep);
     const std::size_t begin = IsOperator(TokenAt(front.begin)) ? front.begin + 1 : front.begin;
     ReplaceBetween(begin, front.end, text);
     RecordStep();
@@ -175,7 +175,7 @@ bool Engine::ExpandPower(std::size_t group) {
     }
     // Also of a bracket that is 0, where a number by itself would fail: kept as it is.
     if (base.Power == 0) {
-        Because(std::string(kZeroPowerReason), kOrdinaryStep);
+        Because(kZeroPowerReason, kOrdinaryStep);
         ReplaceBetween(open, base.tail, "(+1)");
         return true;
     }

@@ -182,8 +182,8 @@ class Engine {
 
     // brackets.cpp
     bool RemoveBars();
+    bool MayGo(const Group& pair) const;
     bool TakeParensAway(std::size_t group);
-    std::size_t EndOfDivisor(std::size_t begin) const;
     bool TurnWhatFollows(const Group& group);
 
     // distribute.cpp

@@ -108,7 +108,7 @@ void LikeTerms::AddRow(LikeRow row) {
 }
 
 /// Puts a rewritten term in the term's place.
-void LikeTerms::Replace(const Term& term, const std::string& coefficient) {
+void LikeTerms::PutInPlace(const Term& term, const std::string& coefficient) {
     changed = true;
     LikeRow row;
     row.merges = false;
@@ -139,7 +139,7 @@ void LikeTerms::ReplaceNumbers(const Term& term) {
     rest.NumText = LettersText(ReadLetters(term.NumText));
     rest.DenText = LettersText(ReadLetters(term.DenText));
     const Ratio numbers = NumbersOf(term);
-    Replace(rest, RatioText(numbers.over, numbers.under));
+    PutInPlace(rest, RatioText(numbers.over, numbers.under));
 }
 
 /// A constant power that stands beside letters.
@@ -166,12 +166,12 @@ bool LikeTerms::TakeConversion(const Term& term, const std::string& written) {
     if (settings.UseFractions) {
         return Reduce(term);
     }
-    return (!fraction && !decimal && Reduce(term)) || Divide(term);
+    return (!fraction && !decimal && Reduce(term)) || ToDecimal(term);
 }
 
 /// Turns decimals into a fraction.
 bool LikeTerms::ReadDecimal(const Term& term) {
-    Replace(term, NumberToFractionText(settings, {term.numOver, term.numUnder}));
+    PutInPlace(term, NumberToFractionText(settings, {term.numOver, term.numUnder}));
     // Beside letters the sentence ends without its point: kept as it is.
     reason = IsConstant(term) ? "Convert the decimal number to a fraction."
                               : "Convert the decimal number to a fraction";
@@ -187,7 +187,7 @@ bool LikeTerms::Reduce(const Term& term) {
     if (reduced == shown) {
         return false;
     }
-    Replace(term, reduced);
+    PutInPlace(term, reduced);
     if (over == 0) {
         reason = kZeroDividedReason;
         return true;
@@ -206,10 +206,10 @@ bool LikeTerms::Reduce(const Term& term) {
 }
 
 /// Turns a fraction into a decimal.
-bool LikeTerms::Divide(const Term& term) {
+bool LikeTerms::ToDecimal(const Term& term) {
     const std::string value = NumberToFractionText(settings, {term.numOver, term.numUnder});
     const std::string fraction = RatioText(term.numOver, term.numUnder);
-    Replace(term, value);
+    PutInPlace(term, value);
     reason = IsConstant(term)
                  ? Text("Convert #", fraction,
                         "# to decimal notation by dividing the numerator by the denominator (",

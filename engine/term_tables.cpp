@@ -47,7 +47,7 @@ class TermReader {
         } else if (IsMark(token, '^')) {
             TakeExponent();
         } else if (IsLetter(token)) {
-            Text() += token;
+            LetterText() += token;
             if (!under && ++lettersOver == 1) {
                 term.Degree = 1;
             }
@@ -93,7 +93,7 @@ class TermReader {
             exponent += tokens[++at];
         }
         const float value = ToSingle(ToNumber(exponent));
-        Text() += "^" + exponent;
+        LetterText() += "^" + exponent;
         if (behindNumber) {
             (under ? term.DenPower : term.NumPower) = value;
         } else if (!under && lettersOver == 1) {
@@ -101,7 +101,7 @@ class TermReader {
         }
     }
 
-    std::string& Text() { return under ? term.DenText : term.NumText; }
+    std::string& LetterText() { return under ? term.DenText : term.NumText; }
 
     const Tokens& tokens;
     std::size_t at;

@@ -67,6 +67,15 @@ bool HasDecimals(const Term& term, const std::string& written) {
     return HasPoint(written) || !IsWhole(term.numOver) || !IsWhole(term.numUnder);
 }
 
+LikeRow RowOf(const Term& term, const std::string& written) {
+    LikeRow row;
+    row.sum = RatioOf(term);
+    row.written = written;
+    row.isZero = term.Num == 0;
+    row.first = &term;
+    return row;
+}
+
 }  // namespace
 
 LikeTerms::LikeTerms(const Problem& problem, bool keepFractions)
@@ -221,11 +230,7 @@ bool LikeTerms::ToDecimal(const Term& term) {
 }
 
 void LikeTerms::TakeConstant(const Term& term, const std::string& written) {
-    LikeRow row;
-    row.sum = RatioOf(term);
-    row.isZero = term.Num == 0;
-    row.written = written;
-    row.first = &term;
+    LikeRow row = RowOf(term, written);
     row.merges = !keepFractions || term.Den == 1;
     const auto other = std::find_if(constants.begin(), constants.end(),
                                     [](const LikeRow& each) { return each.merges; });
@@ -237,13 +242,9 @@ void LikeTerms::TakeConstant(const Term& term, const std::string& written) {
 }
 
 void LikeTerms::TakeLetters(const Term& term, const std::string& written) {
-    LikeRow row;
-    row.sum = RatioOf(term);
+    LikeRow row = RowOf(term, written);
     row.NumText = LettersOf(term);
     row.DenText = LettersText(ReadLetters(term.DenText));
-    row.isZero = term.Num == 0;
-    row.written = written;
-    row.first = &term;
     const auto like = std::find_if(letters.begin(), letters.end(), [&row](const LikeRow& each) {
         return each.merges && each.NumText == row.NumText && each.DenText == row.DenText;
     });

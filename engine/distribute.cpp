@@ -16,7 +16,7 @@ namespace numerello {
 
 namespace {
 
-constexpr std::size_t kTopProduct = 100;
+constexpr int kTopProduct = 100;
 
 bool HasNumberPowers(const Group& group) {
     return std::any_of(group.terms.begin(), group.terms.end(), HasNumberPower);
@@ -132,8 +132,7 @@ bool Engine::MultiplyGroups(std::size_t first) {
     if (HasNumberPowers(one) || HasNumberPowers(other)) {
         return ExpandPowers(HasNumberPowers(one) ? first : first + 1);
     }
-    CheckIndex(static_cast<int>(one.terms.size() * other.terms.size()),
-               static_cast<int>(kTopProduct) + 1);
+    CheckIndex(static_cast<int>(one.terms.size() * other.terms.size()), kTopProduct + 1);
     std::string products;
     for (const Term& left : one.terms) {
         for (const Term& right : other.terms) {

@@ -18,9 +18,6 @@ struct Ratio {
 /// A Single as text: whole numbers in full, others with the digits that a Single holds.
 std::string SingleValueText(float value);
 
-/// A power. 0 has none that is 0 or negative: Failure(DivisionByZero).
-double PowerOf(double base, float power);
-
 /// a/b in lowest terms, "a" over 1; "0" for a numerator of 0. Both are whole. Throws
 /// Failure(DivisionByZero) for a denominator of 0, Failure(Overflow) beyond 32 bits.
 std::string ReduceRatio(double a, double b);

@@ -167,8 +167,7 @@ class TableReader {
                 return;
             }
             if (opens) {
-                CheckIndex(static_cast<int>(tables.groups.size()),
-                           static_cast<int>(TermTables::kTopGroup));
+                CheckIndex(static_cast<int>(tables.groups.size()), TermTables::kTopGroup);
                 Open(at);
             } else {
                 Close(at);

@@ -56,8 +56,8 @@ struct Group {
 
 struct TermTables {
     static constexpr int kTopLevel = 20;
-    static constexpr std::size_t kTopGroup = 50;
-    static constexpr std::size_t kTopTerm = 100;
+    static constexpr int kTopGroup = 50;
+    static constexpr int kTopTerm = 100;
 
     int Depth = 0;
     std::vector<Group> groups;  ///< those at Depth, from the left; at least one

@@ -112,7 +112,7 @@ class Engine {
 
     // Factoring.
 
-    void SetEqualToZero();
+    /// Multiplies both sides by -1.
     void PrepareBothSides();
     /// Puts the current side into a bracket with a minus before it. The caller records the line.
     void NegateBothSides();
@@ -197,7 +197,11 @@ class Engine {
     std::vector<Term> TermsOf(int side) const;
     std::string SideText(int side) const;
     bool SolveForOther(const std::string& variable);
-    bool StateTruth(const std::string& variable, bool ownLine);
+    void SwapSides();
+    void AddToBothSides(const std::string& marks);
+    /// Where "no solutions" is told: in a line of its own, or in the place of the last one.
+    enum class TruthLine { Own, Last };
+    bool StateTruth(const std::string& variable, TruthLine line);
 
     // quadratics.cpp
     float FirstExponent() const;

@@ -92,24 +92,6 @@ bool Engine::SolveByFactoring(float exponent) {
     return false;
 }
 
-void Engine::SetEqualToZero() {
-    UseSide(1);
-    std::string marks;
-    for (const Term& term : TermsOf(1)) {
-        const std::string text = Written(term);
-        marks += term.Num == 0 ? ""
-                               : Text("[", term.Num < 0 ? "+" : "-",
-                                      text.substr(IsSign(text.substr(0, 1)) ? 1 : 0), "]");
-    }
-    Because("Set the polynomial equal to zero.", kOrdinaryStep);
-    SetText(Text(SideText(0), marks, "=", SideText(1), marks));
-    RecordStep();
-    CombineUntilStable(0);
-    UseSide(0);
-    CombineUntilStable(0);
-    RecordStep();
-}
-
 void Engine::NegateBothSides() {
     const SideRange range = RangeOfSide(tokens, Side);
     Because(Text("Solve for ", problem.typed.VarNames[1],

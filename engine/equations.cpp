@@ -59,7 +59,7 @@ std::vector<Term> Engine::TermsOf(int side) const {
         return tables.groups.front().terms;
     }
     TermTables read = BreakIntoTerms(tokens, side);
-    if (ReadsFirstExponents) {
+    if (firstExponents == FirstExponents::Told) {
         TellFirstExponents(read);
     }
     return read.groups.front().terms;

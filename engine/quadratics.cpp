@@ -65,6 +65,20 @@ std::string RootFactor(const std::string& letter, double root, const SplitNumber
     return Text("(+", NumberText(number.under), letter, root > 0 ? "-" : "+", number.over, ")");
 }
 
+/// What is left of a term inside the bracket.
+std::string FactoredTerm(const Problem& problem, const Term& term, int g, float least) {
+    const double value = static_cast<double>(term.Num) / g;
+    const std::string sign = value < 0 ? "-" : value > 0 ? "+" : "";
+    std::vector<LetterPower> letters = ReadLetters(term.NumText);
+    for (LetterPower& each : letters) {
+        each.exponent -= each.letter == problem.typed.VarNames[1] ? least : 0;
+    }
+    return Text(
+        sign,
+        NumberToFractionText(problem.settings, {std::fabs(value), static_cast<double>(term.Den)}),
+        LettersText(letters));
+}
+
 }  // namespace
 
 float Engine::FirstExponent() const {
@@ -160,25 +174,11 @@ bool Engine::FactorOutGcf(std::size_t group) {
     text += least > 0 ? Text(letter, "^", NumberText(static_cast<double>(least))) : "";
     text += "(";
     for (const Term& term : terms) {
-        text += FactoredTerm(term, g, least);
+        text += FactoredTerm(problem, term, g, least);
     }
     Because("  -  Factor out the GCF", kLightStep);
     ReplaceGroup(group, text + ")");
     return true;
-}
-
-/// What is left of a term inside the bracket.
-std::string Engine::FactoredTerm(const Term& term, int g, float least) const {
-    const double value = static_cast<double>(term.Num) / g;
-    const std::string sign = value < 0 ? "-" : value > 0 ? "+" : "";
-    std::vector<LetterPower> letters = ReadLetters(term.NumText);
-    for (LetterPower& each : letters) {
-        each.exponent -= each.letter == problem.typed.VarNames[1] ? least : 0;
-    }
-    return Text(
-        sign,
-        NumberToFractionText(problem.settings, {std::fabs(value), static_cast<double>(term.Den)}),
-        LettersText(letters));
 }
 
 bool Engine::FactorByRoots(std::size_t group) {

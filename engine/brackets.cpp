@@ -119,6 +119,9 @@ bool Engine::TurnWhatFollows(const Group& group) {
 }
 
 bool Engine::RemoveAbsolute(std::size_t group) {
+    if (!HasGroup(group)) {
+        return false;
+    }
     const Group& bars = GroupAt(group);
     if (!bars.IsAbsolute || bars.terms.size() != 1) {
         return false;

@@ -64,6 +64,9 @@ bool IsJoined(const Group& group, std::size_t term) {
 }  // namespace
 
 void Engine::CombineTerms(std::size_t group, NegativeExponents negatives, Record record) {
+    if (!HasGroup(group)) {
+        return;
+    }
     TermsChanged = false;
     if (negatives == NegativeExponents::Remove && tables.Depth == 0) {
         RemoveNegativeExponents(group);
@@ -142,6 +145,9 @@ void Engine::RecordSorted(std::size_t group, bool changed, Record record) {
 }
 
 std::string Engine::SortTerms(std::size_t group) const {
+    if (!HasGroup(group)) {
+        return "";
+    }
     const std::vector<Term>& terms = GroupAt(group).terms;
     std::vector<const Term*> order;
     order.reserve(terms.size());

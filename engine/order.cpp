@@ -222,9 +222,7 @@ void Engine::CombineUntilStable(std::size_t group, NegativeExponents negatives) 
         if (HasGroup(group) && GroupAt(group).ProductMark && !HoldsRoot()) {
             MultiplyPass(group);
         }
-        if (HasGroup(group)) {
-            CombineTerms(group, negatives, roots ? Record::OnlyIfChanged : Record::Line);
-        }
+        CombineTerms(group, negatives, roots ? Record::OnlyIfChanged : Record::Line);
         if (IsSumOfFractions(group)) {
             FractionArithmetic(group);
             break;

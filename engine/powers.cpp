@@ -112,9 +112,6 @@ ExpandedTerm Expanded(const Term& term) {
 }  // namespace
 
 bool Engine::ExpandPowers(std::size_t group) {
-    if (!HasGroup(group)) {
-        return false;
-    }
     const int depth = tables.Depth;
     if (!ExpandConstantTerms(group)) {
         return false;
@@ -136,6 +133,9 @@ bool Engine::ExpandPowers(std::size_t group) {
 }
 
 bool Engine::ExpandConstantTerms(std::size_t group) {
+    if (!HasGroup(group)) {
+        return false;
+    }
     const Group& all = GroupAt(group);
     if (std::none_of(all.terms.begin(), all.terms.end(), HasNumberPower)) {
         return false;
@@ -175,11 +175,11 @@ bool Engine::ExpandFrontPower(std::size_t group) {
 }
 
 bool Engine::ExpandPower(std::size_t group) {
-    const Group& base = GroupAt(group);
-    const std::size_t open = base.begin - 1;
-    if (base.Power == 1) {
+    if (!HasGroup(group) || GroupAt(group).Power == 1) {
         return false;
     }
+    const Group& base = GroupAt(group);
+    const std::size_t open = base.begin - 1;
     if (base.Power < 0 && base.terms.size() == 1 && base.terms.front().numOver == 0) {
         throw Failure(FailureKind::DivisionByZero);
     }

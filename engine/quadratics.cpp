@@ -134,6 +134,9 @@ void Engine::PrepareBothSides() {
 }
 
 bool Engine::FactorExpression(std::size_t group, bool withGcf) {
+    if (!HasGroup(group)) {
+        return false;
+    }
     problem.log.StepLevel = kLightStep;
     const std::vector<Term>& terms = GroupAt(group).terms;
     if (!withGcf && !terms.empty() && terms.front().FirstExponent == 2) {

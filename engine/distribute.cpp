@@ -103,7 +103,7 @@ bool Engine::ReduceFront(std::size_t group) {
     const Term& front = *factor.front;
     const double over = front.numOver;
     const double under = front.numUnder;
-    if (under == 1 || over == 0 || over != std::trunc(over) || under != std::trunc(under)) {
+    if (under == 1 || over == 0 || !IsWhole(over) || !IsWhole(under)) {
         return false;
     }
     const std::string reduced = ReduceRatio(over, under);

@@ -21,16 +21,11 @@ Ratio RatioOf(const Term& term) {
     return {static_cast<double>(term.Num), static_cast<double>(term.Den)};
 }
 
-/// Singles, as all sums of rows are.
+/// Singles, as all sums of rows are. What has decimals stands over 1.
 Ratio Sum(const Ratio& one, const Ratio& other) {
     const auto single = [](double value) { return static_cast<double>(ToSingle(value)); };
     if (one.under == 1 && other.under == 1) {
         return {single(one.over + other.over), 1};
-    }
-    const bool whole =
-        IsWhole(one.over) && IsWhole(one.under) && IsWhole(other.over) && IsWhole(other.under);
-    if (!whole) {
-        return {single(Divide(one.over, one.under) + Divide(other.over, other.under)), 1};
     }
     const double over = one.over * other.under + other.over * one.under;
     const double under = one.under * other.under;

@@ -26,7 +26,8 @@ std::string ReduceRatio(double a, double b);
 double ReducedBy(double a, std::string_view reduced);
 
 /// The first whole number from 1 up whose product with the positive value is whole to 4 places, as
-/// far as a Single tells. At most 20001.
+/// far as a Single tells. At most 20000: of so many multiples two lie within 1/20000 of each other,
+/// but for whole numbers.
 int FirstDenominator(float value);
 
 /// The ratio as text. In fraction mode in lowest terms, decimals as the fraction of

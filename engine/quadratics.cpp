@@ -223,15 +223,11 @@ void Engine::FactorQuadratic(const std::string& variable) {
         return;
     }
     const std::array<double, 2> roots = RootsOf(quadratic);
-    const int detail = problem.settings.DetailLevel;
     constexpr int kFullDetail = 3;
-    if (detail >= kFullDetail) {
+    if (problem.settings.DetailLevel >= kFullDetail) {
         log.StepReason = "  -  quadratic equation";
         log.Write(Text(variable, "=#-b\\~b^2^-4ac~/2a# for a", variable, "^2^+b", variable, "+c=0"),
                   log.StepReason);
-    }
-    if (detail >= 2) {
-        log.StepReason = "  -  substitute Values";
     }
     log.StepReason = "  -  solve";
     std::string factors;
@@ -243,7 +239,6 @@ void Engine::FactorQuadratic(const std::string& variable) {
     }
     SetText(factors + "=0");
     RecordStep();
-    log.StepReason = "  -  solve";
     SetText(Text(variable, "=", solutions));
     RecordStep();
 }

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <numeric>
+#include <utility>
 
 #include "core/failure.h"
 #include "core/number.h"
@@ -43,6 +44,9 @@ std::string_view SignOf(double value) {
 }
 
 bool HasZeroPower(std::string_view text) {
+    if (text.find('^') == std::string_view::npos) {
+        return false;
+    }
     const std::vector<LetterPower> letters = ReadLetters(text);
     return std::any_of(letters.begin(), letters.end(),
                        [](const LetterPower& each) { return each.exponent == 0; });
@@ -94,7 +98,7 @@ void LikeTerms::Keep(const std::string& written) {
     LikeRow row;
     row.written = written;
     row.merges = false;
-    letters.push_back(row);
+    letters.push_back(std::move(row));
 }
 
 std::string LikeTerms::Shown(std::string_view text) const {
@@ -122,9 +126,9 @@ void LikeTerms::PutInPlace(const Term& term, const std::string& coefficient) {
     row.written =
         TermText(SignOf(static_cast<double>(term.Num)), coefficient, term.NumText, term.DenText);
     if (IsConstant(term)) {
-        constants.push_back(row);
+        constants.push_back(std::move(row));
     } else {
-        AddRow(row);
+        AddRow(std::move(row));
     }
 }
 
@@ -232,7 +236,7 @@ void LikeTerms::TakeConstant(const Term& term, const std::string& written) {
     if (row.merges && other != constants.end()) {
         Merge(*other, term);
     } else {
-        constants.push_back(row);
+        constants.push_back(std::move(row));
     }
 }
 
@@ -246,7 +250,7 @@ void LikeTerms::TakeLetters(const Term& term, const std::string& written) {
     if (like != letters.end()) {
         Merge(*like, term);
     } else {
-        AddRow(row);
+        AddRow(std::move(row));
     }
 }
 

@@ -139,6 +139,7 @@ bool Engine::StateTruth(const std::string& variable, TruthLine line) {
         log.StepCount = std::max(log.StepCount, kSecondLine);
     }
     UseSide(1);
+    // The problem itself when no step has been shown since, as none is for 0x=3: kept as it is.
     log.StepText[log.StepCount - 1] = Text(left, "$", right);
     log.StepNote[log.StepCount - 1] =
         Text("Since ", left, " does not equal ", right, ", this equation has no solutions.");

@@ -41,24 +41,34 @@ void TellRefusedKeys(const Json& refused, std::ostream& err) {
     }
 }
 
-/// The log's first line is the problem; without a log it is what was typed.
+void PrintReason(const Json& line, std::ostream& out) {
+    constexpr std::size_t kReasonColumn = 7;
+    const std::string note = String(line, "note");
+    if (!note.empty()) {
+        out << std::string(kReasonColumn, ' ') << note << '\n';
+    }
+}
+
+/// The log's first line is the problem; without a log it is what was typed. It has a reason where
+/// nothing else is left to say, as for 3=3.
 void PrintProblem(const Json& answer, std::ostream& out) {
     const Json& lines = answer.at("lines");
     const std::string problem =
         lines.empty() ? String(answer, "problem") : String(lines.front(), "text");
-    if (!problem.empty()) {
-        out << problem << "\n\n";
+    if (problem.empty()) {
+        return;
     }
+    out << problem << '\n';
+    if (!lines.empty()) {
+        PrintReason(lines.front(), out);
+    }
+    out << '\n';
 }
 
 void PrintSteps(const Json& lines, std::ostream& out) {
-    constexpr std::size_t kReasonColumn = 7;
     for (std::size_t i = 1; i < lines.size(); ++i) {
         out << std::setw(2) << i << ". " << String(lines[i], "text") << '\n';
-        const std::string note = String(lines[i], "note");
-        if (!note.empty()) {
-            out << std::string(kReasonColumn, ' ') << note << '\n';
-        }
+        PrintReason(lines[i], out);
     }
 }
 

@@ -64,6 +64,9 @@ bool IsJoined(const Group& group, std::size_t term) {
 }  // namespace
 
 void Engine::CombineTerms(std::size_t group, NegativeExponents negatives, Record record) {
+    if (!HasGroup(group)) {
+        return;
+    }
     TermsChanged = false;
     if (negatives == NegativeExponents::Remove && tables.Depth == 0) {
         RemoveNegativeExponents(group);
@@ -78,12 +81,9 @@ void Engine::CombineTerms(std::size_t group, NegativeExponents negatives, Record
             like.Take(all.terms[i], written);
         }
     }
-    Because(CombiningReason(), problem.log.StepLevel);
+    Because(like.Reason().empty() ? CombiningReason() : like.Reason(), problem.log.StepLevel);
     const bool changed = like.IsChanged();
     TermsChanged = changed;
-    if (!like.Reason().empty()) {
-        problem.log.StepReason = like.Reason();
-    }
     if (changed) {
         ReplaceGroup(group, like.GroupText());
     } else if (Holds("[")) {
@@ -93,10 +93,10 @@ void Engine::CombineTerms(std::size_t group, NegativeExponents negatives, Record
 }
 
 /// The reason of a change that has no other.
-std::string Engine::CombiningReason() const {
+std::string_view Engine::CombiningReason() const {
     return HoldsRoot() ? "Simplfy the square roots by removing any perfect squares from under the "
                          "radical."
-                       : std::string(kReorderReason);
+                       : kReorderReason;
 }
 
 /// In a sum of numbers outside brackets the fractions are left to their common denominator.
@@ -118,7 +118,6 @@ void Engine::RecordSorted(std::size_t group, bool changed, Record record) {
         RecordStep(record);
         return;
     }
-    const std::string reason = problem.log.StepReason;
     RecordStep(Record::Refresh);
     const std::string sorted = SortTerms(group);
     const Group& all = GroupAt(group);
@@ -131,6 +130,7 @@ void Engine::RecordSorted(std::size_t group, bool changed, Record record) {
         RecordStep(record);
         return;
     }
+    const std::string reason = problem.log.StepReason;
     if (changed) {
         RecordStep(record);
     }
@@ -145,6 +145,9 @@ void Engine::RecordSorted(std::size_t group, bool changed, Record record) {
 }
 
 std::string Engine::SortTerms(std::size_t group) const {
+    if (!HasGroup(group)) {
+        return "";
+    }
     const std::vector<Term>& terms = GroupAt(group).terms;
     std::vector<const Term*> order;
     order.reserve(terms.size());

@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <optional>
 
 #include "core/number.h"
 #include "engine/number_forms.h"
@@ -11,7 +10,6 @@ namespace numerello {
 namespace {
 
 constexpr int kPlaces = 4;
-constexpr int kLastDenominator = 20001;
 constexpr int kSingleBits = 24;
 
 /// Whether the multiple counts as a whole number.
@@ -19,16 +17,13 @@ bool IsNearWhole(double multiple) {
     return static_cast<double>(ToSingle(Round(multiple, kPlaces))) == Round(multiple, 0);
 }
 
-/// The least k from 0 up for which low <= step * k mod modulus <= high; 0 <= low <= high < modulus.
-/// A Euclidean descent: whether the steps meet the interval is asked of the remainders that
-/// `modulus` leaves among the steps.
-std::optional<std::int64_t> FirstInside(std::int64_t step, std::int64_t modulus, std::int64_t low,
-                                        std::int64_t high) {
+/// The least k from 0 up for which low <= step * k mod modulus <= high; 0 <= low <= high < modulus,
+/// and there is one. A Euclidean descent: whether the steps meet the interval is asked of the
+/// remainders that `modulus` leaves among the steps.
+std::int64_t FirstInside(std::int64_t step, std::int64_t modulus, std::int64_t low,
+                         std::int64_t high) {
     if (low == 0) {
         return 0;
-    }
-    if (step == 0) {
-        return std::nullopt;
     }
     const std::int64_t direct = (low + step - 1) / step;
     if (step * direct <= high) {
@@ -36,11 +31,8 @@ std::optional<std::int64_t> FirstInside(std::int64_t step, std::int64_t modulus,
     }
     const std::int64_t turnedLow = (step - high % step) % step;
     const std::int64_t turnedHigh = (step - low % step) % step;
-    const auto turns = FirstInside(modulus % step, step, turnedLow, turnedHigh);
-    if (!turns || *turns > kLastDenominator) {
-        return std::nullopt;
-    }
-    return (low + modulus * *turns + step - 1) / step;
+    const std::int64_t turns = FirstInside(modulus % step, step, turnedLow, turnedHigh);
+    return (low + modulus * turns + step - 1) / step;
 }
 
 /// The fractional part of a Single's multiples, in whole steps of its last bit.
@@ -66,8 +58,7 @@ class Multiples {
         if (high >= one) {
             return from;
         }
-        const auto further = FirstInside(step, one, low, high);
-        return further ? from + *further : kLastDenominator;
+        return from + FirstInside(step, one, low, high);
     }
 
   private:
@@ -94,7 +85,7 @@ int FirstDenominator(float value) {
     }
     const Multiples multiples(value);
     std::int64_t d = 2;
-    while (d < kLastDenominator) {
+    while (true) {
         const int exponent = std::ilogb(exact * static_cast<double>(d));
         const double octaveEnd = std::ldexp(1.0, exponent + 1) / exact;
         const std::int64_t next = multiples.FirstNear(d, Tolerance(exponent));
@@ -106,7 +97,6 @@ int FirstDenominator(float value) {
             d = next + 1;
         }
     }
-    return kLastDenominator;
 }
 
 }  // namespace numerello

@@ -93,6 +93,9 @@ std::string DisplayText(const Tokens& tokens, int ProblemType) {
 }
 
 std::string ShownText(std::string_view text, int ProblemType) {
+    if (text.find_first_not_of("0123456789") == std::string_view::npos) {
+        return std::string(text);
+    }
     return DisplayText(MergeNumberTokens(TextToTokens(text), ProblemType), ProblemType);
 }
 

@@ -16,7 +16,7 @@ namespace numerello {
 
 namespace {
 
-constexpr std::size_t kTopProduct = 100;
+constexpr int kTopProduct = 100;
 
 bool HasNumberPowers(const Group& group) {
     return std::any_of(group.terms.begin(), group.terms.end(), HasNumberPower);
@@ -103,7 +103,7 @@ bool Engine::ReduceFront(std::size_t group) {
     const Term& front = *factor.front;
     const double over = front.numOver;
     const double under = front.numUnder;
-    if (under == 1 || over == 0 || over != std::trunc(over) || under != std::trunc(under)) {
+    if (under == 1 || over == 0 || !IsWhole(over) || !IsWhole(under)) {
         return false;
     }
     const std::string reduced = ReduceRatio(over, under);
@@ -132,8 +132,7 @@ bool Engine::MultiplyGroups(std::size_t first) {
     if (HasNumberPowers(one) || HasNumberPowers(other)) {
         return ExpandPowers(HasNumberPowers(one) ? first : first + 1);
     }
-    CheckIndex(static_cast<int>(one.terms.size() * other.terms.size()),
-               static_cast<int>(kTopProduct) + 1);
+    CheckIndex(static_cast<int>(one.terms.size() * other.terms.size()), kTopProduct + 1);
     std::string products;
     for (const Term& left : one.terms) {
         for (const Term& right : other.terms) {

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/learner.h"
 #include "core/problem.h"
@@ -17,13 +18,20 @@ namespace numerello {
 /// and RecordStep makes a line of the step log of it. Between two passes an expression exists only
 /// as its tokens.
 ///
-/// Groups are counted from 0 and lie at the deepest bracket level of the current Side. A pass on a
-/// group that no longer exists does nothing. All passes throw the Failures of the arithmetic in
-/// them, and Failure(Format) past a bound of the tables or of the log.
+/// Groups are counted from 0 and lie at the deepest bracket level of the side in work; there is
+/// always a group 0. A pass on a group that does not exist, or no longer, does nothing. A pass that
+/// returns a bool tells whether it rewrote the line. It records what it rewrites, unless its
+/// comment leaves that to the caller. All passes throw the Failures of the arithmetic in them, and
+/// Failure(Format) past a bound of the tables or of the log.
 class Engine {
   public:
+    /// Whether the terms tell the exponent of their first letter. Untold, as ever: equations of a
+    /// higher degree are worked like linear ones.
+    enum class FirstExponents { Untold, Told };
+
     /// The problem must outlive the engine.
-    explicit Engine(Problem& problem) : problem(problem) {}
+    explicit Engine(Problem& problem, FirstExponents firstExponents = FirstExponents::Untold)
+        : problem(problem), firstExponents(firstExponents) {}
 
     /// Takes the typed problem over and records it as the first line. Throws
     /// Failure(DivisionByZero) for a literal division by 0.
@@ -44,35 +52,41 @@ class Engine {
     /// one. StepUnchanged then tells whether it did not.
     void RecordStep(Record record = Record::Line);
 
-    // The order of rewriting.
+    const TermTables& Tables() const { return tables; }
+    const Tokens& Line() const { return tokens; }
+
+    // The order of rewriting: what runs the passes below until an expression is worked.
+
+    /// For any expression without an "=": brackets from the deepest level outward.
+    void SimplifyExpression();
+    /// For sums with brackets and without products.
+    void SimplifyLight();
 
     /// Whether combining moves factors with negative exponents to the other side of the line.
     enum class NegativeExponents { Remove, Keep };
 
-    void SimplifyExpression();
-    /// For sums with brackets and without products.
-    void SimplifyLight();
     /// Repeats CombineTerms until nothing changes; sums of fractions go over a common denominator.
     void CombineUntilStable(std::size_t group,
                             NegativeExponents negatives = NegativeExponents::Remove);
 
     // Like terms.
 
+    /// Puts the like terms of a group together, all in one line.
     void CombineTerms(std::size_t group, NegativeExponents negatives, Record record);
     /// The group's text with its terms in decreasing order of their first letter's exponent.
     std::string SortTerms(std::size_t group) const;
 
     // Products.
 
-    /// Works all written products of a group, then what they leave. False without any.
+    /// Works all written products of a group, then what they leave.
     bool MultiplyPass(std::size_t group);
-    /// Works the first written product of a group into one term and records the line. False when
-    /// the group holds none.
+    /// Works the first written product of a group into one term.
     bool MultiplyPair(std::size_t group);
     /// Puts the factor behind a bracket into a bracket of its own: "(2+3)*4" becomes "(2+3)(4)".
     bool ReorderFactor(std::size_t group);
+    /// Multiplies the factor in front into the bracket, powers first. The caller records the line.
     bool DistributeFront(std::size_t group);
-    /// Multiplies two touching brackets term by term.
+    /// Multiplies a bracket term by term with the one that touches it. The caller records the line.
     bool MultiplyGroups(std::size_t first);
 
     // Brackets and bars.
@@ -80,20 +94,27 @@ class Engine {
     /// Takes one pair away where that is safe. The caller records the line; bars that go record
     /// theirs.
     bool RemoveParens();
+    /// Takes bars around one term away.
     bool RemoveAbsolute(std::size_t group);
 
     // Powers and roots.
 
+    /// Writes the powers of numbers in a group as products and works these.
     bool ExpandPowers(std::size_t group);
+    /// Writes the powers of numbers in a group as products: "3^2" becomes "3*3".
     bool ExpandConstantTerms(std::size_t group);
+    /// The same for the factor in front of a bracket.
     bool ExpandFrontPower(std::size_t group);
     /// Writes a bracket with a power as that many brackets. The caller records the line.
     bool ExpandPower(std::size_t group);
+    /// Works a sum of roots and of products of roots.
     void RootSequence();
+    /// Takes the squares out of all roots.
     void SimplifyRoots();
 
     // Sums and products of fractions.
 
+    /// Works a group of fractions, its products and quotients first.
     void FractionArithmetic(std::size_t group);
 
     // Equations.
@@ -102,17 +123,20 @@ class Engine {
     void SimplifyBothSides();
     /// Works a simplified equation for a letter. True when a solution stands in the last line.
     bool SolveFor(const std::string& variable);
-    /// Takes what has not the letter away from both sides.
+    /// Takes what has not the letter away from both sides, or swaps them.
     bool MoveTermsLeft(const std::string& variable);
-    /// Takes what has the letter on the right away from both sides, or swaps the sides.
+    /// Takes what has the letter on the right away from both sides, or swaps them.
     bool MoveTermsRight(const std::string& variable);
+    /// Takes the right side away from both sides.
+    void SetEqualToZero();
+    /// Shows every term over the divisor, which is not 0, and goes on with the quotients.
     void DivideBothSides(const std::string& variable, const Ratio& divisor);
     /// The terms of both sides for graphing: "+1/1y^+1=+2/1x+3/1" but for unit exponents.
     std::string SideToPlainText() const;
 
     // Factoring.
 
-    void SetEqualToZero();
+    /// Multiplies both sides by -1.
     void PrepareBothSides();
     /// Puts the current side into a bracket with a minus before it. The caller records the line.
     void NegateBothSides();
@@ -126,19 +150,11 @@ class Engine {
 
     /// Asks for the value of each letter and puts it in its place.
     void EvaluateBySubstitution(Learner& learner);
+    /// The same between two simplifications.
     void EvaluateTopic(Learner& learner);
 
     /// Writes a number or a product as powers of its prime factors.
     void PowerNotationTopic();
-
-    const TermTables& Tables() const { return tables; }
-    const Tokens& Line() const { return tokens; }
-
-    /// Whether the terms tell the exponent of their first letter. Off, as ever: equations of a
-    /// higher degree are worked like linear ones.
-    bool ReadsFirstExponents = false;
-    int Side = 0;               ///< whose tables are read: 0 left, 1 right of the "="
-    bool TermsChanged = false;  ///< terms were merged since the last record
 
   private:
     // Reading the line.
@@ -154,7 +170,7 @@ class Engine {
     // Composing the next one.
     void ReplaceBetween(std::size_t begin, std::size_t end, std::string_view text);
     void ReplaceGroup(std::size_t group, std::string_view text);
-    void Because(std::string reason, int level);
+    void Because(std::string_view reason, int level);
 
     void ReadLine();
     const std::string& ShownLine();
@@ -176,14 +192,14 @@ class Engine {
 
     // combining.cpp
     void RemoveNegativeExponents(std::size_t group);
-    std::string CombiningReason() const;
+    std::string_view CombiningReason() const;
     bool KeepsFractions(const Group& group) const;
     void RecordSorted(std::size_t group, bool changed, Record record);
 
     // brackets.cpp
     bool RemoveBars();
+    bool MayGo(const Group& pair) const;
     bool TakeParensAway(std::size_t group);
-    std::size_t EndOfDivisor(std::size_t begin) const;
     bool TurnWhatFollows(const Group& group);
 
     // distribute.cpp
@@ -197,32 +213,22 @@ class Engine {
     std::vector<Term> TermsOf(int side) const;
     std::string SideText(int side) const;
     bool SolveForOther(const std::string& variable);
-    bool StateTruth(const std::string& variable, bool ownLine);
+    void SwapSides();
+    void AddToBothSides(const std::string& marks);
+    /// Where "no solutions" is told: in a line of its own, or in the place of the last one.
+    enum class TruthLine { Own, Last };
+    bool StateTruth(const std::string& variable, TruthLine line);
 
     // quadratics.cpp
     float FirstExponent() const;
     bool SolveByFactoring(float exponent);
     bool FactorOutGcf(std::size_t group);
-    std::string FactoredTerm(const Term& term, int g, float least) const;
     bool FactorByRoots(std::size_t group);
 
     // roots.cpp
     bool SimplifyRoot(const Term& root);
 
     // fraction_arithmetic.cpp
-    /// A sum brought to its least common denominator, as its lines show it.
-    struct LcdSum {
-        std::string lcd;
-        std::string denominators;
-        std::string shown;       ///< each fraction times what raises it
-        std::string values;      ///< the raised fractions
-        std::string numerators;  ///< theirs
-        std::string example;
-        double n = 0;  ///< the sum of the numerators
-    };
-    static LcdSum SumOverLcd(const std::vector<Term>& terms);
-    template <class Test>
-    bool AnyInside(std::size_t group, Test test) const;
     void MultiplyFractions(std::size_t group);
     bool MultiplyFractionPair(std::size_t group);
     void CombineCommonDenominators(std::size_t group);
@@ -233,11 +239,14 @@ class Engine {
     void CombineOverLcd(std::size_t group);
 
     Problem& problem;
+    FirstExponents firstExponents;
     Tokens tokens;
     TermTables tables;
-    bool isRead = false;   ///< the tables are those of the tokens
-    int readSide = 0;      ///< and of this side
-    std::string lineText;  ///< the tokens joined, once they are read
+    int Side = 0;               ///< whose tables are read: 0 left, 1 right of the "="
+    bool TermsChanged = false;  ///< the last combining did something
+    bool isRead = false;        ///< the tables are those of the tokens
+    int readSide = 0;           ///< and of this side
+    std::string lineText;       ///< the tokens joined, once they are read
     std::optional<std::string> shownLine;
     /// What the last combining left as it was.
     struct Settled {

@@ -2,7 +2,6 @@
 #include <cmath>
 #include <string>
 
-#include "core/number.h"
 #include "core/text.h"
 #include "engine/engine.h"
 #include "engine/number_forms.h"
@@ -28,11 +27,12 @@ std::string TakenAway(const Term& term) {
     return Text("[", term.Num < 0 ? "+" : "-", MagnitudeText(term), "]");
 }
 
-/// All terms with the letter, or all without it, taken away. A zero needs no taking.
-std::string TakenAway(const std::vector<Term>& terms, const std::string& letter, bool withLetter) {
+/// All terms that are to go, taken away. A zero needs no taking.
+template <class Goes>
+std::string TakenAway(const std::vector<Term>& terms, Goes goes) {
     std::string marks;
     for (const Term& term : terms) {
-        if (HasLetter(term, letter) == withLetter && term.Num != 0) {
+        if (term.Num != 0 && goes(term)) {
             marks += TakenAway(term);
         }
     }
@@ -59,7 +59,7 @@ std::vector<Term> Engine::TermsOf(int side) const {
         return tables.groups.front().terms;
     }
     TermTables read = BreakIntoTerms(tokens, side);
-    if (ReadsFirstExponents) {
+    if (firstExponents == FirstExponents::Told) {
         TellFirstExponents(read);
     }
     return read.groups.front().terms;
@@ -72,7 +72,7 @@ std::string Engine::SideText(int side) const {
 
 bool Engine::SolveFor(const std::string& variable) {
     if (problem.typed.VarCount < 2) {
-        return StateTruth("x", true);
+        return StateTruth("x", TruthLine::Own);
     }
     if (const float exponent = FirstExponent(); exponent >= 2) {
         return SolveByFactoring(exponent);
@@ -102,7 +102,7 @@ bool Engine::SolveFor(const std::string& variable) {
         RecordStep();
         return true;
     }
-    return letterLeft ? SolveForOther(variable) : StateTruth(variable, false);
+    return letterLeft ? SolveForOther(variable) : StateTruth(variable, TruthLine::Last);
 }
 
 /// The letter asked for has gone; another one has not.
@@ -119,7 +119,7 @@ bool Engine::SolveForOther(const std::string& variable) {
 }
 
 /// Without letters an equation holds always or never.
-bool Engine::StateTruth(const std::string& variable, bool ownLine) {
+bool Engine::StateTruth(const std::string& variable, TruthLine line) {
     StepLog& log = problem.log;
     const auto value = [this](int side) {
         const std::vector<Term> terms = TermsOf(side);
@@ -134,15 +134,26 @@ bool Engine::StateTruth(const std::string& variable, bool ownLine) {
         log.StepNote[log.StepCount - 1] = log.StepReason;
         return false;
     }
-    if (ownLine) {
+    if (line == TruthLine::Own) {
         constexpr int kSecondLine = 3;
         log.StepCount = std::max(log.StepCount, kSecondLine);
     }
     UseSide(1);
+    // The problem itself when no step has been shown since, as none is for 0x=3: kept as it is.
     log.StepText[log.StepCount - 1] = Text(left, "$", right);
     log.StepNote[log.StepCount - 1] =
         Text("Since ", left, " does not equal ", right, ", this equation has no solutions.");
     return false;
+}
+
+void Engine::SwapSides() {
+    SetText(Text(SideText(1), "=", SideText(0)));
+    RecordStep();
+}
+
+void Engine::AddToBothSides(const std::string& marks) {
+    SetText(Text(SideText(0), marks, "=", SideText(1), marks));
+    RecordStep();
 }
 
 bool Engine::MoveTermsLeft(const std::string& variable) {
@@ -156,19 +167,18 @@ bool Engine::MoveTermsLeft(const std::string& variable) {
                      " is on the left hand side.  This step is not required but make the answer "
                      "easier to see."),
                 kOrdinaryStep);
-        SetText(Text(SideText(1), "=", SideText(0)));
-        RecordStep();
+        SwapSides();
         return true;
     }
-    const std::string marks = TakenAway(left, variable, false);
+    const std::string marks =
+        TakenAway(left, [&variable](const Term& term) { return !HasLetter(term, variable); });
     if (marks.empty()) {
         return false;
     }
     Because(Text("Solve the left-hand side of the equation for [", variable,
                  "] by moving all terms not containing [", variable, "] to the right-hand side."),
             kOrdinaryStep);
-    SetText(Text(SideText(0), marks, "=", SideText(1), marks));
-    RecordStep();
+    AddToBothSides(marks);
     return true;
 }
 
@@ -180,20 +190,30 @@ bool Engine::MoveTermsRight(const std::string& variable) {
     if (!AnyHasLetter(TermsOf(0), variable)) {
         Because(Text("Reorder the equation so that the ", variable, " is on the left hand side."),
                 kFineStep);
-        SetText(Text(SideText(1), "=", SideText(0)));
-        RecordStep();
+        SwapSides();
         return true;
     }
-    const std::string marks = TakenAway(right, variable, true);
+    const std::string marks =
+        TakenAway(right, [&variable](const Term& term) { return HasLetter(term, variable); });
     if (marks.empty()) {
         return false;
     }
     Because(Text("Solve the right-hand side of the equation for [", variable,
                  "] by moving all terms containing [", variable, "] to the left-hand side."),
             kFineStep);
-    SetText(Text(SideText(0), marks, "=", SideText(1), marks));
-    RecordStep();
+    AddToBothSides(marks);
     return true;
+}
+
+void Engine::SetEqualToZero() {
+    UseSide(1);
+    const std::string marks = TakenAway(TermsOf(1), [](const Term&) { return true; });
+    Because("Set the polynomial equal to zero.", kOrdinaryStep);
+    AddToBothSides(marks);
+    CombineUntilStable(0);
+    UseSide(0);
+    CombineUntilStable(0);
+    RecordStep();
 }
 
 /// Shows every term over the divisor and goes on with the quotients.

@@ -35,18 +35,65 @@ Ratio ReadFraction(std::string_view token) {
             slash == std::string_view::npos ? 1 : ToNumber(token.substr(slash + 1))};
 }
 
+/// Whether a token between the group's ends passes the test.
+template <class Test>
+bool AnyInside(const Tokens& tokens, const Group& group, Test test) {
+    return std::any_of(tokens.begin() + static_cast<std::ptrdiff_t>(group.begin),
+                       tokens.begin() + static_cast<std::ptrdiff_t>(group.end), test);
+}
+
+/// A sum brought to its least common denominator, as its lines show it.
+struct LcdSum {
+    std::string lcd;
+    std::string denominators;
+    std::string shown;       ///< each fraction times what raises it
+    std::string values;      ///< the raised fractions
+    std::string numerators;  ///< theirs
+    std::string example;
+    double n = 0;  ///< the sum of the numerators
+};
+
+LcdSum SumOverLcd(const std::vector<Term>& terms) {
+    LcdSum sum;
+    std::vector<double> unders;
+    for (const Term& term : terms) {
+        unders.push_back(term.numUnder);
+        sum.denominators += sum.denominators.empty() ? "" : ",";
+        sum.denominators += NumberText(term.numUnder);
+    }
+    sum.lcd = LeastCommonMultipleText(unders);
+    const double common = ToNumber(sum.lcd);
+    for (const Term& term : terms) {
+        const double m = Divide(common, term.numUnder);
+        const double over = Checked(term.numOver * m);
+        const std::string fraction = RatioText(term.numOver, term.numUnder);
+        const std::string raised = RatioText(over, common);
+        sum.shown += Text(term.OpMark, fraction, "*[", RatioText(m, m), "]");
+        sum.values += term.OpMark + raised;
+        sum.numerators += term.OpMark + NumberText(over);
+        sum.n += term.OpMark == "-" ? -over : over;
+        if (sum.example.empty()) {
+            sum.example = Text(fraction, "#=#", raised);
+        }
+    }
+    return sum;
+}
+
 }  // namespace
 
 void Engine::FractionArithmetic(std::size_t group) {
-    const bool product = AnyInside(group, IsProductMark);
+    if (!HasGroup(group)) {
+        return;
+    }
+    const auto holds = [this, group](auto test) { return AnyInside(tokens, GroupAt(group), test); };
+    const bool product = holds(IsProductMark);
     if (!product) {
         CombineCommonDenominators(group);
         ReduceAndDropZeros(group);
     }
-    const bool decimals =
-        AnyInside(group, [](const std::string& token) { return HasPoint(token); });
-    const bool fractions = AnyInside(
-        group, [](const std::string& token) { return token.find('/') != std::string::npos; });
+    const bool decimals = holds([](const std::string& token) { return HasPoint(token); });
+    const bool fractions =
+        holds([](const std::string& token) { return token.find('/') != std::string::npos; });
     const std::size_t terms = GroupAt(group).terms.size();
     if (!problem.settings.UseFractions || !fractions || decimals || (!product && terms == 1)) {
         if (terms > 1) {
@@ -55,7 +102,7 @@ void Engine::FractionArithmetic(std::size_t group) {
         return;
     }
     MultiplyFractions(group);
-    if (AnyInside(group, IsProductMark)) {
+    if (holds(IsProductMark)) {
         return;
     }
     if (GroupAt(group).terms.size() > 1) {
@@ -67,13 +114,6 @@ void Engine::FractionArithmetic(std::size_t group) {
     }
 }
 
-template <class Test>
-bool Engine::AnyInside(std::size_t group, Test test) const {
-    const Group& all = GroupAt(group);
-    return std::any_of(tokens.begin() + static_cast<std::ptrdiff_t>(all.begin),
-                       tokens.begin() + static_cast<std::ptrdiff_t>(all.end), test);
-}
-
 /// Works products and quotients of fractions from the left, one a line. A single fraction that is
 /// left comes to lowest terms.
 void Engine::MultiplyFractions(std::size_t group) {
@@ -83,7 +123,7 @@ void Engine::MultiplyFractions(std::size_t group) {
         found = true;
     }
     const Group& all = GroupAt(group);
-    if (found && all.terms.size() == 1 && !AnyInside(group, IsProductMark)) {
+    if (found && all.terms.size() == 1 && !AnyInside(tokens, all, IsProductMark)) {
         Because("Simplify the fraction.", kFineStep);
         ReplaceGroup(group, ReducedTerm(all.terms.front()));
         RecordStep();
@@ -107,7 +147,7 @@ bool Engine::MultiplyFractionPair(std::size_t group) {
         throw Failure(FailureKind::DivisionByZero);
     }
     if (divides) {
-        Because(std::string(kFlipReason), kFineStep);
+        Because(kFlipReason, kFineStep);
         ReplaceBetween(
             at - 1, at + 2,
             Text(RatioText(left.over, left.under), "*", RatioText(right.under, right.over)));
@@ -202,7 +242,7 @@ void Engine::ReduceAndDropZeros(std::size_t group) {
     if (text == WithoutEmphasis(TextBetween(tokens, all.begin, all.end))) {
         return;
     }
-    Because(std::string(zeros ? kZeroDividedReason : "Reduce fractions."), kFineStep);
+    Because(zeros ? kZeroDividedReason : "Reduce fractions.", kFineStep);
     ReplaceGroup(group, text.empty() ? "+0" : text);
     RecordStep();
 }
@@ -212,8 +252,8 @@ void Engine::CombineOverLcd(std::size_t group) {
     const std::vector<Term> terms = GroupAt(group).terms;
     const std::string before = TextBetween(tokens, 0, GroupAt(group).begin);
     const std::string after = TextBetween(tokens, GroupAt(group).end, tokens.size());
-    const auto write = [&](std::string_view text, std::string reason, int level) {
-        Because(std::move(reason), level);
+    const auto write = [&](std::string_view text, std::string_view reason, int level) {
+        Because(reason, level);
         SetText(Text(before, text, after));
         RecordStep();
     };
@@ -239,33 +279,7 @@ void Engine::CombineOverLcd(std::size_t group) {
     write(Text(sign, NumberText(magnitude), "/", sum.lcd),
           "Combine all the terms in the numerator using arithmetic.", kLightStep);
     write(sign + ReduceRatio(magnitude, ToNumber(sum.lcd)),
-          n == 0 ? std::string(kZeroDividedReason) : "Simplify the fraction.", kLightStep);
-}
-
-Engine::LcdSum Engine::SumOverLcd(const std::vector<Term>& terms) {
-    LcdSum sum;
-    std::vector<double> unders;
-    for (const Term& term : terms) {
-        unders.push_back(term.numUnder);
-        sum.denominators += sum.denominators.empty() ? "" : ",";
-        sum.denominators += NumberText(term.numUnder);
-    }
-    sum.lcd = LeastCommonMultipleText(unders);
-    const double common = ToNumber(sum.lcd);
-    for (const Term& term : terms) {
-        const double m = Divide(common, term.numUnder);
-        const double over = Checked(term.numOver * m);
-        const std::string fraction = RatioText(term.numOver, term.numUnder);
-        const std::string raised = RatioText(over, common);
-        sum.shown += Text(term.OpMark, fraction, "*[", RatioText(m, m), "]");
-        sum.values += term.OpMark + raised;
-        sum.numerators += term.OpMark + NumberText(over);
-        sum.n += term.OpMark == "-" ? -over : over;
-        if (sum.example.empty()) {
-            sum.example = Text(fraction, "#=#", raised);
-        }
-    }
-    return sum;
+          n == 0 ? kZeroDividedReason : "Simplify the fraction.", kLightStep);
 }
 
 }  // namespace numerello

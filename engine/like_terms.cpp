@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <numeric>
+#include <utility>
 
 #include "core/failure.h"
 #include "core/number.h"
@@ -21,16 +22,11 @@ Ratio RatioOf(const Term& term) {
     return {static_cast<double>(term.Num), static_cast<double>(term.Den)};
 }
 
-/// Singles, as all sums of rows are.
+/// Singles, as all sums of rows are. What has decimals stands over 1.
 Ratio Sum(const Ratio& one, const Ratio& other) {
     const auto single = [](double value) { return static_cast<double>(ToSingle(value)); };
     if (one.under == 1 && other.under == 1) {
         return {single(one.over + other.over), 1};
-    }
-    const bool whole =
-        IsWhole(one.over) && IsWhole(one.under) && IsWhole(other.over) && IsWhole(other.under);
-    if (!whole) {
-        return {single(Divide(one.over, one.under) + Divide(other.over, other.under)), 1};
     }
     const double over = one.over * other.under + other.over * one.under;
     const double under = one.under * other.under;
@@ -48,6 +44,9 @@ std::string_view SignOf(double value) {
 }
 
 bool HasZeroPower(std::string_view text) {
+    if (text.find('^') == std::string_view::npos) {
+        return false;
+    }
     const std::vector<LetterPower> letters = ReadLetters(text);
     return std::any_of(letters.begin(), letters.end(),
                        [](const LetterPower& each) { return each.exponent == 0; });
@@ -65,6 +64,15 @@ std::string LettersOf(const Term& term) {
 
 bool HasDecimals(const Term& term, const std::string& written) {
     return HasPoint(written) || !IsWhole(term.numOver) || !IsWhole(term.numUnder);
+}
+
+LikeRow RowOf(const Term& term, const std::string& written) {
+    LikeRow row;
+    row.sum = RatioOf(term);
+    row.written = written;
+    row.isZero = term.Num == 0;
+    row.first = &term;
+    return row;
 }
 
 }  // namespace
@@ -90,7 +98,7 @@ void LikeTerms::Keep(const std::string& written) {
     LikeRow row;
     row.written = written;
     row.merges = false;
-    letters.push_back(row);
+    letters.push_back(std::move(row));
 }
 
 std::string LikeTerms::Shown(std::string_view text) const {
@@ -108,7 +116,7 @@ void LikeTerms::AddRow(LikeRow row) {
 }
 
 /// Puts a rewritten term in the term's place.
-void LikeTerms::Replace(const Term& term, const std::string& coefficient) {
+void LikeTerms::PutInPlace(const Term& term, const std::string& coefficient) {
     changed = true;
     LikeRow row;
     row.merges = false;
@@ -118,9 +126,9 @@ void LikeTerms::Replace(const Term& term, const std::string& coefficient) {
     row.written =
         TermText(SignOf(static_cast<double>(term.Num)), coefficient, term.NumText, term.DenText);
     if (IsConstant(term)) {
-        constants.push_back(row);
+        constants.push_back(std::move(row));
     } else {
-        AddRow(row);
+        AddRow(std::move(row));
     }
 }
 
@@ -139,7 +147,7 @@ void LikeTerms::ReplaceNumbers(const Term& term) {
     rest.NumText = LettersText(ReadLetters(term.NumText));
     rest.DenText = LettersText(ReadLetters(term.DenText));
     const Ratio numbers = NumbersOf(term);
-    Replace(rest, RatioText(numbers.over, numbers.under));
+    PutInPlace(rest, RatioText(numbers.over, numbers.under));
 }
 
 /// A constant power that stands beside letters.
@@ -166,12 +174,12 @@ bool LikeTerms::TakeConversion(const Term& term, const std::string& written) {
     if (settings.UseFractions) {
         return Reduce(term);
     }
-    return (!fraction && !decimal && Reduce(term)) || Divide(term);
+    return (!fraction && !decimal && Reduce(term)) || ToDecimal(term);
 }
 
 /// Turns decimals into a fraction.
 bool LikeTerms::ReadDecimal(const Term& term) {
-    Replace(term, NumberToFractionText(settings, {term.numOver, term.numUnder}));
+    PutInPlace(term, NumberToFractionText(settings, {term.numOver, term.numUnder}));
     // Beside letters the sentence ends without its point: kept as it is.
     reason = IsConstant(term) ? "Convert the decimal number to a fraction."
                               : "Convert the decimal number to a fraction";
@@ -187,7 +195,7 @@ bool LikeTerms::Reduce(const Term& term) {
     if (reduced == shown) {
         return false;
     }
-    Replace(term, reduced);
+    PutInPlace(term, reduced);
     if (over == 0) {
         reason = kZeroDividedReason;
         return true;
@@ -206,10 +214,10 @@ bool LikeTerms::Reduce(const Term& term) {
 }
 
 /// Turns a fraction into a decimal.
-bool LikeTerms::Divide(const Term& term) {
+bool LikeTerms::ToDecimal(const Term& term) {
     const std::string value = NumberToFractionText(settings, {term.numOver, term.numUnder});
     const std::string fraction = RatioText(term.numOver, term.numUnder);
-    Replace(term, value);
+    PutInPlace(term, value);
     reason = IsConstant(term)
                  ? Text("Convert #", fraction,
                         "# to decimal notation by dividing the numerator by the denominator (",
@@ -221,36 +229,28 @@ bool LikeTerms::Divide(const Term& term) {
 }
 
 void LikeTerms::TakeConstant(const Term& term, const std::string& written) {
-    LikeRow row;
-    row.sum = RatioOf(term);
-    row.isZero = term.Num == 0;
-    row.written = written;
-    row.first = &term;
+    LikeRow row = RowOf(term, written);
     row.merges = !keepFractions || term.Den == 1;
     const auto other = std::find_if(constants.begin(), constants.end(),
                                     [](const LikeRow& each) { return each.merges; });
     if (row.merges && other != constants.end()) {
         Merge(*other, term);
     } else {
-        constants.push_back(row);
+        constants.push_back(std::move(row));
     }
 }
 
 void LikeTerms::TakeLetters(const Term& term, const std::string& written) {
-    LikeRow row;
-    row.sum = RatioOf(term);
+    LikeRow row = RowOf(term, written);
     row.NumText = LettersOf(term);
     row.DenText = LettersText(ReadLetters(term.DenText));
-    row.isZero = term.Num == 0;
-    row.written = written;
-    row.first = &term;
     const auto like = std::find_if(letters.begin(), letters.end(), [&row](const LikeRow& each) {
         return each.merges && each.NumText == row.NumText && each.DenText == row.DenText;
     });
     if (like != letters.end()) {
         Merge(*like, term);
     } else {
-        AddRow(row);
+        AddRow(std::move(row));
     }
 }
 

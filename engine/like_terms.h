@@ -56,9 +56,9 @@ class LikeTerms {
     bool TakeNumberPower(const Term& term);
     bool TakeConversion(const Term& term, const std::string& written);
     bool Reduce(const Term& term);
-    bool Divide(const Term& term);
+    bool ToDecimal(const Term& term);
     bool ReadDecimal(const Term& term);
-    void Replace(const Term& term, const std::string& coefficient);
+    void PutInPlace(const Term& term, const std::string& coefficient);
     void TakeConstant(const Term& term, const std::string& written);
     void TakeLetters(const Term& term, const std::string& written);
     void Merge(LikeRow& row, const Term& term);

@@ -47,8 +47,8 @@ void Engine::ReplaceGroup(std::size_t group, std::string_view text) {
     ReplaceBetween(GroupAt(group).begin, GroupAt(group).end, text);
 }
 
-void Engine::Because(std::string reason, int level) {
-    problem.log.StepReason = std::move(reason);
+void Engine::Because(std::string_view reason, int level) {
+    problem.log.StepReason = reason;
     problem.log.StepLevel = level;
 }
 

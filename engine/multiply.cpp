@@ -71,7 +71,10 @@ std::string Engine::FactorText(const Term& factor) const {
 }
 
 bool Engine::MultiplyPair(std::size_t group) {
-    const std::vector<Term>& terms = tables.groups.at(group).terms;
+    if (!HasGroup(group)) {
+        return false;
+    }
+    const std::vector<Term>& terms = GroupAt(group).terms;
     const auto second = std::find_if(terms.begin(), terms.end(),
                                      [](const Term& term) { return term.OpMark == "*"; });
     if (second == terms.end() || second == terms.begin()) {
@@ -94,7 +97,7 @@ bool Engine::MultiplyPair(std::size_t group) {
 }
 
 bool Engine::MultiplyPass(std::size_t group) {
-    if (!HasGroup(group) || !MultiplyPair(group)) {
+    if (!MultiplyPair(group)) {
         return false;
     }
     while (MultiplyPair(group)) {
@@ -107,6 +110,9 @@ bool Engine::MultiplyPass(std::size_t group) {
 }
 
 bool Engine::ReorderFactor(std::size_t group) {
+    if (!HasGroup(group)) {
+        return false;
+    }
     const Group& pair = GroupAt(group);
     const bool multiplied =
         !pair.IsAbsolute && tables.Depth > 0 && pair.Power == 1 && TokenAt(pair.tail) == "*";
@@ -124,7 +130,7 @@ bool Engine::ReorderFactor(std::size_t group) {
     if (end == begin || tokens[end - 1] == "/") {
         return false;
     }
-    Because(std::string(kReorderReason), kOrdinaryStep);
+    Because(kReorderReason, kOrdinaryStep);
     ReplaceBetween(begin, end, Text("(+", TextBetween(tokens, begin, end), ")"));
     RecordStep();
     if (power) {

@@ -28,9 +28,6 @@ class Normaliser {
         out.reserve(2 * in.size());  // a sign for each token at most
         for (at = 0; at < in.size(); ++at) {
             const std::string& token = in[at];
-            if (token.empty()) {
-                continue;
-            }
             if (IsMark(token, '^') && at + 1 < in.size() && IsMark(in[at + 1], '1')) {
                 ++at;
                 continue;

@@ -26,13 +26,6 @@ std::string SingleValueText(float value) {
     return IsWhole(number) ? NumberText(number) : SingleText(value);
 }
 
-double PowerOf(double base, float power) {
-    if (base == 0 && power <= 0) {
-        throw Failure(FailureKind::DivisionByZero);
-    }
-    return Checked(std::pow(base, static_cast<double>(power)));
-}
-
 std::string ReduceRatio(double a, double b) {
     if (b == 0) {
         throw Failure(FailureKind::DivisionByZero);

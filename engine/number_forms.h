@@ -18,9 +18,6 @@ struct Ratio {
 /// A Single as text: whole numbers in full, others with the digits that a Single holds.
 std::string SingleValueText(float value);
 
-/// A power. 0 has none that is 0 or negative: Failure(DivisionByZero).
-double PowerOf(double base, float power);
-
 /// a/b in lowest terms, "a" over 1; "0" for a numerator of 0. Both are whole. Throws
 /// Failure(DivisionByZero) for a denominator of 0, Failure(Overflow) beyond 32 bits.
 std::string ReduceRatio(double a, double b);
@@ -29,7 +26,8 @@ std::string ReduceRatio(double a, double b);
 double ReducedBy(double a, std::string_view reduced);
 
 /// The first whole number from 1 up whose product with the positive value is whole to 4 places, as
-/// far as a Single tells. At most 20001.
+/// far as a Single tells. At most 20000: of so many multiples two lie within 1/20000 of each other,
+/// but for whole numbers.
 int FirstDenominator(float value);
 
 /// The ratio as text. In fraction mode in lowest terms, decimals as the fraction of

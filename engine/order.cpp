@@ -222,9 +222,7 @@ void Engine::CombineUntilStable(std::size_t group, NegativeExponents negatives) 
         if (HasGroup(group) && GroupAt(group).ProductMark && !HoldsRoot()) {
             MultiplyPass(group);
         }
-        if (HasGroup(group)) {
-            CombineTerms(group, negatives, roots ? Record::OnlyIfChanged : Record::Line);
-        }
+        CombineTerms(group, negatives, roots ? Record::OnlyIfChanged : Record::Line);
         if (IsSumOfFractions(group)) {
             FractionArithmetic(group);
             break;
@@ -246,25 +244,19 @@ bool Engine::IsSettled(std::size_t group, NegativeExponents negatives) const {
            settled.negatives == negatives && settled.text == lineText;
 }
 
-/// A sum of numbers, nearly all of them fractions, outside brackets or in bars.
+/// A sum of numbers, nearly all of them fractions, outside brackets or in bars. Powers and decimals
+/// are combined away before it is asked.
 bool Engine::IsSumOfFractions(std::size_t group) const {
-    if (!HasGroup(group) || GroupAt(group).terms.size() < 2 || GroupAt(group).ProductMark) {
+    if (!HasGroup(group)) {
         return false;
     }
     const Group& all = GroupAt(group);
-    const bool outside = tables.Depth == 0 || (tables.Depth == 1 && all.IsAbsolute);
-    if (!problem.settings.UseFractions || !outside ||
-        !std::all_of(all.terms.begin(), all.terms.end(), IsConstant)) {
+    if (all.terms.size() < 2 || all.ProductMark || !KeepsFractions(all)) {
         return false;
     }
-    std::size_t fractions = 0;
-    for (const Term& term : all.terms) {
-        if (HasPoint(term.FractionText) || term.NumText.starts_with('^') ||
-            term.DenText.starts_with('^')) {
-            return false;
-        }
-        fractions += term.FractionText.empty() && !term.DivideMark ? 0 : 1;
-    }
+    const auto fractions = static_cast<std::size_t>(std::count_if(
+        all.terms.begin(), all.terms.end(),
+        [](const Term& term) { return !term.FractionText.empty() || term.DivideMark; }));
     return fractions > 0 && (all.IsAbsolute || fractions + 1 >= all.terms.size());
 }
 

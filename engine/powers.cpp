@@ -17,7 +17,7 @@ namespace numerello {
 
 namespace {
 
-/// The numbers of a term with a power, written out as factors.
+/// The numbers of a term, written out as factors.
 struct WrittenOut {
     std::vector<std::string> over;
     std::vector<std::string> under;
@@ -25,26 +25,32 @@ struct WrittenOut {
     bool negativePower = false;
 };
 
-void WriteOut(double base, float power, WrittenOut& out, bool isOver) {
-    const std::string factor = NumberText(base);
-    std::vector<std::string>& side = (power >= 0) == isOver ? out.over : out.under;
-    if (power == 0) {
-        if (base == 0) {
-            throw Failure(FailureKind::DivisionByZero);
-        }
-        out.zeroPower = true;
-        side.emplace_back("1");
-        return;
-    }
-    if (power < 0 && base == 0) {
+/// A number over the line. With a negative power it goes under it.
+WrittenOut WriteOut(double base, float power) {
+    if (base == 0 && power <= 0) {
         throw Failure(FailureKind::DivisionByZero);
     }
-    out.negativePower = out.negativePower || power < 0;
-    const float times = std::fabs(power);
-    CheckIndex(static_cast<int>(times), static_cast<int>(TermTables::kTopTerm));
-    for (float i = 0; i < times; ++i) {
-        side.push_back(factor);
+    const int times = ToInteger32(static_cast<double>(std::fabs(power)));
+    CheckIndex(times, TermTables::kTopTerm);
+    WrittenOut out;
+    out.zeroPower = power == 0;
+    out.negativePower = power < 0;
+    std::vector<std::string>& factors = out.negativePower ? out.under : out.over;
+    if (out.zeroPower) {
+        factors.emplace_back("1");
+    } else {
+        factors.assign(static_cast<std::size_t>(times), NumberText(base));
     }
+    return out;
+}
+
+/// One written over the other.
+WrittenOut Quotient(WrittenOut over, const WrittenOut& under) {
+    over.over.insert(over.over.end(), under.under.begin(), under.under.end());
+    over.under.insert(over.under.end(), under.over.begin(), under.over.end());
+    over.zeroPower = over.zeroPower || under.zeroPower;
+    over.negativePower = over.negativePower || under.negativePower;
+    return over;
 }
 
 std::string Joined(const std::vector<std::string>& factors) {
@@ -57,12 +63,13 @@ std::string Joined(const std::vector<std::string>& factors) {
 }
 
 WrittenOut Factors(const Term& term) {
-    WrittenOut out;
-    WriteOut(term.numOver, term.NumText.starts_with('^') ? term.NumPower : 1, out, true);
-    if (term.numUnder != 1 || term.DenText.starts_with('^')) {
-        WriteOut(term.numUnder, term.DenText.starts_with('^') ? term.DenPower : 1, out, false);
+    const WrittenOut over =
+        WriteOut(term.numOver, term.NumText.starts_with('^') ? term.NumPower : 1);
+    const bool hasPower = term.DenText.starts_with('^');
+    if (term.numUnder == 1 && !hasPower) {
+        return over;
     }
-    return out;
+    return Quotient(over, WriteOut(term.numUnder, hasPower ? term.DenPower : 1));
 }
 
 /// The term with its powers of numbers written out, without its sign.
@@ -82,28 +89,29 @@ std::string WrittenOutText(const Term& term, const WrittenOut& factors) {
                 product ? Text("(", under, ")") : under);
 }
 
+struct ExpandedTerm {
+    std::string text;
+    bool zeroPower = false;
+};
+
 /// A negative power beside a denominator of its own stands as a fraction by itself.
-std::string ExpandedTerm(const Term& term, WrittenOut& factors) {
+ExpandedTerm Expanded(const Term& term) {
     const bool splits = term.NumText.starts_with('^') && term.NumPower < 0 && term.DivideMark &&
                         !term.DenText.starts_with('^');
-    if (!splits) {
-        factors = Factors(term);
-        return WrittenOutText(term, factors);
+    Term power = term;
+    if (splits) {
+        power.numUnder = 1;
+        power.DenText.clear();
     }
-    Term over = term;
-    over.numUnder = 1;
-    over.DenText.clear();
-    factors = Factors(over);
-    return Text(WrittenOutText(over, factors), "*",
-                TermText("", RatioText(1, term.numUnder), "", term.DenText));
+    const WrittenOut factors = Factors(power);
+    const std::string rest =
+        splits ? "*" + TermText("", RatioText(1, term.numUnder), "", term.DenText) : "";
+    return {term.OpMark + WrittenOutText(power, factors) + rest, factors.zeroPower};
 }
 
 }  // namespace
 
 bool Engine::ExpandPowers(std::size_t group) {
-    if (!HasGroup(group)) {
-        return false;
-    }
     const int depth = tables.Depth;
     if (!ExpandConstantTerms(group)) {
         return false;
@@ -125,6 +133,9 @@ bool Engine::ExpandPowers(std::size_t group) {
 }
 
 bool Engine::ExpandConstantTerms(std::size_t group) {
+    if (!HasGroup(group)) {
+        return false;
+    }
     const Group& all = GroupAt(group);
     if (std::none_of(all.terms.begin(), all.terms.end(), HasNumberPower)) {
         return false;
@@ -136,12 +147,11 @@ bool Engine::ExpandConstantTerms(std::size_t group) {
             text += Written(term);
             continue;
         }
-        WrittenOut factors;
-        text += term.OpMark + ExpandedTerm(term, factors);
-        zeroPower = zeroPower || factors.zeroPower;
+        const ExpandedTerm expanded = Expanded(term);
+        text += expanded.text;
+        zeroPower = zeroPower || expanded.zeroPower;
     }
-    Because(zeroPower ? "Any number raised to the 0th power is 1." : std::string(kWrittenOutReason),
-            kOrdinaryStep);
+    Because(zeroPower ? kZeroPowerReason : kWrittenOutReason, kOrdinaryStep);
     ReplaceGroup(group, text);
     RecordStep();
     return true;
@@ -157,7 +167,7 @@ bool Engine::ExpandFrontPower(std::size_t group) {
     if (text.ends_with(')')) {
         text += "*";
     }
-    Because(std::string(factors.zeroPower ? kLetterZeroPowerReason : kWrittenOutReason), kFineStep);
+    Because(factors.zeroPower ? kLetterZeroPowerReason : kWrittenOutReason, kFineStep);
     const std::size_t begin = IsOperator(TokenAt(front.begin)) ? front.begin + 1 : front.begin;
     ReplaceBetween(begin, front.end, text);
     RecordStep();
@@ -165,17 +175,17 @@ bool Engine::ExpandFrontPower(std::size_t group) {
 }
 
 bool Engine::ExpandPower(std::size_t group) {
-    const Group& base = GroupAt(group);
-    const std::size_t open = base.begin - 1;
-    if (base.Power == 1) {
+    if (!HasGroup(group) || GroupAt(group).Power == 1) {
         return false;
     }
+    const Group& base = GroupAt(group);
+    const std::size_t open = base.begin - 1;
     if (base.Power < 0 && base.terms.size() == 1 && base.terms.front().numOver == 0) {
         throw Failure(FailureKind::DivisionByZero);
     }
     // Also of a bracket that is 0, where a number by itself would fail: kept as it is.
     if (base.Power == 0) {
-        Because(std::string(kZeroPowerReason), kOrdinaryStep);
+        Because(kZeroPowerReason, kOrdinaryStep);
         ReplaceBetween(open, base.tail, "(+1)");
         return true;
     }
@@ -187,8 +197,8 @@ bool Engine::ExpandPower(std::size_t group) {
         const Term& term = base.terms.front();
         factor = Text("(", term.OpMark, Flipped(term), ")");
     }
-    const auto times = static_cast<int>(std::fabs(base.Power));
-    CheckIndex(times, static_cast<int>(TermTables::kTopGroup) + 1);
+    const int times = ToInteger32(static_cast<double>(std::fabs(base.Power)));
+    CheckIndex(times, TermTables::kTopGroup + 1);
     std::string text;
     for (int i = 0; i < times; ++i) {
         text += factor;

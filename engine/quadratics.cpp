@@ -65,6 +65,20 @@ std::string RootFactor(const std::string& letter, double root, const SplitNumber
     return Text("(+", NumberText(number.under), letter, root > 0 ? "-" : "+", number.over, ")");
 }
 
+/// What is left of a term inside the bracket.
+std::string FactoredTerm(const Problem& problem, const Term& term, int g, float least) {
+    const double value = static_cast<double>(term.Num) / g;
+    const std::string sign = value < 0 ? "-" : value > 0 ? "+" : "";
+    std::vector<LetterPower> letters = ReadLetters(term.NumText);
+    for (LetterPower& each : letters) {
+        each.exponent -= each.letter == problem.typed.VarNames[1] ? least : 0;
+    }
+    return Text(
+        sign,
+        NumberToFractionText(problem.settings, {std::fabs(value), static_cast<double>(term.Den)}),
+        LettersText(letters));
+}
+
 }  // namespace
 
 float Engine::FirstExponent() const {
@@ -90,24 +104,6 @@ bool Engine::SolveByFactoring(float exponent) {
         }
     }
     return false;
-}
-
-void Engine::SetEqualToZero() {
-    UseSide(1);
-    std::string marks;
-    for (const Term& term : TermsOf(1)) {
-        const std::string text = Written(term);
-        marks += term.Num == 0 ? ""
-                               : Text("[", term.Num < 0 ? "+" : "-",
-                                      text.substr(IsSign(text.substr(0, 1)) ? 1 : 0), "]");
-    }
-    Because("Set the polynomial equal to zero.", kOrdinaryStep);
-    SetText(Text(SideText(0), marks, "=", SideText(1), marks));
-    RecordStep();
-    CombineUntilStable(0);
-    UseSide(0);
-    CombineUntilStable(0);
-    RecordStep();
 }
 
 void Engine::NegateBothSides() {
@@ -138,6 +134,9 @@ void Engine::PrepareBothSides() {
 }
 
 bool Engine::FactorExpression(std::size_t group, bool withGcf) {
+    if (!HasGroup(group)) {
+        return false;
+    }
     problem.log.StepLevel = kLightStep;
     const std::vector<Term>& terms = GroupAt(group).terms;
     if (!withGcf && !terms.empty() && terms.front().FirstExponent == 2) {
@@ -178,25 +177,11 @@ bool Engine::FactorOutGcf(std::size_t group) {
     text += least > 0 ? Text(letter, "^", NumberText(static_cast<double>(least))) : "";
     text += "(";
     for (const Term& term : terms) {
-        text += FactoredTerm(term, g, least);
+        text += FactoredTerm(problem, term, g, least);
     }
     Because("  -  Factor out the GCF", kLightStep);
     ReplaceGroup(group, text + ")");
     return true;
-}
-
-/// What is left of a term inside the bracket.
-std::string Engine::FactoredTerm(const Term& term, int g, float least) const {
-    const double value = static_cast<double>(term.Num) / g;
-    const std::string sign = value < 0 ? "-" : value > 0 ? "+" : "";
-    std::vector<LetterPower> letters = ReadLetters(term.NumText);
-    for (LetterPower& each : letters) {
-        each.exponent -= each.letter == problem.typed.VarNames[1] ? least : 0;
-    }
-    return Text(
-        sign,
-        NumberToFractionText(problem.settings, {std::fabs(value), static_cast<double>(term.Den)}),
-        LettersText(letters));
 }
 
 bool Engine::FactorByRoots(std::size_t group) {
@@ -238,15 +223,11 @@ void Engine::FactorQuadratic(const std::string& variable) {
         return;
     }
     const std::array<double, 2> roots = RootsOf(quadratic);
-    const int detail = problem.settings.DetailLevel;
     constexpr int kFullDetail = 3;
-    if (detail >= kFullDetail) {
+    if (problem.settings.DetailLevel >= kFullDetail) {
         log.StepReason = "  -  quadratic equation";
         log.Write(Text(variable, "=#-b\\~b^2^-4ac~/2a# for a", variable, "^2^+b", variable, "+c=0"),
                   log.StepReason);
-    }
-    if (detail >= 2) {
-        log.StepReason = "  -  substitute Values";
     }
     log.StepReason = "  -  solve";
     std::string factors;
@@ -258,7 +239,6 @@ void Engine::FactorQuadratic(const std::string& variable) {
     }
     SetText(factors + "=0");
     RecordStep();
-    log.StepReason = "  -  solve";
     SetText(Text(variable, "=", solutions));
     RecordStep();
 }

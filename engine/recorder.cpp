@@ -69,7 +69,7 @@ void Engine::ReadLine() {
         shownLine.reset();
     }
     tables = BreakIntoTerms(tokens, Side);
-    if (ReadsFirstExponents) {
+    if (firstExponents == FirstExponents::Told) {
         TellFirstExponents(tables);
     }
     isRead = true;

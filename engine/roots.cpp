@@ -22,7 +22,7 @@ struct RootParts {
 /// Takes the squares out of a whole radicand.
 RootParts SimplifyRootValue(double radicand) {
     const double root = std::sqrt(radicand);
-    if (root == std::trunc(root)) {
+    if (IsWhole(root)) {
         return {root, 1};
     }
     // The factors are counted in a table; a larger one fails. Kept as it is.
@@ -97,7 +97,7 @@ bool Engine::SimplifyRoot(const Term& root) {
         return true;
     }
     const double radicand = ToNumber(r);
-    if (radicand != std::trunc(radicand)) {
+    if (!IsWhole(radicand)) {
         return false;
     }
     const RootParts parts = SimplifyRootValue(radicand);

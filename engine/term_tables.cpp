@@ -17,16 +17,16 @@ bool BeginsTerm(const Tokens& tokens, std::size_t at) {
     return (IsSign(tokens[at]) && !IsExponentSign(tokens, at)) || IsMark(tokens[at], '*');
 }
 
-/// Reads the tokens of a term; emphasis is passed over.
+/// Reads the tokens of a term into its place; emphasis is passed over.
 class TermReader {
   public:
-    TermReader(const Tokens& tokens, std::size_t begin, std::size_t end)
-        : tokens(tokens), at(begin), end(end) {
+    TermReader(const Tokens& tokens, std::size_t begin, std::size_t end, Term& term)
+        : tokens(tokens), at(begin), end(end), term(term) {
         term.begin = begin;
         term.end = end;
     }
 
-    Term Read() {
+    void Read() {
         if (at < end && BeginsTerm(tokens, at)) {
             term.OpMark = tokens[at];
             sign = IsMark(tokens[at], '-') ? -1.0F : 1.0F;
@@ -36,7 +36,6 @@ class TermReader {
             TakeToken(tokens[at]);
         }
         term.Num *= sign;
-        return std::move(term);
     }
 
   private:
@@ -47,7 +46,7 @@ class TermReader {
         } else if (IsMark(token, '^')) {
             TakeExponent();
         } else if (IsLetter(token)) {
-            Text() += token;
+            LetterText() += token;
             if (!under && ++lettersOver == 1) {
                 term.Degree = 1;
             }
@@ -58,23 +57,23 @@ class TermReader {
         }
     }
 
-    void TakeNumber(const std::string& token) {
-        if (const std::size_t root = token.find('~'); root != std::string::npos) {
+    void TakeNumber(std::string_view token) {
+        if (const std::size_t root = token.find('~'); root != std::string_view::npos) {
             MultiplyNumber(true, root == 0 ? "1" : token.substr(0, root));
             term.NumText += token.substr(root);
             return;
         }
         const std::size_t slash = token.find('/');
-        if (slash != std::string::npos || token.find('.') != std::string::npos) {
+        if (slash != std::string_view::npos || token.find('.') != std::string_view::npos) {
             term.FractionText = token;
         }
         MultiplyNumber(!under, token.substr(0, slash));
-        if (slash != std::string::npos) {
+        if (slash != std::string_view::npos) {
             MultiplyNumber(under, token.substr(slash + 1));
         }
     }
 
-    void MultiplyNumber(bool over, const std::string& factor) {
+    void MultiplyNumber(bool over, std::string_view factor) {
         const double value = ToNumber(factor);
         double& exact = over ? term.numOver : term.numUnder;
         exact = Checked(exact * value);
@@ -93,7 +92,7 @@ class TermReader {
             exponent += tokens[++at];
         }
         const float value = ToSingle(ToNumber(exponent));
-        Text() += "^" + exponent;
+        LetterText() += "^" + exponent;
         if (behindNumber) {
             (under ? term.DenPower : term.NumPower) = value;
         } else if (!under && lettersOver == 1) {
@@ -101,12 +100,12 @@ class TermReader {
         }
     }
 
-    std::string& Text() { return under ? term.DenText : term.NumText; }
+    std::string& LetterText() { return under ? term.DenText : term.NumText; }
 
     const Tokens& tokens;
     std::size_t at;
     std::size_t end;
-    Term term;
+    Term& term;
     float sign = 1;
     bool under = false;         ///< under the line
     bool behindNumber = false;  ///< the last factor is a number
@@ -121,10 +120,9 @@ class TableReader {
     TermTables Read() {
         tables.Depth = DeepestLevel();
         if (tables.Depth == 0) {
-            Group whole;
+            Group& whole = tables.groups.emplace_back();
             whole.begin = side.begin;
             whole.end = whole.tail = side.end;
-            tables.groups.push_back(std::move(whole));
         } else {
             FindGroups();
         }
@@ -167,8 +165,7 @@ class TableReader {
                 return;
             }
             if (opens) {
-                CheckIndex(static_cast<int>(tables.groups.size()),
-                           static_cast<int>(TermTables::kTopGroup));
+                CheckIndex(static_cast<int>(tables.groups.size()), TermTables::kTopGroup);
                 Open(at);
             } else {
                 Close(at);
@@ -177,7 +174,7 @@ class TableReader {
     }
 
     void Open(std::size_t at) {
-        Group group;
+        Group& group = tables.groups.emplace_back();
         group.begin = at + 1;
         group.IsAbsolute = IsMark(tokens[at], '|');
         const std::size_t start = FrontStart(at);
@@ -185,9 +182,8 @@ class TableReader {
         const bool bare =
             start + 1 == at && (IsMark(tokens[start], '+') || IsMark(tokens[start], '*'));
         if (start < at && !bare) {
-            group.front = TermReader(tokens, start, at).Read();
+            TermReader(tokens, start, at, group.front.emplace()).Read();
         }
-        tables.groups.push_back(std::move(group));
     }
 
     void Close(std::size_t at) {
@@ -205,12 +201,19 @@ class TableReader {
     void ReadPower(Group& group) {
         ++group.tail;
         std::string power;
-        if (IsMark(tokens[group.tail], '-')) {
+        if (IsMark(ExponentAt(group.tail), '-')) {
             power = "-";
             ++group.tail;
         }
-        power += tokens[group.tail++];
+        power += ExponentAt(group.tail++);
         group.Power = ToSingle(ToNumber(power));
+    }
+
+    const std::string& ExponentAt(std::size_t at) const {
+        if (at >= side.end) {
+            throw Failure(FailureKind::Format);
+        }
+        return tokens[at];
     }
 
     /// Back from the bracket over the factor before it, to the sign or "*" that begins it.
@@ -249,9 +252,8 @@ class TableReader {
             while (at < group.end && !BeginsTerm(tokens, at)) {
                 ++at;
             }
-            CheckIndex(static_cast<int>(group.terms.size()),
-                       static_cast<int>(TermTables::kTopTerm) - 1);
-            group.terms.push_back(TermReader(tokens, start, at).Read());
+            CheckIndex(static_cast<int>(group.terms.size()), TermTables::kTopTerm - 1);
+            TermReader(tokens, start, at, group.terms.emplace_back()).Read();
             group.ProductMark = group.ProductMark || IsMark(tokens[start], '*');
         }
     }

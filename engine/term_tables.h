@@ -56,8 +56,8 @@ struct Group {
 
 struct TermTables {
     static constexpr int kTopLevel = 20;
-    static constexpr std::size_t kTopGroup = 50;
-    static constexpr std::size_t kTopTerm = 100;
+    static constexpr int kTopGroup = 50;
+    static constexpr int kTopTerm = 100;
 
     int Depth = 0;
     std::vector<Group> groups;  ///< those at Depth, from the left; at least one
@@ -73,7 +73,8 @@ SideRange RangeOfSide(const Tokens& tokens, int Side);
 /// Gives every term the exponent of its first letter, 0 without one.
 void TellFirstExponents(TermTables& tables);
 
-/// Throws Failure(Format) past a bound of TermTables, Failure(Overflow) past a Single.
+/// Throws Failure(Format) past a bound of TermTables and for a bracket with a "^" but no exponent,
+/// Failure(Overflow) past a Single.
 TermTables BreakIntoTerms(const Tokens& tokens, int Side);
 
 }  // namespace numerello

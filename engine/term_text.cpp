@@ -11,12 +11,13 @@ namespace numerello {
 
 namespace {
 
-void PlacePower(double base, float power, double& side, double& otherSide) {
+/// A number with its power: a negative one takes it under the line.
+Ratio PowerRatio(double base, float power) {
     if (base == 0 && power <= 0) {
         throw Failure(FailureKind::DivisionByZero);
     }
-    double& place = power < 0 ? otherSide : side;
-    place = Checked(place * PowerOf(base, std::fabs(power)));
+    const double value = Checked(std::pow(base, std::fabs(power)));
+    return power < 0 ? Ratio{1, value} : Ratio{value, 1};
 }
 
 }  // namespace
@@ -34,11 +35,10 @@ bool HasPoint(std::string_view number) {
 }
 
 Ratio NumbersOf(const Term& term) {
-    Ratio numbers;
-    PlacePower(term.numOver, term.NumText.starts_with('^') ? term.NumPower : 1, numbers.over,
-               numbers.under);
-    PlacePower(term.numUnder, term.DenText.starts_with('^') ? term.DenPower : 1, numbers.under,
-               numbers.over);
+    const Ratio over = PowerRatio(term.numOver, term.NumText.starts_with('^') ? term.NumPower : 1);
+    const Ratio under =
+        PowerRatio(term.numUnder, term.DenText.starts_with('^') ? term.DenPower : 1);
+    const Ratio numbers{Checked(over.over * under.under), Checked(over.under * under.over)};
     if (numbers.under == 0) {
         throw Failure(FailureKind::DivisionByZero);
     }

@@ -161,12 +161,11 @@ std::string TextBetween(const Tokens& tokens, std::size_t begin, std::size_t end
     return text;
 }
 
-std::string WithoutEmphasis(std::string_view text) {
-    std::string plain(text);
-    plain.erase(std::remove_if(plain.begin(), plain.end(),
-                               [](char each) { return each == '[' || each == ']'; }),
-                plain.end());
-    return plain;
+std::string WithoutEmphasis(std::string text) {
+    text.erase(std::remove_if(text.begin(), text.end(),
+                              [](char each) { return each == '[' || each == ']'; }),
+               text.end());
+    return text;
 }
 
 Tokens MergeNumberTokens(const Tokens& tokens, int ProblemType) {

@@ -43,7 +43,7 @@ std::string TokensToText(const Tokens& tokens);
 std::string TextBetween(const Tokens& tokens, std::size_t begin, std::size_t end);
 
 /// The text without "[" and "]".
-std::string WithoutEmphasis(std::string_view text);
+std::string WithoutEmphasis(std::string text);
 
 /// The characters of numbers put together: 12.5, the fraction 3/4, the root 2~5 with its
 /// coefficient, 1.5E+10. A "/" joins two numbers only when nothing binds the second one more

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <iterator>
@@ -43,9 +44,9 @@ class LinesLearner : public Learner {
         if (lines.empty()) {
             return std::nullopt;
         }
-        const std::size_t end = std::min(lines.find('\n'), lines.size() - 1);
+        const std::size_t end = std::min(lines.find('\n'), lines.size());
         std::string answer(lines.substr(0, end));
-        lines.remove_prefix(end + 1);
+        lines.remove_prefix(std::min(end + 1, lines.size()));
         return answer;
     }
 

@@ -39,6 +39,10 @@ prints "       Convert inches to feet, then convert feet to yards."
 prints " 8. 40 inches = 1.11 yards"
 prints "       Substitute the number of inches back into the equation."
 
+runs 0 solve --topic "Arithmetic Principles" --problem=0x=0
+prints "0x=0"
+prints "       Since 0 equals 0 then x can be any real number."
+
 runs 0 solve --topic "Converting Inches To Yards" --problem 4+0 --set RoundDigits=4
 prints "40 inches = 1.1111 yards"
 tells "The '+' sign is not allowed in 'Converting Inches To Yards'."

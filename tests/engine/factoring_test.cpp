@@ -13,8 +13,7 @@ class Factoring : public testing::Test {
   protected:
     Engine& Line(std::string_view text) {
         problem = ProblemWith(text, 101);
-        engine.emplace(problem);
-        engine->ReadsFirstExponents = true;
+        engine.emplace(problem, Engine::FirstExponents::Told);
         engine->SetText(text);
         engine->RecordStep();
         return *engine;
@@ -135,6 +134,12 @@ TEST_F(Factoring, MultipliesBothSidesByMinusOne) {
 TEST_F(Factoring, SolvesAQuadraticEquation) {
     EXPECT_TRUE(Line("x^2-5x=-6").SolveFor("x"));
     EXPECT_EQ(problem.log.StepText[problem.log.StepCount - 1], "(x-3)(x-2)=0");
+}
+
+TEST_F(Factoring, EndsWhenAQuadraticHasNoFactors) {
+    EXPECT_FALSE(Line("x^2=-1").SolveFor("x"));
+    EXPECT_EQ(problem.log.StepText[problem.log.StepCount - 1],
+              " has imaginary solutions...cannot factor.");
 }
 
 TEST(SolveFor, TakesTheLinearRouteForASquareAsTermsAreRead) {

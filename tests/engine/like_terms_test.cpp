@@ -74,6 +74,11 @@ TEST(CombineTerms, HoldsFifteenUnlikeTerms) {
     EXPECT_THROW(Combined(UnlikeTerms(16)), Failure);
 }
 
+TEST(CombineTerms, LeavesTheFactorsOfAProductWithARoot) {
+    EXPECT_EQ(Combined("2*~3+1+2", {}, 82),
+              (Lines{"2*~3~+1+2 | ", "2*~3~+3 | Add 1 and 2 to form the new term (3)."}));
+}
+
 TEST(CombineTerms, GivesTheDecreasingOrderOnce) {
     const std::string note =
         "Polynomials are written in decreasing order of terms. The largest term or the term with "

@@ -50,6 +50,10 @@ TEST(NormaliseTokens, KeepsTheStarWhereTheParenthesisWouldBeBound) {
     EXPECT_EQ(Normalised("|-4|*(2)"), "+|-4|*(+2)");
 }
 
+TEST(NormaliseTokens, TakesAParenthesisThatWasNeverOpened) {
+    EXPECT_EQ(Normalised("2)*(3"), "+2)(+3");
+}
+
 TEST(NormaliseTokens, LeavesWhatIsNormalAsItIs) {
     for (const char* text : {"+3x-2", "+2(+x+1)", "+2^3*(+5-3)", "+x^-2=-3", "+|-5|+3"}) {
         EXPECT_EQ(Normalised(text), text);

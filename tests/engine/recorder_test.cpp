@@ -73,12 +73,14 @@ TEST_F(RecorderTest, OnlyIfChangedWaitsForMergedTerms) {
     Record("4+1", "turned", Engine::Record::OnlyIfChanged);
     EXPECT_EQ(Lines(), 1);
     EXPECT_TRUE(problem.log.StepUnchanged);
-    engine.TermsChanged = true;
-    Record("4+1", "turned", Engine::Record::OnlyIfChanged);
-    EXPECT_EQ(Lines(), 2);
-    engine.TermsChanged = false;
     Record("5", "added", Engine::Record::OnlyIfChanged);
     EXPECT_EQ(Last(), "5");
+    Record("2/4", "");
+    engine.CombineTerms(0, Engine::NegativeExponents::Keep, Engine::Record::OnlyIfChanged);
+    EXPECT_EQ(Last(), "#1/2#");
+    engine.CombineTerms(0, Engine::NegativeExponents::Keep, Engine::Record::OnlyIfChanged);
+    Record("1/3", "turned", Engine::Record::OnlyIfChanged);
+    EXPECT_EQ(Last(), "#1/2#");
 }
 
 TEST_F(RecorderTest, ReorderingShowsOnlyAsTheFirstLine) {

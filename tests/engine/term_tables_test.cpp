@@ -128,6 +128,19 @@ TEST(BreakIntoTerms, ReadsTheBracketsPower) {
     EXPECT_EQ(Read("(x+1)").groups.at(0).Power, 1);
 }
 
+TEST(BreakIntoTerms, FailsForABracketWithoutTheExponentThatItsMarkAsksFor) {
+    EXPECT_THROW(Read("(x+1)^"), Failure);
+    EXPECT_THROW(Read("(x+1)^-"), Failure);
+    EXPECT_THROW(Read("(x+1)^=2"), Failure);
+    EXPECT_THROW(Read("2=(x+1)^", 1), Failure);
+}
+
+TEST(BreakIntoTerms, FindsNoFactorBeforeBarsThatBeginASide) {
+    const Group bars = Read("x=|3|", 1).groups.at(0);
+    EXPECT_TRUE(bars.IsAbsolute);
+    EXPECT_FALSE(bars.front.has_value());
+}
+
 TEST(BreakIntoTerms, CountsBarsAsBrackets) {
     const TermTables tables = Read("2*|5-3|+|-2|");
     EXPECT_EQ(tables.Depth, 1);

@@ -79,12 +79,21 @@ LcdSum SumOverLcd(const std::vector<Term>& terms) {
     return sum;
 }
 
+/// A fraction over 0 is none, also that of 0.
+void CheckDenominators(const std::vector<Term>& terms) {
+    if (std::any_of(terms.begin(), terms.end(),
+                    [](const Term& term) { return term.numUnder == 0; })) {
+        throw Failure(FailureKind::DivisionByZero);
+    }
+}
+
 }  // namespace
 
 void Engine::FractionArithmetic(std::size_t group) {
     if (!HasGroup(group)) {
         return;
     }
+    CheckDenominators(GroupAt(group).terms);
     const auto holds = [this, group](auto test) { return AnyInside(tokens, GroupAt(group), test); };
     const bool product = holds(IsProductMark);
     if (!product) {

@@ -86,11 +86,18 @@ class NumberMerger {
                (IsSign(Token(at)) && number.ends_with('E'));
     }
 
+    std::size_t EndOfDigits(std::size_t begin) const {
+        while (IsNumeric(Token(begin))) {
+            ++begin;
+        }
+        return begin;
+    }
+
     /// A whole number stands behind the "/", and nothing that binds it more tightly.
     bool NumberFollows() const {
-        std::size_t end = at + 1;
-        while (IsNumeric(Token(end))) {
-            ++end;
+        std::size_t end = EndOfDigits(at + 1);
+        if (IsMark(Token(end), 'E') && IsSign(Token(end + 1))) {
+            end = EndOfDigits(end + 2);
         }
         const std::string& next = Token(end);
         return end > at + 1 && IsDigit(in[at - 1]) &&

@@ -56,6 +56,13 @@ TEST(MergeNumberTokens, GivesANumberOneSlash) {
     EXPECT_EQ(Merged("+4^2/5/4"), "+ 4 ^ 2 / 5 / 4");
 }
 
+TEST(MergeNumberTokens, JoinsPowersOfTenToAFraction) {
+    EXPECT_EQ(Merged("+3/1.5E+16"), "+ 3/1.5E+16");
+    EXPECT_EQ(Merged("+1.5E+16/2.5E+17*4"), "+ 1.5E+16/2.5E+17 * 4");
+    EXPECT_EQ(Merged("+3/1.5E+16/7/2", kFractions), "+ 3/1.5E+16 / 7/2");
+    EXPECT_EQ(Merged("+3/1.5E+16x"), "+ 3 / 1.5E+16 x");
+}
+
 TEST(MergeNumberTokens, LeavesWhatIsMergedAsItIs) {
     for (const char* text : {"+12.5x-3/4", "+x^2/3", "+2~5*3", "+1.5E+10/3"}) {
         const Tokens once = MergeNumberTokens(TextToTokens(text), kPolynomials);

@@ -12,7 +12,8 @@ from collections import Counter
 
 from judging import Program, failures
 
-SHARED = {"boxes", "exactness", "judging", "values", "ways"}
+SHARED = {"boxes", "coarse", "exactness", "expressions", "judging", "notation", "spread", "values",
+          "ways", "working"}
 
 
 def uncovered(program):

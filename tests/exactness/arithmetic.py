@@ -3,8 +3,9 @@
 import expressions as ex
 from coarse import DECIMALS, FRACTIONS, PRODUCTS, SUMS
 from judging import Topic
+from limits import BEYOND
 from notation import typed
-from working import BEYOND, POWER_0, UNFINISHED, judged_working, settled
+from working import POWER_0, UNFINISHED, judged_working, settled
 
 
 def judge(entered, answer):

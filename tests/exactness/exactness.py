@@ -12,8 +12,8 @@ from collections import Counter
 
 from judging import Program, failures
 
-SHARED = {"boxes", "coarse", "exactness", "expressions", "judging", "notation", "spread", "values",
-          "ways", "working"}
+SHARED = {"boxes", "coarse", "exactness", "expressions", "judging", "limits", "notation", "spread",
+          "steps", "trees", "values", "ways", "working"}
 
 
 def uncovered(program):

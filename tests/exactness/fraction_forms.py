@@ -5,8 +5,9 @@ from math import gcd
 
 import expressions as ex
 from judging import Exempt, Topic, texts
+from limits import BEYOND
 from notation import shown
-from working import BEYOND, judged_working, settled
+from working import judged_working, settled
 
 SINGLE = "a single fraction is not reduced"
 

@@ -7,11 +7,12 @@ from math import gcd
 import expressions as ex
 from coarse import DECIMALS, FRACTIONS, PRODUCTS, SUMS, Coarse
 from judging import Exempt, Topic, texts
+from limits import BEYOND, TERMS
 from notation import Exactly, Unreadable, exact, shown, typed, worked
 from spread import Spread
+from trees import factors, terms_of
 from values import value as read_number
-from working import (BEYOND, OVER_0, PASSES, POWER_0, TERMS, UNFINISHED, factors, judged_working,
-                     settled, terms_of)
+from working import OVER_0, PASSES, POWER_0, UNFINISHED, judged_working, settled
 
 BRACKET = "a bracket of several terms at a fraction line stays"
 EXACTLY = Spread(Coarse([]))

@@ -3,9 +3,10 @@
 import expressions as ex
 from coarse import SUMS, Coarse
 from judging import Topic, texts
+from limits import BEYOND
 from notation import typed, worked
 from spread import Spread
-from working import BEYOND, judged_working
+from working import judged_working
 
 RADICANDS = [0, 1, 2, 3, 4, 5, 6, 8, 9, 12, 16, 18, 20, 24, 25, 27, 32, 36, 45, 48, 50, 72, 98, 200]
 

@@ -1,12 +1,10 @@
 #include "log_numbers.h"
 
+#include "core/text.h"
+
 namespace numerello {
 
 namespace {
-
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 bool HoldsDecimals(const SolvedProblem& worked) {
     return worked.typed.find('.') != std::string::npos;

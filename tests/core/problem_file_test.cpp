@@ -142,11 +142,12 @@ TEST(ReadProblemLine, WithoutACodeTheFileIsNone) {
 
 TEST(ReadProblemLine, AListWithoutANumberHasNoChoice) {
     for (const char* text : {"", " ", "x", "1x", "1.0", "-", "32768", "1\n", "\xFF"}) {
-        EXPECT_EQ(ReadProblemLine(LineWith(text, "200")).ListIndex,
+        EXPECT_EQ(ReadProblemLine(LineWith(text, "200")).boxes.ListIndex,
                   (std::array<int, 3>{-1, -1, -1}))
             << text;
     }
-    EXPECT_EQ(ReadProblemLine(LineWith(" 6 ", "200")).ListIndex, (std::array<int, 3>{6, 6, 6}));
+    EXPECT_EQ(ReadProblemLine(LineWith(" 6 ", "200")).boxes.ListIndex,
+              (std::array<int, 3>{6, 6, 6}));
 }
 
 TEST(ReadProblemLine, BytesThatAreNoCharacterAreReplaced) {

@@ -12,15 +12,16 @@ from collections import Counter
 
 from judging import Program, failures
 
-SHARED = {"boxes", "coarse", "exactness", "expressions", "judging", "limits", "notation", "spread",
-          "steps", "trees", "values", "ways", "working"}
+FAMILIES = pathlib.Path(__file__).parent / "families"
+
+
+def topics_of(family):
+    return importlib.import_module(f"families.{family}").TOPICS
 
 
 def uncovered(program):
     captions = {topic["caption"] for topic in program.answers([{"do": "topics"}])[0]["topics"]}
-    families = sorted({path.stem for path in pathlib.Path(__file__).parent.glob("*.py")} - SHARED)
-    judged = Counter(caption for family in families
-                     for topic in importlib.import_module(family).TOPICS
+    judged = Counter(caption for file in FAMILIES.glob("*.py") for topic in topics_of(file.stem)
                      for caption in topic.captions)
     told = [f"nobody judges {caption}" for caption in sorted(captions - set(judged))]
     told += [f"no such topic: {caption}" for caption in sorted(set(judged) - captions)]
@@ -34,7 +35,7 @@ def main():
     if family == "coverage":
         told = uncovered(program)
     else:
-        told = [line for topic in importlib.import_module(family).TOPICS
+        told = [line for topic in topics_of(family)
                 for caption in topic.captions
                 for line in failures(program, topic, caption)]
     print(*told, sep="\n")

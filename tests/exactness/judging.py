@@ -1,6 +1,6 @@
 """Problems of every topic, worked by the program and judged by sums of our own.
 
-A module of this folder holds TOPICS, a list of Topic. For each the program works 2,000 problems as
+A module of families/ holds TOPICS, a list of Topic. For each the program works 2,000 problems as
 they stand in a school book and 2,000 hard ones: the longest numbers that can be typed, zeros,
 negative numbers, decimals. Nothing here shares a line with the solvers.
 """

@@ -4,7 +4,7 @@ import sys
 from fractions import Fraction
 
 from judging import Exempt, Topic, ends_in, fails, texts
-from percents import box, shown
+from families.percents import box, shown
 from values import decimal, decimal_text, value, whole
 from ways import LAST_DIGIT
 

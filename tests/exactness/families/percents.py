@@ -3,7 +3,7 @@
 from fractions import Fraction
 
 from judging import Exempt, Topic, ends_in, fails, texts
-from ratios import simplified
+from families.ratios import simplified
 from values import decimal, decimal_text, value, whole
 from ways import LAST_DIGIT, TIE, Doubles, Exact
 

@@ -66,9 +66,10 @@ std::string NumberToFractionText(const AnswerSettings& settings, const Ratio& nu
 }
 
 std::string PrimeFactorList(double n) {
-    std::int64_t rest = std::abs(std::int64_t{ToInteger32(n)});
+    // 32 bits divide faster than 64, and without a sign they hold every absolute value.
+    auto rest = static_cast<std::uint32_t>(std::abs(std::int64_t{ToInteger32(n)}));
     std::string list;
-    for (std::int64_t d = 2; d <= rest / d; ++d) {
+    for (std::uint32_t d = 2; d <= rest / d; ++d) {
         while (rest % d == 0) {
             list += WholeText(d) + "*";
             rest /= d;

@@ -26,7 +26,7 @@ TEST(FractionArithmetic, WorksWithNoFractionOverZero) {
     for (const char* typed : {"00/00+2", "2-00/00", "00/00-1/2+1/2", "3/00+1/2"}) {
         SilentLearner learner;
         Stage stage;
-        Problem problem = TypedProblemOf("Fraction Arithmetic", typed);
+        Problem problem = Typed("Fraction Arithmetic", typed);
         EXPECT_EQ(compute_Click(problem, AllSolvers(), learner, stage), FailureKind::DivisionByZero)
             << typed;
     }
@@ -35,7 +35,7 @@ TEST(FractionArithmetic, WorksWithNoFractionOverZero) {
 TEST(FractionArithmetic, EndsAQuotientThatIsPastFifteenDigits) {
     SilentLearner learner;
     Stage stage;
-    Problem problem = TypedProblemOf("Fraction Arithmetic", "1/99999/99999/1/99999/1/99999/1/2");
+    Problem problem = Typed("Fraction Arithmetic", "1/99999/99999/1/99999/1/99999/1/2");
     EXPECT_EQ(compute_Click(problem, AllSolvers(), learner, stage), FailureKind::Overflow);
     EXPECT_LE(problem.log.StepCount, 10);
 }

@@ -76,8 +76,7 @@ void Worksheet::ShowLastLine() {
 
     // An equation without a solution leaves nothing to draw.
     const int code = problem.topic.ProblemType;
-    const bool equation =
-        code == kGraphingAnEquation && !problem.typed.ExprVariants.Get(0).empty();
+    const bool equation = code == kGraphingAnEquation && !problem.typed.ExprVariants.Get(0).empty();
     if (equation || code == kPointsQuadrant) {
         problem.graph.GraphMode = equation ? kEquationGraph : kOnePointGraph;
         OpenGraph();

@@ -67,7 +67,7 @@ void Engine::CombineTerms(std::size_t group, NegativeExponents negatives, Record
     if (!HasGroup(group)) {
         return;
     }
-    TermsChanged = false;
+    termsChanged = false;
     if (negatives == NegativeExponents::Remove && tables.Depth == 0) {
         RemoveNegativeExponents(group);
     }
@@ -83,7 +83,7 @@ void Engine::CombineTerms(std::size_t group, NegativeExponents negatives, Record
     }
     Because(like.Reason().empty() ? CombiningReason() : like.Reason(), problem.log.StepLevel);
     const bool changed = like.IsChanged();
-    TermsChanged = changed;
+    termsChanged = changed;
     if (changed) {
         ReplaceGroup(group, like.GroupText());
     } else if (Holds("[")) {

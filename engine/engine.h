@@ -242,8 +242,8 @@ class Engine {
     FirstExponents firstExponents;
     Tokens tokens;
     TermTables tables;
-    int Side = 0;               ///< whose tables are read: 0 left, 1 right of the "="
-    bool TermsChanged = false;  ///< the last combining did something
+    int currentSide = 0;        ///< whose tables are read: 0 left, 1 right of the "="
+    bool termsChanged = false;  ///< the last combining did something
     bool isRead = false;        ///< the tables are those of the tokens
     int readSide = 0;           ///< and of this side
     std::string lineText;       ///< the tokens joined, once they are read

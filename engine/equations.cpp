@@ -50,7 +50,7 @@ void Engine::SimplifyBothSides() {
 }
 
 void Engine::UseSide(int side) {
-    Side = side;
+    currentSide = side;
     RecordStep(Record::Refresh);
 }
 

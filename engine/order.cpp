@@ -228,7 +228,7 @@ void Engine::CombineUntilStable(std::size_t group, NegativeExponents negatives) 
             break;
         }
         if (ExprToText() == text) {
-            settled = {text, Side, group, negatives};
+            settled = {text, currentSide, group, negatives};
             break;
         }
     }
@@ -240,7 +240,7 @@ void Engine::CombineUntilStable(std::size_t group, NegativeExponents negatives) 
 
 /// Whether the group was left as it is by the last combining, and nothing has happened since.
 bool Engine::IsSettled(std::size_t group, NegativeExponents negatives) const {
-    return isRead && settled.group == group && settled.side == Side &&
+    return isRead && settled.group == group && settled.side == currentSide &&
            settled.negatives == negatives && settled.text == lineText;
 }
 

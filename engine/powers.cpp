@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/bounds.h"
@@ -63,13 +64,12 @@ std::string Joined(const std::vector<std::string>& factors) {
 }
 
 WrittenOut Factors(const Term& term) {
-    const WrittenOut over =
-        WriteOut(term.numOver, term.NumText.starts_with('^') ? term.NumPower : 1);
+    WrittenOut over = WriteOut(term.numOver, term.NumText.starts_with('^') ? term.NumPower : 1);
     const bool hasPower = term.DenText.starts_with('^');
     if (term.numUnder == 1 && !hasPower) {
         return over;
     }
-    return Quotient(over, WriteOut(term.numUnder, hasPower ? term.DenPower : 1));
+    return Quotient(std::move(over), WriteOut(term.numUnder, hasPower ? term.DenPower : 1));
 }
 
 /// The term with its powers of numbers written out, without its sign.

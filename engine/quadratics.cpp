@@ -107,11 +107,11 @@ bool Engine::SolveByFactoring(float exponent) {
 }
 
 void Engine::NegateBothSides() {
-    const SideRange range = RangeOfSide(tokens, Side);
+    const SideRange range = RangeOfSide(tokens, currentSide);
     Because(Text("Solve for ", problem.typed.VarNames[1],
                  " by multiplying both sides of the equation by a negative one."),
             kFineStep);
-    ReplaceBetween(range.begin, range.end, Text("-(", SideText(Side), ")"));
+    ReplaceBetween(range.begin, range.end, Text("-(", SideText(currentSide), ")"));
 }
 
 void Engine::PrepareBothSides() {

@@ -54,7 +54,7 @@ void Engine::SetText(std::string_view text) {
 
 /// Puts the tokens in order and reads the tables; what has not changed since is not read again.
 void Engine::ReadLine() {
-    if (isRead && readSide == Side) {
+    if (isRead && readSide == currentSide) {
         return;
     }
     if (!isRead) {
@@ -68,12 +68,12 @@ void Engine::ReadLine() {
         lineText = TokensToText(tokens);
         shownLine.reset();
     }
-    tables = BreakIntoTerms(tokens, Side);
+    tables = BreakIntoTerms(tokens, currentSide);
     if (firstExponents == FirstExponents::Told) {
         TellFirstExponents(tables);
     }
     isRead = true;
-    readSide = Side;
+    readSide = currentSide;
 }
 
 /// The line that was read, as the learner sees it. Set out when it is first asked for: most lines
@@ -88,7 +88,7 @@ const std::string& Engine::ShownLine() {
 void Engine::RecordStep(Record record) {
     ReadLine();
     StepLog& log = problem.log;
-    const bool sameTerms = TermCount(tables) == lastTermCount && !TermsChanged;
+    const bool sameTerms = TermCount(tables) == lastTermCount && !termsChanged;
     if ((record == Record::OnlyIfChanged && sameTerms) || ShownLine() == log.LastStepLine) {
         log.StepUnchanged = true;
     } else if (record != Record::Refresh && IsStored(ShownLine())) {

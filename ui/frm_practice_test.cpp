@@ -32,7 +32,6 @@ namespace numerello {
 namespace {
 
 constexpr int kMargin = 8;
-constexpr int kMostProblems = 18;
 constexpr int kUsualChoice = 4;  ///< 5 problems
 constexpr double kScreenShare = 0.9;
 constexpr int kSmallestHeight = 560;
@@ -131,14 +130,14 @@ QWidget* FrmPracticeTest::MakeOutline() {
     for (const char* caption : {"Problem Type", "Number of Problems ", "Complex"}) {
         grid->addWidget(new QLabel(QString::fromLatin1(caption), outline), 0, column++);
     }
-    for (int i = 0; i < kRows; ++i) {
+    for (int i = 0; i < kTestRows; ++i) {
         const Row row = MakeRow(i, outline);
         grid->addWidget(row.Text4, i + 1, 0);
         grid->addWidget(row.Combo1, i + 1, 1);
         grid->addWidget(row.Check1, i + 1, 2, Qt::AlignHCenter);
         rows[static_cast<std::size_t>(i)] = row;
     }
-    grid->setRowStretch(kRows + 1, 1);
+    grid->setRowStretch(kTestRows + 1, 1);
 
     // On a small screen the rows scroll, so that heading and buttons stay in sight.
     auto* scrolled = new QScrollArea(this);
@@ -163,7 +162,7 @@ FrmPracticeTest::Row FrmPracticeTest::MakeRow(int index, QWidget* parent) {
     row.Combo1->setObjectName(QStringLiteral("Combo1(%1)").arg(index));
     row.Combo1->setAccessibleName(QStringLiteral("Number of problems of row %1").arg(number));
     row.Combo1->setToolTip(QStringLiteral("How many problems of this topic"));
-    for (int count = 1; count <= kMostProblems; ++count) {
+    for (int count = 1; count <= kMostProblemsOfRow; ++count) {
         row.Combo1->addItem(QString::number(count));
     }
     row.Check1->setObjectName(QStringLiteral("Check1(%1)").arg(index));

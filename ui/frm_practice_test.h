@@ -39,8 +39,6 @@ class FrmPracticeTest : public QDialog {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    static constexpr int kRows = 10;
-
     /// Text4, Combo1 and Check1 of an index.
     struct Row {
         QLineEdit* Text4;
@@ -77,7 +75,7 @@ class FrmPracticeTest : public QDialog {
     QTabWidget* ssTab1 = nullptr;
     QTreeWidget* treeView1 = nullptr;
     QListWidget* indexList = nullptr;
-    std::array<Row, kRows> rows{};
+    std::array<Row, kTestRows> rows{};
     HeadingGroup heading{};
     QTimer childrenTimer;  ///< until the opened folder's children are scrolled into view
 };

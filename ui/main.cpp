@@ -9,8 +9,10 @@
 #include <chrono>
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 
+#include "ui/application.h"
 #include "ui/artwork.h"
 #include "ui/export_pdf.h"
 #include "ui/font_metrics.h"
@@ -121,7 +123,7 @@ int main(int argc, char** argv) {
     }
     numerello::ReadyToExport(argc, argv);
 
-    const QApplication app(argc, argv);
+    const numerello::Application app(argc, argv);
     const Arguments arguments = Parse(app);
     if (!numerello::LoadSheetFont()) {
         qCritical("The font of the sheets cannot be loaded.");

@@ -108,8 +108,11 @@ void Write(const QString& pdf, const Problem& problem) {
         .graph = graph};
     SilentLearner learner;
     const ComposedJob composed(job, PaperOf(UsualLayout()), learner);
-    const QByteArray content = PdfOf(composed, UsualLayout(), job.name);
-    WriteFile(pdf.toStdString(), {content.constData(), static_cast<std::size_t>(content.size())});
+    const auto content = PdfOf(composed, UsualLayout(), job.name);
+    if (!content) {
+        throw FileError("cannot be written");
+    }
+    WriteFile(pdf.toStdString(), {content->constData(), static_cast<std::size_t>(content->size())});
 }
 
 }  // namespace

@@ -62,7 +62,8 @@ bool SendPages(const ComposedJob& job, QPagedPaintDevice& device) {
     return painter.end();
 }
 
-QByteArray PdfOf(const ComposedJob& job, const QPageLayout& layout, const std::string& title) {
+std::optional<QByteArray> PdfOf(const ComposedJob& job, const QPageLayout& layout,
+                                const std::string& title) {
     QByteArray content;
     QBuffer buffer(&content);
     buffer.open(QIODevice::WriteOnly);
@@ -72,8 +73,7 @@ QByteArray PdfOf(const ComposedJob& job, const QPageLayout& layout, const std::s
     writer.setPageLayout(fullPage);
     writer.setTitle(ToQString(title));
     writer.setCreator(QStringLiteral("Numerello"));
-    SendPages(job, writer);
-    return content;
+    return SendPages(job, writer) ? std::optional(content) : std::nullopt;
 }
 
 PaperSize PaperOf(const QPageLayout& layout) {

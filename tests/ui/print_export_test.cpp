@@ -145,12 +145,22 @@ TEST_F(SentPages, ThatAPrinterRefusesAreNotSent) {
     EXPECT_FALSE(SendPages(job, printer));
 }
 
+TEST_F(SentPages, ThatWereNotPaintedToTheirEndAreNoFile) {
+    // The graph's painter gives up, and the pages with it.
+    const PrintJob broken{.name = "broken",
+                          .compose = [](Surface& Printer,
+                                        Learner&) { Printer.PaintPicture(kGraphPicture, 0, 0); },
+                          .graph = [](QPainter& painter, QRectF) { painter.end(); }};
+    const ComposedJob job(broken, kA4, learner);
+    EXPECT_EQ(PdfOf(job, UsualLayout(), "broken"), std::nullopt);
+}
+
 TEST_F(SentPages, AreOneEmptyPageOfAnEmptyJob) {
     const ComposedJob job({.name = "empty", .compose = [](Surface&, Learner&) {}}, kA4, learner);
     EXPECT_EQ(job.PageCount(), 1);
     QFile file(folder.filePath("empty.pdf"));
     file.open(QIODevice::WriteOnly);
-    file.write(PdfOf(job, UsualLayout(), "empty"));
+    file.write(PdfOf(job, UsualLayout(), "empty").value());
     file.close();
     EXPECT_EQ(PagesOfPdf(file.fileName()), 1);
 }

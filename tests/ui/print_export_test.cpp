@@ -20,7 +20,12 @@ class Export : public testing::Test {
         file.open(QIODevice::WriteOnly);
         file.write(line.toUtf8());
         file.close();
-        return ExportPdf(Pdf(), Problem(), message);
+        return Write(Problem());
+    }
+
+    int Write(const QString& file) {
+        message = ExportProblem(file, Pdf());
+        return message.empty() ? 0 : 1;
     }
 
     QString Problem() const { return folder.filePath("problem.nrl"); }
@@ -55,7 +60,7 @@ TEST_F(Export, RefusesAFileThatIsNone) {
     EXPECT_NE(message, "");
     EXPECT_NE(message.find("problem.nrl"), std::string::npos);
     EXPECT_FALSE(QFile::exists(Pdf()));
-    EXPECT_EQ(ExportPdf(Pdf(), folder.filePath("none.nrl"), message), 1);
+    EXPECT_EQ(Write(folder.filePath("none.nrl")), 1);
     EXPECT_NE(message.find("none.nrl"), std::string::npos);
 }
 
@@ -72,7 +77,7 @@ TEST_F(Export, RefusesABoxProblemThatIsNotReady) {
 
 TEST_F(Export, TellsOfAFileThatCannotBeWritten) {
     Run(kEquation);
-    EXPECT_EQ(ExportPdf("/proc/none.pdf", Problem(), message), 1);
+    message = ExportProblem(Problem(), "/proc/none.pdf");
     EXPECT_NE(message.find("/proc/none.pdf"), std::string::npos) << message;
 }
 

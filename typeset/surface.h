@@ -71,7 +71,8 @@ class Surface {
     /// The height of a line in the surface's face.
     double LineHeight(double points) const;
 
-    /// A surface without a mark, with the same metrics, pen and font: to see what printing would do.
+    /// A surface without a mark, with the same metrics, pen and font: to see what printing would
+    /// do.
     Surface Blank() const;
 
     /// Draws a stroke of DrawWidth and leaves the pen at its end.

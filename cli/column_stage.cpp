@@ -1,5 +1,6 @@
 #include "cli/column_stage.h"
 
+#include "columns/multiplication.h"
 #include "columns/steps.h"
 
 namespace numerello {
@@ -7,11 +8,21 @@ namespace numerello {
 ColumnStage::ColumnStage(Problem& problem, Learner& learner) : problem(problem), learner(learner) {}
 
 void ColumnStage::DrawColumns() {
+    ++drawings;
     finished = false;
     StepColumns(problem, page, learner, [this] {
         finished = true;
         problem.columns.ClearFlags();
     });
+}
+
+bool ColumnStage::HasNext() const {
+    return problem.columns.Any() && drawings <= kMostCells;
+}
+
+std::optional<FailureKind> ColumnStage::NextStep() {
+    ++problem.playback.ShownStep;
+    return Trapped(problem, learner, [this] { DrawColumns(); });
 }
 
 }  // namespace numerello

@@ -19,7 +19,7 @@ TestRow ReadRow(const Json& object) {
     }
     TestRow row;
     row.topic = fields.String("topic", "");
-    row.count = static_cast<int>(fields.Integer("count", 0, kMostProblems, 0));
+    row.count = static_cast<int>(fields.Integer("count", {0, kMostProblems}, 0));
     row.complex = fields.Bool("complex", false);
     fields.RejectOthers();
     if (FindTestTopic(row.topic) == nullptr) {

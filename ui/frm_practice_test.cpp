@@ -11,7 +11,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QTabBar>
 #include <QTabWidget>
@@ -24,8 +23,10 @@
 #include "catalogue/topics.h"
 #include "ui/frm_print_preview.h"
 #include "ui/pointer.h"
+#include "ui/screen_room.h"
 #include "ui/text.h"
 #include "ui/topic_views.h"
+#include "ui/typed_key.h"
 
 namespace numerello {
 
@@ -33,16 +34,11 @@ namespace {
 
 constexpr int kMargin = 8;
 constexpr int kUsualChoice = 4;  ///< 5 problems
-constexpr double kScreenShare = 0.9;
 constexpr int kSmallestHeight = 560;
 
 std::vector<TreeNode> AllNodes() {
     TopicChoice none;
     return BuildTopicTree(none, false);
-}
-
-bool IsEnter(int key) {
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
 /// What a row keeps for its topic's name in a narrow window.
@@ -67,8 +63,6 @@ FrmPracticeTest::FrmPracticeTest(TestMaker makeTest, std::optional<HeadingLines>
     setObjectName(QStringLiteral("frmPracticeTest"));
     setWindowTitle(QStringLiteral("Practice Test"));
     setModal(true);
-    childrenTimer.setSingleShot(true);
-    connect(&childrenTimer, &QTimer::timeout, this, &FrmPracticeTest::ShowChildren);
 
     MakeTabs();
     auto* right = new QVBoxLayout;
@@ -77,7 +71,7 @@ FrmPracticeTest::FrmPracticeTest(TestMaker makeTest, std::optional<HeadingLines>
     right->addWidget(this->heading.group);
     right->addLayout(MakeButtons());
     auto* row = new QHBoxLayout(this);
-    row->addWidget(ssTab1, TopicsWidth());
+    row->addWidget(ssTab1, TopicsWidth(*this));
     row->addLayout(right, OutlineWidth());
     resize(PreferredSize());
     treeView1->setFocus();
@@ -92,6 +86,7 @@ void FrmPracticeTest::MakeTabs() {
 
     treeView1 = new QTreeWidget;
     FillTopicTree(*treeView1, nodes);
+    children = new ChildrenScroller(*treeView1);
     // In a narrow window captions are scrolled to and not cut.
     treeView1->header()->setStretchLastSection(false);
     treeView1->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
@@ -187,11 +182,6 @@ QLayout* FrmPracticeTest::MakeButtons() {
     return buttons;
 }
 
-/// Room for the longest caption three folders deep.
-int FrmPracticeTest::TopicsWidth() const {
-    return WidestTopic(*this) + 4 * TopicIndentation(*this) + 7 * kMargin;
-}
-
 /// Room for the longest caption in a row.
 int FrmPracticeTest::OutlineWidth() const {
     const int smallest = rows.front().Text4->parentWidget()->minimumSizeHint().width();
@@ -199,9 +189,9 @@ int FrmPracticeTest::OutlineWidth() const {
 }
 
 QSize FrmPracticeTest::PreferredSize() const {
-    const QSize needed(TopicsWidth() + OutlineWidth() + 4 * kMargin,
+    const QSize needed(TopicsWidth(*this) + OutlineWidth() + 4 * kMargin,
                        std::max(sizeHint().height(), kSmallestHeight));
-    return needed.boundedTo(screen()->availableSize() * kScreenShare);
+    return needed.boundedTo(RoomForDialog(*this));
 }
 
 /// The heading is kept however the form closes.
@@ -264,8 +254,7 @@ void FrmPracticeTest::ShowBeginning(QObject* watched) {
 void FrmPracticeTest::ClickNode(QTreeWidgetItem& item) {
     if (item.childCount() > 0) {
         item.setExpanded(!item.isExpanded());
-        // A row must not be scrolled away between the halves of a double click.
-        childrenTimer.start(QApplication::doubleClickInterval());
+        children->ShowIn(QApplication::doubleClickInterval());
     }
 }
 
@@ -296,15 +285,6 @@ void FrmPracticeTest::Fill(Row& row, const QString& caption) {
     row.Combo1->setEnabled(filled);
     row.Check1->setChecked(false);
     row.Check1->setEnabled(filled);
-}
-
-/// A folder opened at the lower edge would else seem to do nothing.
-void FrmPracticeTest::ShowChildren() {
-    QTreeWidgetItem* folder = treeView1->currentItem();
-    if (folder != nullptr && folder->isExpanded()) {
-        treeView1->scrollToItem(folder->child(folder->childCount() - 1));
-        treeView1->scrollToItem(folder);
-    }
 }
 
 std::vector<TestRow> FrmPracticeTest::Outline() const {

@@ -74,6 +74,25 @@ std::vector<QTreeWidgetItem*> FillTopicTree(QTreeWidget& tree, std::span<const T
     return items;
 }
 
+int TopicsWidth(const QWidget& window) {
+    constexpr int kFoldersAndBar = 4;
+    constexpr int kMargins = 56;
+    return WidestTopic(window) + kFoldersAndBar * TopicIndentation(window) + kMargins;
+}
+
+ChildrenScroller::ChildrenScroller(QTreeWidget& tree) : QObject(&tree), tree(tree) {
+    timer.setSingleShot(true);
+    connect(&timer, &QTimer::timeout, this, [this] { Show(); });
+}
+
+void ChildrenScroller::Show() {
+    QTreeWidgetItem* folder = tree.currentItem();
+    if (folder != nullptr && folder->isExpanded()) {
+        tree.scrollToItem(folder->child(folder->childCount() - 1));
+        tree.scrollToItem(folder);
+    }
+}
+
 int NodeOf(const QTreeWidgetItem& item) {
     return item.data(0, kNodeRole).toInt();
 }

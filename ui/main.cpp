@@ -121,7 +121,7 @@ int main(int argc, char** argv) {
         const QCoreApplication app(argc, argv);
         Parse(app);
     }
-    numerello::ReadyToExport(argc, argv);
+    numerello::PrepareExport(argc, argv);
 
     const numerello::Application app(argc, argv);
     const Arguments arguments = Parse(app);

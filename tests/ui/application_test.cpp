@@ -49,7 +49,7 @@ TEST(Application, GoesOnBehindWhatAnEventThrowsAndTellsItOnce) {
         TypeText(line, "x");
         ASSERT_TRUE(QTest::qWaitFor([&] { return told.HasOpened(); }));
     }
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&line));
+    ShowActive(line);
     const NoDialogOpens silent;
     TypeText(line, "bxc");
     EXPECT_EQ(line.text(), "abc");

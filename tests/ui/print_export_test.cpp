@@ -3,6 +3,7 @@
 #include <QPageSize>
 #include <QPrinter>
 
+#include "output/print_solution.h"
 #include "tests/ui/printed_forms.h"
 #include "ui/export_pdf.h"
 #include "ui/print_job.h"

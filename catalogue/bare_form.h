@@ -5,7 +5,9 @@
 
 #include "catalogue/guided_input.h"
 #include "catalogue/saved_problem.h"
-#include "core/solve_driver.h"
+#include "core/erasing.h"
+#include "core/problem.h"
+#include "core/stage.h"
 
 namespace numerello {
 

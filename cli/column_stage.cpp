@@ -2,6 +2,7 @@
 
 #include "columns/multiplication.h"
 #include "columns/steps.h"
+#include "core/solve_driver.h"
 
 namespace numerello {
 

@@ -10,7 +10,6 @@
 #include "app/solvers.h"
 #include "catalogue/bare_form.h"
 #include "core/clock.h"
-#include "core/erasing.h"
 #include "core/random_source.h"
 #include "core/silent_learner.h"
 #include "core/text.h"

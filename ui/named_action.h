@@ -8,8 +8,8 @@
 
 namespace numerello {
 
-/// The action of that name. Throws std::invalid_argument where there is none: a name in a table that
-/// is spelled otherwise than in the code.
+/// The action of that name. Throws std::invalid_argument where there is none: a name in a table
+/// that is spelled otherwise than in the code.
 inline QAction& NamedAction(const QMap<QString, QAction*>& actions, const char* name) {
     QAction* action = actions.value(QLatin1String(name));
     if (action == nullptr) {

@@ -49,6 +49,12 @@ int WidestTopic(const QWidget& window) {
     return widest;
 }
 
+int TopicsWidth(const QWidget& window) {
+    constexpr int kFoldersAndBar = 4;
+    constexpr int kMargins = 56;
+    return WidestTopic(window) + kFoldersAndBar * TopicIndentation(window) + kMargins;
+}
+
 std::vector<QTreeWidgetItem*> FillTopicTree(QTreeWidget& tree, std::span<const TreeNode> nodes) {
     tree.setObjectName(QStringLiteral("TreeView1"));
     tree.setAccessibleName(QStringLiteral("Topics by chapter"));
@@ -72,12 +78,6 @@ std::vector<QTreeWidgetItem*> FillTopicTree(QTreeWidget& tree, std::span<const T
         }
     }
     return items;
-}
-
-int TopicsWidth(const QWidget& window) {
-    constexpr int kFoldersAndBar = 4;
-    constexpr int kMargins = 56;
-    return WidestTopic(window) + kFoldersAndBar * TopicIndentation(window) + kMargins;
 }
 
 ChildrenScroller::ChildrenScroller(QTreeWidget& tree) : QObject(&tree), tree(tree) {

@@ -23,11 +23,11 @@ int TopicIndentation(const QWidget& window);
 /// How wide the longest caption is.
 int WidestTopic(const QWidget& window);
 
-/// Fills an empty tree. The items stand in the order of the nodes.
-std::vector<QTreeWidgetItem*> FillTopicTree(QTreeWidget& tree, std::span<const TreeNode> nodes);
-
 /// How wide a window's tree wants to be: the longest caption three folders deep.
 int TopicsWidth(const QWidget& window);
+
+/// Fills an empty tree. The items stand in the order of the nodes.
+std::vector<QTreeWidgetItem*> FillTopicTree(QTreeWidget& tree, std::span<const TreeNode> nodes);
 
 /// Scrolls the children of a folder that was opened into view: at the lower edge the click would
 /// else seem to do nothing.

@@ -153,10 +153,10 @@ TEST_F(SentPages, ThatAPrinterRefusesAreNotSent) {
 
 TEST_F(SentPages, ThatWereNotPaintedToTheirEndAreNoFile) {
     // The graph's painter gives up, and the pages with it.
-    const PrintJob broken{.name = "broken",
-                          .compose = [](Surface& Printer,
-                                        Learner&) { Printer.PaintPicture(kGraphPicture, 0, 0); },
-                          .graph = [](QPainter& painter, QRectF) { painter.end(); }};
+    const PrintJob broken{
+        .name = "broken",
+        .compose = [](Surface& Printer, Learner&) { Printer.PaintPicture(kGraphPicture, 0, 0); },
+        .graph = [](QPainter& painter, QRectF) { painter.end(); }};
     const ComposedJob job(broken, kA4, learner);
     EXPECT_EQ(PdfOf(job, UsualLayout(), "broken"), std::nullopt);
 }

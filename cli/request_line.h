@@ -13,6 +13,8 @@ inline constexpr int kDeepestNesting = 256;
 /// An object may have this many keys.
 inline constexpr std::size_t kMostKeys = 1000;
 
+// Moving JSON throws nothing, though its library does not say so.
+// NOLINTNEXTLINE(bugprone-exception-escape)
 struct RequestLine {
     Json request;
     Json id;              ///< null when it has none

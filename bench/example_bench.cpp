@@ -1,23 +1,11 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/typed_problem.h"
+#include "catalogue/bare_form.h"
 #include "catalogue/examples/example_click.h"
 
 namespace numerello {
 namespace {
-
-/// The entry form without its window.
-class BareForm : public FillingForm {
-  public:
-    explicit BareForm(Problem& problem) : problem(problem) {}
-
-    void ShowEntry() override {}
-    void Form_KeyPress(std::string_view key) override { numerello::Form_KeyPress(problem, key); }
-    void compute_Click() override {}
-
-  private:
-    Problem& problem;
-};
 
 /// A complex example made up and entered, at one moment of the hour after the other.
 void ExampleOf(benchmark::State& state, std::string_view caption) {

@@ -13,13 +13,13 @@ namespace {
 
 constexpr Date kDay{.year = 2026, .month = 11, .day = 21};
 
-/// As long as the outline allows: ten topics, 18 problems each.
+/// As long as the outline allows.
 std::vector<TestRow> LongestOutline() {
     std::vector<TestRow> rows;
     for (const char* topic : {"Addition", "Division", "Arithmetic", "Fraction Arithmetic",
                               "Calculating Roots", "Solving Equations", "Simplifying Polynomials",
                               "Means (Averages)", "Rounding", "Volume of a Cylinder"}) {
-        rows.push_back({topic, 18, true});
+        rows.push_back({topic, kMostProblemsOfRow, true});
     }
     return rows;
 }
@@ -36,7 +36,7 @@ struct Office {
 
     qsizetype Pdf(const PrintJob& job) {
         const ComposedJob composed(job, kA4, learner);
-        return PdfOf(composed, UsualLayout(), job.name).size();
+        return PdfOf(composed, UsualLayout(), job.name).value().size();
     }
 };
 
@@ -62,6 +62,18 @@ void KeyWorkedAndWritten(benchmark::State& state) {
     }
 }
 BENCHMARK(KeyWorkedAndWritten)->Unit(benchmark::kMillisecond);
+
+/// No problem prints more marks than a long division, and each is measured before it is printed.
+void KeyOfDivisionsWritten(benchmark::State& state) {
+    Office office;
+    const std::vector<TestRow> divisions(kTestRows, {"Division", kMostProblemsOfRow, true});
+    const MadeTest test = office.makeTest(divisions);
+    for (auto _ : state) {
+        const Previewed preview = PreviewOfKey(office.heading, test.AnswerKey(), kDay);
+        benchmark::DoNotOptimize(office.Pdf(preview.job));
+    }
+}
+BENCHMARK(KeyOfDivisionsWritten)->Unit(benchmark::kMillisecond);
 
 /// A click on Next Page until the page is painted.
 void PageTurned(benchmark::State& state) {

@@ -1,9 +1,11 @@
 #include "cli/batch.h"
 
 #include <istream>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "cli/request_line.h"
 #include "cli/requests.h"
@@ -20,13 +22,13 @@ struct Line {
     bool tooLong = false;
 };
 
-/// Reads a line without its end, carriage return and byte order mark. Of one that is too long
-/// nothing more is kept than that. False at the end of the input.
-bool ReadLine(std::istream& in, Line& line) {
+/// A line without its end, carriage return and byte order mark. Of one that is too long nothing
+/// more is kept than that. None at the end of the input.
+std::optional<Line> ReadLine(std::istream& in) {
     constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
     constexpr int kEnd = std::char_traits<char>::eof();
     const std::size_t most = kLongestRequest + kByteOrderMark.size() + 1;
-    line = Line();
+    Line line;
     std::streambuf* buffer = in.rdbuf();
     int next = buffer->sbumpc();
     const bool any = next != kEnd;
@@ -44,36 +46,37 @@ bool ReadLine(std::istream& in, Line& line) {
         line.text.erase(0, kByteOrderMark.size());
     }
     line.tooLong = line.tooLong || line.text.size() > kLongestRequest;
-    return any;
+    return any ? std::optional(std::move(line)) : std::nullopt;
 }
 
 Json AnswerLine(const Line& line) {
-    Json id;
     if (line.tooLong) {
-        return Refusal(id, "the line is longer than 1 MiB");
+        return Refusal(nullptr, "the line is longer than 1 MiB");
     }
+    RequestLine read;
     try {
-        Json request;
-        ReadRequestLine(line.text, request, id);
-        return Answer(request, id);
-    } catch (const BadRequest& bad) {
-        return Refusal(id, bad.what());
+        read = ReadRequestLine(line.text);
+        return read.trouble.empty() ? Answer(read.request, read.id)
+                                    : Refusal(read.id, read.trouble);
     } catch (const std::exception&) {
         // One request must never end the stream.
-        return Refusal(id, "the request could not be worked");
+        return Refusal(read.id, "the request could not be worked");
     }
 }
 
 }  // namespace
 
 void RunBatch(std::istream& in, std::ostream& out, std::ostream* progress) {
-    Line line;
     int answered = 0;
-    while (out && ReadLine(in, line)) {
-        if (!line.tooLong && line.text.find_first_not_of(" \t") == std::string::npos) {
+    while (out) {
+        const std::optional<Line> line = ReadLine(in);
+        if (!line) {
+            break;
+        }
+        if (!line->tooLong && line->text.find_first_not_of(" \t") == std::string::npos) {
             continue;
         }
-        out << JsonLine(AnswerLine(line)) << '\n' << std::flush;
+        out << JsonLine(AnswerLine(*line)) << '\n' << std::flush;
         ++answered;
         if (progress != nullptr && answered % kProgressEvery == 0) {
             *progress << '\r' << answered << " requests answered" << std::flush;

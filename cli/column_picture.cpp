@@ -2,15 +2,16 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
+#include <utility>
+
+#include "typeset/variants.h"
+#include "worksheet/mark_rows.h"
 
 namespace numerello {
 
 namespace {
 
 constexpr double kCharacterWidth = 10;
-/// Texts whose heights differ by less belong to one row.
-constexpr double kSameRow = 5;
 /// A rule lies so close to the row below it that it needs a place between the rows.
 constexpr double kRuleUp = 8;
 constexpr double kThinnestRule = 2;
@@ -19,53 +20,56 @@ std::size_t Place(double x) {
     return static_cast<std::size_t>(std::max(0L, std::lround(x / kCharacterWidth)));
 }
 
-using Rows = std::map<double, std::string>;
+/// A rule as a text of hyphens.
+TextMark Hyphens(const StrokeMark& rule) {
+    const std::size_t length = Place(rule.x2) - Place(rule.x1) + 1;
+    return {std::string(length, '-'), rule.x1, rule.y1 - kRuleUp, SheetFont(), rule.color};
+}
 
-void Put(Rows& rows, double y, double x, const std::string& text) {
-    auto row = rows.lower_bound(y - kSameRow);
-    if (row == rows.end() || row->first > y + kSameRow) {
-        row = rows.emplace(y, "").first;
+/// What of the marks is written in characters.
+std::vector<TextMark> WrittenMarks(std::span<const Mark> marks) {
+    std::vector<TextMark> written;
+    for (const Mark& mark : marks) {
+        if (const auto* const text = std::get_if<TextMark>(&mark)) {
+            written.push_back(*text);
+        } else if (const auto* const rule = std::get_if<StrokeMark>(&mark);
+                   rule != nullptr && rule->width >= kThinnestRule) {
+            written.push_back(Hyphens(*rule));
+        }
     }
-    std::string& line = row->second;
-    const std::size_t place = Place(x);
-    line.resize(std::max(line.size(), place + text.size()), ' ');
-    line.replace(place, text.size(), text);
+    return written;
 }
 
-void PutRule(Rows& rows, const Json& mark) {
-    const Json& line = mark.at("line");
-    const auto left = line.at(0).get<double>();
-    const auto right = line.at(2).get<double>();
-    const std::size_t length = Place(right) - Place(left) + 1;
-    Put(rows, line.at(1).get<double>() - kRuleUp, left, std::string(length, '-'));
+std::string LineOf(const std::vector<TextMark>& row) {
+    std::string line;
+    for (const TextMark& mark : row) {
+        const std::size_t place = Place(mark.x);
+        line.resize(std::max(line.size(), place + mark.text.size()), ' ');
+        line.replace(place, mark.text.size(), mark.text);
+    }
+    return line;
 }
 
-/// All rows begin where the leftmost one does.
-std::vector<std::string> WithoutMargin(const Rows& rows) {
+/// All lines begin where the leftmost one does.
+std::vector<std::string> WithoutMargin(std::vector<std::string> lines) {
     std::size_t margin = std::string::npos;
-    for (const auto& [y, line] : rows) {
+    for (const std::string& line : lines) {
         margin = std::min(margin, line.find_first_not_of(' '));
     }
-    std::vector<std::string> lines;
-    for (const auto& [y, line] : rows) {
-        lines.push_back(line.substr(margin));
+    for (std::string& line : lines) {
+        line.erase(0, margin);
     }
     return lines;
 }
 
 }  // namespace
 
-std::vector<std::string> ColumnPicture(const Json& marks) {
-    Rows rows;
-    for (const Json& mark : marks) {
-        if (mark.contains("text")) {
-            Put(rows, mark.at("y").get<double>(), mark.at("x").get<double>(),
-                mark.at("text").get<std::string>());
-        } else if (mark.at("width").get<double>() >= kThinnestRule) {
-            PutRule(rows, mark);
-        }
+std::vector<std::string> ColumnPicture(std::span<const Mark> marks) {
+    std::vector<std::string> lines;
+    for (const std::vector<TextMark>& row : RowsOfTexts(WrittenMarks(marks))) {
+        lines.push_back(LineOf(row));
     }
-    return WithoutMargin(rows);
+    return WithoutMargin(std::move(lines));
 }
 
 }  // namespace numerello

@@ -1,14 +1,15 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <vector>
 
-#include "cli/json.h"
+#include "typeset/surface.h"
 
 namespace numerello {
 
-/// The marks of a column problem, as an answer tells them, drawn in characters: row by row, a cell
-/// two characters wide, its rules as hyphens. What is crossed out is left as it is.
-std::vector<std::string> ColumnPicture(const Json& marks);
+/// The marks of a column problem drawn in characters: row by row, a cell two characters wide, its
+/// rules as hyphens. What is crossed out is left as it is.
+std::vector<std::string> ColumnPicture(std::span<const Mark> marks);
 
 }  // namespace numerello

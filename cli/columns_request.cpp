@@ -15,9 +15,6 @@ namespace numerello {
 
 namespace {
 
-/// A product of more than 100 cells is cut off there and never finished.
-constexpr std::size_t kMostFrames = 101;
-
 /// The first drawing, and one for each Next Step up to the check mark.
 class FilmedColumns {
   public:
@@ -28,16 +25,15 @@ class FilmedColumns {
         auto failure = compute_Click(problem, AllSolvers(), learner, stage);
         while (!failure) {
             frames.push_back(Frame());
-            if (!problem.columns.Any() || frames.size() == kMostFrames) {
+            if (!stage.HasNext()) {
                 break;
             }
-            ++problem.playback.ShownStep;
-            failure = Trapped(problem, learner, [this] { stage.DrawColumns(); });
+            failure = stage.NextStep();
         }
         return failure;
     }
 
-    Json Frames() { return std::move(frames); }
+    Json TakeFrames() { return std::move(frames); }
 
   private:
     Json Frame() const {
@@ -79,7 +75,7 @@ void ColumnsRequest(Fields& fields, Json& answer) {
     answer["code"] = problem.topic.ProblemType;
     answer["refused"] = std::move(refused);
     answer["solvable"] = solvable;
-    answer["frames"] = film.Frames();
+    answer["frames"] = film.TakeFrames();
     answer["messages"] = learner.Messages();
     answer["failure"] = failure ? Json(FailureName(*failure)) : Json(nullptr);
 }

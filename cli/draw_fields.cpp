@@ -38,7 +38,7 @@ RequestedDraws::RequestedDraws(Fields& fields)
     if (fields.Has("seed")) {
         constexpr long kLargest = std::numeric_limits<long>::max();
         // The low 32 bits of the seed tell one stream from the others.
-        draws.Seed(static_cast<std::uint32_t>(fields.Integer("seed", -kLargest, kLargest, 0)));
+        draws.Seed(static_cast<std::uint32_t>(fields.Integer("seed", {-kLargest, kLargest}, 0)));
     }
 }
 

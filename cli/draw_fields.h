@@ -15,6 +15,8 @@ class RequestedDraws {
   public:
     /// Reads both fields.
     explicit RequestedDraws(Fields& fields);
+    RequestedDraws(const RequestedDraws&) = delete;
+    RequestedDraws& operator=(const RequestedDraws&) = delete;
 
     ExampleDraws& Draws() { return draws; }
 

@@ -8,8 +8,6 @@ namespace numerello {
 
 namespace {
 
-constexpr std::size_t kBoxCount = 6;
-constexpr std::size_t kListCount = 3;
 constexpr long kTopListRow = 6;
 
 /// Types the line; the keys that were refused go to `refused`.
@@ -40,7 +38,7 @@ void TypeBox(Problem& problem, int box, std::string_view text, Json& refused) {
 
 Entry ReadBoxes(Fields& fields) {
     Entry entry;
-    entry.boxes = fields.Strings("boxes", kBoxCount);
+    entry.boxes = fields.Strings("boxes", EntryBoxes().Text.size());
     entry.filled = fields.Bool("filled", false);
     return entry;
 }
@@ -48,7 +46,8 @@ Entry ReadBoxes(Fields& fields) {
 Entry ReadEntry(Fields& fields) {
     Entry entry = ReadBoxes(fields);
     entry.problem = fields.String("problem", "");
-    entry.lists = fields.Integers("lists", kListCount, EntryBoxes::kNoChoice, kTopListRow);
+    entry.lists = fields.Integers("lists", EntryBoxes().ListIndex.size(),
+                                  {EntryBoxes::kNoChoice, kTopListRow});
     if (entry.problem.find(kBackspace) != std::string::npos) {
         throw BadRequest("\"problem\" holds a Backspace");
     }

@@ -1,28 +1,11 @@
+#include "catalogue/bare_form.h"
 #include "catalogue/examples/example_click.h"
-#include "catalogue/guided_input.h"
 #include "cli/draw_fields.h"
 #include "cli/requests.h"
 #include "cli/setting_fields.h"
 #include "cli/topic_fields.h"
 
 namespace numerello {
-
-namespace {
-
-/// Takes an example as the entry form does, and leaves it unsolved.
-class UnsolvedForm : public FillingForm {
-  public:
-    explicit UnsolvedForm(Problem& problem) : problem(problem) {}
-
-    void ShowEntry() override {}
-    void Form_KeyPress(std::string_view key) override { numerello::Form_KeyPress(problem, key); }
-    void compute_Click() override {}
-
-  private:
-    Problem& problem;
-};
-
-}  // namespace
 
 void ExampleProblemRequest(Fields& fields, Json& answer) {
     Problem problem;
@@ -32,7 +15,7 @@ void ExampleProblemRequest(Fields& fields, Json& answer) {
     RequestedDraws requested(fields);
     fields.RejectOthers();
 
-    UnsolvedForm form(problem);
+    BareForm form(problem);
     ExampleChop(GenerateExample(problem.topic, false, complex ? AnswerSettings::kComplex : 0,
                                 requested.Draws()),
                 problem, form);

@@ -11,18 +11,19 @@ namespace {
     throw BadRequest(Text("\"", name, "\" must be ", wanted));
 }
 
-void CheckRange(std::string_view name, double value, double least, double most) {
-    if (!(value >= least && value <= most)) {
-        throw BadRequest(
-            Text("\"", name, "\" must be from ", NumberText(least), " to ", NumberText(most)));
+void CheckRange(std::string_view name, double value, Range<double> range) {
+    if (!(value >= range.least && value <= range.most)) {
+        throw BadRequest(Text("\"", name, "\" must be from ", NumberText(range.least), " to ",
+                              NumberText(range.most)));
     }
 }
 
-long WholeNumber(std::string_view name, const Json& value, long least, long most) {
+long WholeNumber(std::string_view name, const Json& value, Range<long> range) {
     if (!value.is_number_integer()) {
         WrongType(name, "a whole number");
     }
-    CheckRange(name, value.get<double>(), static_cast<double>(least), static_cast<double>(most));
+    CheckRange(name, value.get<double>(),
+               {static_cast<double>(range.least), static_cast<double>(range.most)});
     return value.get<long>();
 }
 
@@ -66,12 +67,12 @@ bool Fields::Bool(std::string_view name, bool otherwise) {
     return value->get<bool>();
 }
 
-long Fields::Integer(std::string_view name, long least, long most, long otherwise) {
+long Fields::Integer(std::string_view name, Range<long> range, long otherwise) {
     const Json* value = Find(name);
-    return value == nullptr ? otherwise : WholeNumber(name, *value, least, most);
+    return value == nullptr ? otherwise : WholeNumber(name, *value, range);
 }
 
-double Fields::Number(std::string_view name, double least, double most, double otherwise) {
+double Fields::Number(std::string_view name, Range<double> range, double otherwise) {
     const Json* value = Find(name);
     if (value == nullptr) {
         return otherwise;
@@ -80,7 +81,7 @@ double Fields::Number(std::string_view name, double least, double most, double o
         WrongType(name, "a number");
     }
     const auto number = value->get<double>();
-    CheckRange(name, number, least, most);
+    CheckRange(name, number, range);
     return number;
 }
 
@@ -112,12 +113,11 @@ std::vector<std::string> Fields::Strings(std::string_view name, std::optional<st
     return strings;
 }
 
-std::vector<long> Fields::Integers(std::string_view name, std::size_t most, long least,
-                                   long highest) {
+std::vector<long> Fields::Integers(std::string_view name, std::size_t most, Range<long> range) {
     std::vector<long> integers;
     if (const Json* array = FindArray(name, most)) {
         for (const Json& entry : *array) {
-            integers.push_back(WholeNumber(name, entry, least, highest));
+            integers.push_back(WholeNumber(name, entry, range));
         }
     }
     return integers;

@@ -17,6 +17,13 @@ class BadRequest : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+/// What a number has to lie in, its ends included.
+template <class T>
+struct Range {
+    T least;
+    T most;
+};
+
 /// The fields of one object, read by name and type. Every getter throws BadRequest for a value of
 /// a wrong type or out of its range, and remembers the name; RejectOthers refuses the rest.
 class Fields {
@@ -27,10 +34,10 @@ class Fields {
     bool Has(std::string_view name);
     std::string String(std::string_view name, std::string_view otherwise);
     bool Bool(std::string_view name, bool otherwise);
-    long Integer(std::string_view name, long least, long most, long otherwise);
-    double Number(std::string_view name, double least, double most, double otherwise);
+    long Integer(std::string_view name, Range<long> range, long otherwise);
+    double Number(std::string_view name, Range<double> range, double otherwise);
     std::vector<std::string> Strings(std::string_view name, std::optional<std::size_t> most);
-    std::vector<long> Integers(std::string_view name, std::size_t most, long least, long highest);
+    std::vector<long> Integers(std::string_view name, std::size_t most, Range<long> range);
 
     /// The entries of an array of objects.
     std::vector<const Json*> Objects(std::string_view name, std::size_t most);

@@ -25,8 +25,8 @@ struct View {
 
 View ReadView(Fields& fields) {
     const View view{
-        fields.Integer("zoom", -kMostPresses, kMostPresses, 0),
-        static_cast<int>(fields.Integer("quality", kHighQuality, kHighSpeed, kHighSpeed))};
+        fields.Integer("zoom", {-kMostPresses, kMostPresses}, 0),
+        static_cast<int>(fields.Integer("quality", {kHighQuality, kHighSpeed}, kHighSpeed))};
     if (view.quality != kHighQuality && view.quality != kHighSpeed) {
         throw BadRequest("\"quality\" must be 1 or 20");
     }

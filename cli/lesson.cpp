@@ -1,19 +1,17 @@
 #include "cli/lesson.h"
 
-#include <functional>
 #include <iomanip>
 #include <optional>
 #include <sstream>
 #include <utility>
 
 #include "app/solvers.h"
+#include "catalogue/bare_form.h"
 #include "catalogue/examples/example_click.h"
-#include "catalogue/guided_input.h"
 #include "catalogue/topic_choice.h"
 #include "cli/column_picture.h"
 #include "cli/column_stage.h"
 #include "cli/lesson_entry.h"
-#include "cli/mark_fields.h"
 #include "cli/terminal.h"
 #include "cli/terminal_text.h"
 #include "core/erasing.h"
@@ -22,9 +20,6 @@
 namespace numerello {
 
 namespace {
-
-/// A product of more than 100 cells is cut off there and never finished.
-constexpr int kMostDrawings = 101;
 
 /// Tells and asks in the terminal.
 class TerminalLearner : public Learner {
@@ -36,34 +31,20 @@ class TerminalLearner : public Learner {
     }
     bool Confirm(std::string_view /*title*/, std::string_view /*text*/) override { return true; }
     std::optional<std::string> InputBox(std::string_view title, std::string_view prompt) override {
-        std::string text;
-        if (command == Next::Solve) {
-            command = AskLine(terminal, Text(prompt, title.empty() ? "" : "  ", title, " "), text);
+        if (command != Next::GoOn) {
+            return std::nullopt;
         }
-        return command == Next::Solve ? std::optional(text) : std::nullopt;
+        AskedLine line = AskLine(terminal, Text(prompt, title.empty() ? "" : "  ", title, " "));
+        command = line.next;
+        return std::move(line.text);
     }
 
-    /// The command that was given in place of an answer, once; Solve when there was none.
-    Next TakeCommand() { return std::exchange(command, Next::Solve); }
+    /// The command that was given in place of an answer, once; GoOn when there was none.
+    Next TakeCommand() { return std::exchange(command, Next::GoOn); }
 
   private:
     Terminal& terminal;
-    Next command = Next::Solve;
-};
-
-/// The entry form while an example is put into it.
-class ExampleForm : public FillingForm {
-  public:
-    ExampleForm(Problem& problem, std::function<void()> solve)
-        : problem(problem), solve(std::move(solve)) {}
-
-    void ShowEntry() override {}
-    void Form_KeyPress(std::string_view key) override { numerello::Form_KeyPress(problem, key); }
-    void compute_Click() override { solve(); }
-
-  private:
-    Problem& problem;
-    std::function<void()> solve;
+    Next command = Next::GoOn;
 };
 
 class Lesson {
@@ -77,13 +58,22 @@ class Lesson {
             next = Next::Problem;
         }
         while (next != Next::Leave) {
-            next = next == Next::Topic     ? AskTopic()
-                   : next == Next::Example ? WorkExample()
-                                           : WorkProblem();
+            next = Work(next);
         }
     }
 
   private:
+    Next Work(Next next) {
+        switch (next) {
+            case Next::Topic:
+                return AskTopic();
+            case Next::Example:
+                return WorkExample();
+            default:
+                return WorkProblem();
+        }
+    }
+
     Next AskTopic() {
         const std::optional<std::string> caption = AskForTopic(terminal);
         if (!caption) {
@@ -103,7 +93,7 @@ class Lesson {
         Stage noStage;
         EraseProblem(problem, noStage);
         const Next next = EnterProblem(terminal, problem);
-        return next == Next::Solve ? SolveAndPlay() : next;
+        return next == Next::GoOn ? SolveAndPlay() : next;
     }
 
     Next WorkExample() {
@@ -112,7 +102,7 @@ class Lesson {
         ExampleDraws draws(clock, digits, direct);
         Stage noStage;
         Next next = Next::Problem;
-        ExampleForm form(problem, [&] {
+        BareForm form(problem, [&] {
             SayEntry(terminal, problem);
             next = SolveAndPlay();
         });
@@ -124,24 +114,24 @@ class Lesson {
         ColumnStage stage(problem, learner);
         const bool failed = compute_Click(problem, AllSolvers(), learner, stage).has_value();
         Next next = learner.TakeCommand();
-        if (next != Next::Solve) {
+        if (next != Next::GoOn) {
             return next;
         }
         if (!failed) {
             next = problem.columns.Any() || stage.Finished() ? PlayColumns(stage) : PlayLines();
         }
-        return next == Next::Solve ? AskNext(terminal, "another problem", Next::Problem) : next;
+        return next == Next::GoOn ? AskNext(terminal, "another problem", Next::Problem) : next;
     }
 
-    /// Next::Solve when all has been shown.
+    /// Next::GoOn when all has been shown.
     Next PlayLines() {
         const StepLog& log = problem.log;
         if (log.StepCount > 1) {
             terminal.Say(Text("\n", TerminalText(log.StepText[1]), "\n"));
         }
         for (int i = 2; i < log.StepCount; ++i) {
-            const Next next = AskNext(terminal, "next step", Next::Solve);
-            if (next != Next::Solve) {
+            const Next next = AskNext(terminal, "next step", Next::GoOn);
+            if (next != Next::GoOn) {
                 return next;
             }
             SayStep(i - 1, log.StepText[i], log.StepNote[i]);
@@ -149,7 +139,7 @@ class Lesson {
         if (problem.graph.GraphMode != 0) {
             terminal.Say("The graph of this problem is drawn in the window.");
         }
-        return Next::Solve;
+        return Next::GoOn;
     }
 
     void SayStep(int number, const std::string& line, const std::string& note) {
@@ -162,18 +152,17 @@ class Lesson {
     }
 
     Next PlayColumns(ColumnStage& stage) {
-        for (int drawing = 1;; ++drawing) {
+        while (true) {
             SayDrawing(stage);
-            if (!problem.columns.Any() || drawing == kMostDrawings) {
-                return Next::Solve;
+            if (!stage.HasNext()) {
+                return Next::GoOn;
             }
-            const Next next = AskNext(terminal, "next step", Next::Solve);
-            if (next != Next::Solve) {
+            const Next next = AskNext(terminal, "next step", Next::GoOn);
+            if (next != Next::GoOn) {
                 return next;
             }
-            ++problem.playback.ShownStep;
-            if (Trapped(problem, learner, [&stage] { stage.DrawColumns(); })) {
-                return Next::Solve;
+            if (stage.NextStep()) {
+                return Next::GoOn;
             }
         }
     }
@@ -181,7 +170,7 @@ class Lesson {
     void SayDrawing(const ColumnStage& stage) {
         const StepLog& log = problem.log;
         terminal.Say("");
-        for (const std::string& row : ColumnPicture(MarksOf(stage.Page()))) {
+        for (const std::string& row : ColumnPicture(stage.Page().Marks())) {
             terminal.Say(Text("    ", row));
         }
         terminal.Say(TerminalText(log.StepNote[problem.playback.ShownStep]));

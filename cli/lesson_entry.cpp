@@ -1,6 +1,7 @@
 #include "cli/lesson_entry.h"
 
 #include <functional>
+#include <utility>
 
 #include "catalogue/box_keys.h"
 #include "catalogue/entry_text.h"
@@ -47,7 +48,7 @@ struct Field {
     std::string_view commands;  ///< the letters that are commands while nothing stands in it
 };
 
-/// Solve at Enter, else a command.
+/// GoOn at Enter, else a command.
 Next Fill(Terminal& terminal, const Field& field) {
     while (true) {
         const std::string text = field.text();
@@ -58,7 +59,7 @@ Next Fill(Terminal& terminal, const Field& field) {
         }
         if (key.kind == Kind::Enter) {
             terminal.Keep();
-            return Next::Solve;
+            return Next::GoOn;
         }
         field.press(key.kind == Kind::Backspace ? std::string(kBackspace) : key.text);
     }
@@ -104,7 +105,7 @@ Next AskForRow(Terminal& terminal, const EntryListRows& list, Problem& problem) 
         std::string text;
         const std::string prompt = Text(list.name, " (1 to ", WholeText(count), "): ");
         const Next next = Fill(terminal, FreeField(prompt, text, kCommands));
-        if (next != Next::Solve || text.empty()) {
+        if (next != Next::GoOn || text.empty()) {
             return next;
         }
         const std::optional<std::int16_t> row = ReadInteger16(text);
@@ -123,11 +124,11 @@ Next FillBoxes(Terminal& terminal, const EntryLayout& layout, Problem& problem) 
                           [&](const std::string& key) { BoxKey(problem, box.number, key); },
                           kCommands};
         const Next next = Fill(terminal, field);
-        if (next != Next::Solve) {
+        if (next != Next::GoOn) {
             return next;
         }
     }
-    return Next::Solve;
+    return Next::GoOn;
 }
 
 bool TakesLetters(const Problem& problem) {
@@ -165,7 +166,7 @@ std::optional<std::string> AskForTopic(Terminal& terminal) {
         if (next == Next::Leave) {
             return std::nullopt;
         }
-        if (next != Next::Solve || text.empty()) {
+        if (next != Next::GoOn || text.empty()) {
             continue;
         }
         if (text == "?") {
@@ -178,8 +179,10 @@ std::optional<std::string> AskForTopic(Terminal& terminal) {
     }
 }
 
-Next AskLine(Terminal& terminal, const std::string& prompt, std::string& text) {
-    return Fill(terminal, FreeField(prompt, text, ""));
+AskedLine AskLine(Terminal& terminal, const std::string& prompt) {
+    std::string text;
+    const Next next = Fill(terminal, FreeField(prompt, text, ""));
+    return {next, next == Next::GoOn ? std::optional(text) : std::nullopt};
 }
 
 void SayHowToEnter(Terminal& terminal, const Problem& problem) {
@@ -193,15 +196,15 @@ Next EnterProblem(Terminal& terminal, Problem& problem) {
     const int code = problem.topic.ProblemType;
     const EntryLayout* layout = FindEntryLayout(code);
     while (true) {
-        Next next = layout == nullptr ? Next::Solve : FillBoxes(terminal, *layout, problem);
+        Next next = layout == nullptr ? Next::GoOn : FillBoxes(terminal, *layout, problem);
         for (const EntryListRows& list : ListsOf(code)) {
-            next = next == Next::Solve ? AskForRow(terminal, list, problem) : next;
+            next = next == Next::GoOn ? AskForRow(terminal, list, problem) : next;
         }
-        if (next == Next::Solve && IsTypedOnLine(code)) {
+        if (next == Next::GoOn && IsTypedOnLine(code)) {
             next = FillLine(terminal, problem);
         }
         CheckBoxesReady(problem);
-        if (next != Next::Solve || problem.controls.SolveEnabled) {
+        if (next != Next::GoOn || problem.controls.SolveEnabled) {
             return next;
         }
         terminal.Say(TerminalText(problem.topic.InstructionText));

@@ -14,19 +14,23 @@
 /// control keys are commands anywhere.
 namespace numerello {
 
-/// What comes next in a lesson.
-enum class Next { Solve, Problem, Example, Topic, Leave };
+/// What comes next in a lesson: what was begun, or something else.
+enum class Next { GoOn, Problem, Example, Topic, Leave };
 
 /// The caption of a topic, of which the beginning is enough; nothing when the learner leaves.
 std::optional<std::string> AskForTopic(Terminal& terminal);
 
-/// Any line, Solve when `text` holds it; else a command.
-Next AskLine(Terminal& terminal, const std::string& prompt, std::string& text);
+/// A line that was asked for, or the command that was given in its place.
+struct AskedLine {
+    Next next;
+    std::optional<std::string> text;  ///< only with GoOn
+};
+AskedLine AskLine(Terminal& terminal, const std::string& prompt);
 
 /// What to enter for the topic, and the commands.
 void SayHowToEnter(Terminal& terminal, const Problem& problem);
 
-/// Lets the learner fill the open form: lists, boxes, line. Solve when there is a problem to solve.
+/// Lets the learner fill the open form: lists, boxes, line. GoOn when there is a problem to solve.
 Next EnterProblem(Terminal& terminal, Problem& problem);
 
 /// Shows what has been entered for the learner.

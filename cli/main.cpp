@@ -2,155 +2,78 @@
 
 #include <CLI/CLI.hpp>
 #include <iostream>
-#include <optional>
 #include <string>
-#include <vector>
 
 #include "catalogue/topics.h"
+#include "cli/argument_request.h"
 #include "cli/batch.h"
 #include "cli/lesson.h"
 #include "cli/people.h"
 #include "cli/requests.h"
-#include "cli/saved_request.h"
 #include "core/clock.h"
+#include "core/disk.h"
 #include "core/topic_codes.h"
 
 namespace {
 
-using numerello::Json;
+using namespace numerello;  // NOLINT(google-build-using-namespace)
 
-constexpr int kNotWorked = 1;
-constexpr int kUnusable = 2;
 constexpr int kMostExamples = 1000000;
 
-/// Arguments that CLI11 took but that make no sense; what() says why.
-using BadArgument = CLI::ValidationError;
-
-struct SolveArguments {
+struct TypeArguments {
     std::string topic;
-    std::string problem;
-    std::optional<std::string> file;
-    std::vector<std::string> boxes;
-    std::vector<std::string> lists;
-    std::vector<std::string> answers;
-    std::vector<std::string> settings;
+    std::string keys;
     bool json = false;
 };
-
-/// "KEY=VALUE" cut at its first "=".
-std::pair<std::string, std::string> Pair(const std::string& argument) {
-    const std::size_t at = argument.find('=');
-    if (at == std::string::npos) {
-        throw BadArgument(argument, "needs the form KEY=VALUE");
-    }
-    return {argument.substr(0, at), argument.substr(at + 1)};
-}
-
-Json WholeOrText(const std::string& text) {
-    const Json value = Json::parse(text, nullptr, false);
-    return value.is_number_integer() ? value : Json(text);
-}
-
-/// The place that N in "N=..." names, 1 to `count`.
-std::size_t Place(const std::string& text, std::size_t count) {
-    const Json place = WholeOrText(text);
-    if (!place.is_number_integer() || place < 1 || place > count) {
-        throw BadArgument(text, "must be a number from 1 to " + std::to_string(count));
-    }
-    return place.get<std::size_t>() - 1;
-}
-
-Json Boxes(const std::vector<std::string>& arguments) {
-    Json boxes = Json::array({"", "", "", "", "", ""});
-    for (const std::string& argument : arguments) {
-        const auto [place, text] = Pair(argument);
-        boxes[Place(place, boxes.size())] = text;
-    }
-    return boxes;
-}
-
-Json Lists(const std::vector<std::string>& arguments) {
-    Json lists = Json::array({-1, -1, 0});
-    for (const std::string& argument : arguments) {
-        const auto [place, index] = Pair(argument);
-        lists[Place(place, lists.size())] = WholeOrText(index);
-    }
-    return lists;
-}
-
-Json Settings(const std::vector<std::string>& arguments) {
-    Json settings = Json::object();
-    for (const std::string& argument : arguments) {
-        const auto [key, value] = Pair(argument);
-        settings[key] = value == "true"    ? Json(true)
-                        : value == "false" ? Json(false)
-                                           : WholeOrText(value);
-    }
-    return settings;
-}
-
-/// A column problem has no lines: what its steps are, its drawings tell.
-int SolveInColumns(const Json& request) {
-    const Json columns{{"do", "columns"},
-                       {"topic", request.at("topic")},
-                       {"boxes", request.at("boxes")},
-                       {"filled", request.at("filled")},
-                       {"settings", request.at("settings")}};
-    const Json answer = numerello::Answer(columns, nullptr);
-    return numerello::PrintWorkedColumns(answer, std::cout, std::cerr);
-}
-
-/// What the learner entered: as the arguments tell it, or as it was saved.
-Json EntryRequest(const SolveArguments& arguments) {
-    if (arguments.file) {
-        return numerello::SavedRequest(*arguments.file);
-    }
-    return {{"do", "solve"},
-            {"topic", arguments.topic},
-            {"problem", arguments.problem},
-            {"boxes", Boxes(arguments.boxes)},
-            {"filled", false},
-            {"lists", Lists(arguments.lists)}};
-}
-
-int TellUnusableFile(const SolveArguments& arguments, const std::string& why) {
-    const std::string error = *arguments.file + " " + why;
-    if (arguments.json) {
-        numerello::PrintJson(numerello::Refusal(nullptr, error), std::cout);
-    }
-    std::cerr << "numerello-cli: " << error << '\n';
-    return kNotWorked;
-}
-
-int Solve(const SolveArguments& arguments) {
-    Json request = EntryRequest(arguments);
-    request["answers"] = arguments.answers;
-    request["settings"] = Settings(arguments.settings);
-    const Json answer = numerello::Answer(request, nullptr);
-    if (!arguments.json && numerello::IsColumnTopic(answer.value("code", 0))) {
-        return SolveInColumns(request);
-    }
-    return numerello::PrintSolved(answer, arguments.json, std::cout, std::cerr);
-}
-
-int Type(const std::string& topic, const std::string& keys, bool json) {
-    const Json answer =
-        numerello::Answer({{"do", "type"}, {"topic", topic}, {"keys", keys}}, nullptr);
-    return json ? numerello::PrintJson(answer, std::cout)
-                : numerello::PrintTyped(answer, std::cout, std::cerr);
-}
-
-int Topics(bool json) {
-    const Json answer = numerello::Answer({{"do", "topics"}}, nullptr);
-    return json ? numerello::PrintJson(answer, std::cout)
-                : numerello::PrintTopics(answer, std::cout, std::cerr);
-}
 
 struct ExampleArguments {
     std::string topic;
     bool complex = false;
     int count = 1;
 };
+
+/// What the command line says, and what comes of it.
+struct Call {
+    bool topicsJson = false;
+    SolveArguments solve;
+    TypeArguments type;
+    ExampleArguments example;
+    std::string learnTopic;
+    int status = kWorked;
+};
+
+int TellUnusableFile(const SolveArguments& arguments, const std::string& why) {
+    const std::string error = *arguments.file + " " + why;
+    if (arguments.json) {
+        PrintJson(Refusal(nullptr, error), std::cout);
+    }
+    std::cerr << "numerello-cli: " << error << '\n';
+    return kNotWorked;
+}
+
+/// A column problem has no lines: what its steps are, its drawings tell.
+int Solve(const SolveArguments& arguments) {
+    const Json request = SolveRequestOf(arguments);
+    const Json answer = Answer(request, nullptr);
+    if (arguments.json) {
+        return PrintSolvedJson(answer, std::cout, std::cerr);
+    }
+    if (IsColumnTopic(answer.value("code", 0))) {
+        return PrintWorkedColumns(Answer(ColumnsRequestOf(request), nullptr), std::cout, std::cerr);
+    }
+    return PrintSolved(answer, std::cout, std::cerr);
+}
+
+int Type(const TypeArguments& arguments) {
+    const Json answer =
+        Answer({{"do", "type"}, {"topic", arguments.topic}, {"keys", arguments.keys}}, nullptr);
+    return arguments.json ? PrintJson(answer, std::cout) : PrintTyped(answer, std::cout, std::cerr);
+}
+
+int Topics(bool json) {
+    const Json answer = Answer({{"do", "topics"}}, nullptr);
+    return json ? PrintJson(answer, std::cout) : PrintTopics(answer, std::cout, std::cerr);
+}
 
 /// "mmss" for a second of the hour; they go round.
 std::string Moment(int second) {
@@ -164,16 +87,16 @@ std::string Moment(int second) {
 int Example(const ExampleArguments& arguments) {
     constexpr int kProgressEvery = 1000;
     const bool tellsProgress = isatty(STDERR_FILENO) != 0 && isatty(STDOUT_FILENO) == 0;
-    const int now = numerello::SystemClock().MinutesAndSeconds();
+    const int now = SystemClock().MinutesAndSeconds();
     const int first = now / 100 * 60 + now % 100;
-    int status = 0;
-    for (int i = 0; i < arguments.count && status == 0 && std::cout; ++i) {
+    int status = kWorked;
+    for (int i = 0; i < arguments.count && status == kWorked && std::cout; ++i) {
         const Json request{{"do", "example"},
                            {"topic", arguments.topic},
                            {"complex", arguments.complex},
                            {"clock", Moment(first + i)},
                            {"seed", first + i}};
-        status = numerello::PrintExample(numerello::Answer(request, nullptr), std::cout, std::cerr);
+        status = PrintExample(Answer(request, nullptr), std::cout, std::cerr);
         if (tellsProgress && (i + 1) % kProgressEvery == 0) {
             std::cerr << '\r' << i + 1 << " examples made" << std::flush;
         }
@@ -185,20 +108,27 @@ int Example(const ExampleArguments& arguments) {
 }
 
 int Batch() {
-    numerello::RunBatch(std::cin, std::cout, isatty(STDERR_FILENO) != 0 ? &std::cerr : nullptr);
-    return 0;
+    RunBatch(std::cin, std::cout, isatty(STDERR_FILENO) != 0 ? &std::cerr : nullptr);
+    return kWorked;
 }
 
 int Learn(const std::string& topic) {
-    if (!topic.empty() && numerello::FindTopic(topic) == nullptr) {
+    if (!topic.empty() && FindTopic(topic) == nullptr) {
         std::cerr << "numerello-cli: unknown topic \"" << topic << "\"\n";
         return kUnusable;
     }
-    numerello::HoldLesson(topic, std::cout);
-    return 0;
+    HoldLesson(topic, std::cout);
+    return kWorked;
 }
 
-void AddSolve(CLI::App& app, SolveArguments& arguments, int& status) {
+void AddTopics(CLI::App& app, Call& call) {
+    CLI::App* topics = app.add_subcommand("topics", "List the topics");
+    topics->add_flag("--json", call.topicsJson, "Print the list as JSON");
+    topics->callback([&call] { call.status = Topics(call.topicsJson); });
+}
+
+void AddSolve(CLI::App& app, Call& call) {
+    SolveArguments& arguments = call.solve;
     CLI::App* solve = app.add_subcommand("solve", "Work a problem, line by line");
     CLI::Option* topic = solve->add_option("--topic", arguments.topic, "The topic's caption");
     CLI::Option* file = solve->add_option("--file", arguments.file, "A saved problem");
@@ -214,16 +144,46 @@ void AddSolve(CLI::App& app, SolveArguments& arguments, int& status) {
     addMany("--answer", arguments.answers, "The answer to the next question");
     addMany("--set", arguments.settings, "KEY=VALUE: a setting, such as RoundDigits=4");
     solve->add_flag("--json", arguments.json, "Print the answer as JSON");
-    solve->callback([&arguments, &status, topic, file] {
+    solve->callback([&call, topic, file] {
         if (topic->count() + file->count() == 0) {
             throw CLI::RequiredError("--topic or --file");
         }
         try {
-            status = Solve(arguments);
-        } catch (const numerello::FileError& error) {
-            status = TellUnusableFile(arguments, error.what());
+            call.status = Solve(call.solve);
+        } catch (const BadArgument& bad) {
+            throw CLI::ValidationError(bad.what());
+        } catch (const FileError& error) {
+            call.status = TellUnusableFile(call.solve, error.what());
         }
     });
+}
+
+void AddType(CLI::App& app, Call& call) {
+    CLI::App* type = app.add_subcommand("type", "Type keys and see what each does");
+    type->add_option("--topic", call.type.topic, "The topic's caption")->required();
+    type->add_option("keys", call.type.keys, "The keys")->required();
+    type->add_flag("--json", call.type.json, "Print the answer as JSON");
+    type->callback([&call] { call.status = Type(call.type); });
+}
+
+void AddBatch(CLI::App& app, Call& call) {
+    CLI::App* batch = app.add_subcommand("batch", "Answer requests, one JSON object a line");
+    batch->callback([&call] { call.status = Batch(); });
+}
+
+void AddExample(CLI::App& app, Call& call) {
+    CLI::App* example = app.add_subcommand("example", "Make up problems of a topic");
+    example->add_option("--topic", call.example.topic, "The topic's caption")->required();
+    example->add_flag("--complex", call.example.complex, "Longer numbers, larger expressions");
+    example->add_option("--count", call.example.count, "How many, 1 if not given")
+        ->check(CLI::Range(1, kMostExamples));
+    example->callback([&call] { call.status = Example(call.example); });
+}
+
+void AddLearn(CLI::App& app, Call& call) {
+    CLI::App* learn = app.add_subcommand("learn", "The tutor in this terminal");
+    learn->add_option("--topic", call.learnTopic, "The topic's caption");
+    learn->callback([&call] { call.status = Learn(call.learnTopic); });
 }
 
 /// The exit status of the command line.
@@ -231,41 +191,10 @@ int Run(int argc, char** argv) {
     CLI::App app("The mathematics tutor without its window", "numerello-cli");
     app.set_version_flag("--version", "numerello-cli " NUMERELLO_VERSION);
     app.require_subcommand(1);
-    int status = 0;
-
-    bool topicsJson = false;
-    CLI::App* topics = app.add_subcommand("topics", "List the topics");
-    topics->add_flag("--json", topicsJson, "Print the list as JSON");
-    topics->callback([&] { status = Topics(topicsJson); });
-
-    SolveArguments solveArguments;
-    AddSolve(app, solveArguments, status);
-
-    std::string typeTopic;
-    std::string typeKeys;
-    bool typeJson = false;
-    CLI::App* type = app.add_subcommand("type", "Type keys and see what each does");
-    type->add_option("--topic", typeTopic, "The topic's caption")->required();
-    type->add_option("keys", typeKeys, "The keys")->required();
-    type->add_flag("--json", typeJson, "Print the answer as JSON");
-    type->callback([&] { status = Type(typeTopic, typeKeys, typeJson); });
-
-    CLI::App* batch = app.add_subcommand("batch", "Answer requests, one JSON object a line");
-    batch->callback([&] { status = Batch(); });
-
-    ExampleArguments exampleArguments;
-    CLI::App* example = app.add_subcommand("example", "Make up problems of a topic");
-    example->add_option("--topic", exampleArguments.topic, "The topic's caption")->required();
-    example->add_flag("--complex", exampleArguments.complex, "Longer numbers, larger expressions");
-    example->add_option("--count", exampleArguments.count, "How many, 1 if not given")
-        ->check(CLI::Range(1, kMostExamples));
-    example->callback([&] { status = Example(exampleArguments); });
-
-    std::string learnTopic;
-    CLI::App* learn = app.add_subcommand("learn", "The tutor in this terminal");
-    learn->add_option("--topic", learnTopic, "The topic's caption");
-    learn->callback([&] { status = Learn(learnTopic); });
-
+    Call call;
+    for (const auto add : {AddTopics, AddSolve, AddType, AddBatch, AddExample, AddLearn}) {
+        add(app, call);
+    }
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& help) {
@@ -274,7 +203,7 @@ int Run(int argc, char** argv) {
         app.exit(error);
         return kUnusable;
     }
-    return status;
+    return call.status;
 }
 
 }  // namespace

@@ -24,6 +24,21 @@ Json Fields(const ImageMark& /*mark*/) {
     return nullptr;
 }
 
+Mark ReadMark(const Json& mark) {
+    const auto number = [](const Json& value) { return value.get<double>(); };
+    const auto color = mark.at("color").get<Color>();
+    if (mark.contains("text")) {
+        return TextMark{mark.at("text").get<std::string>(),
+                        number(mark.at("x")),
+                        number(mark.at("y")),
+                        {std::string(kSheetFace), number(mark.at("size"))},
+                        color};
+    }
+    const Json& line = mark.at("line");
+    return StrokeMark{number(line.at(0)), number(line.at(1)),       number(line.at(2)),
+                      number(line.at(3)), number(mark.at("width")), color};
+}
+
 }  // namespace
 
 Json JsonNumber(double value) {
@@ -46,6 +61,16 @@ Json MarksOf(const Surface& surface) {
         marks.push_back(MarkFields(mark));
     }
     return marks;
+}
+
+std::vector<Mark> ReadMarks(const Json& marks) {
+    std::vector<Mark> read;
+    for (const Json& mark : marks) {
+        if (!mark.is_null()) {
+            read.push_back(ReadMark(mark));
+        }
+    }
+    return read;
 }
 
 }  // namespace numerello

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "cli/json.h"
 #include "typeset/surface.h"
 
@@ -16,5 +18,8 @@ Json MarkFields(const Mark& mark);
 
 /// All marks of a surface as the answers write them.
 Json MarksOf(const Surface& surface);
+
+/// The marks of such an answer, all in the sheets' face.
+std::vector<Mark> ReadMarks(const Json& marks);
 
 }  // namespace numerello

@@ -7,15 +7,12 @@
 #include "catalogue/entry_text.h"
 #include "catalogue/topics.h"
 #include "cli/column_picture.h"
+#include "cli/mark_fields.h"
 #include "cli/terminal_text.h"
 
 namespace numerello {
 
 namespace {
-
-constexpr int kWorked = 0;
-constexpr int kNotWorked = 1;
-constexpr int kUnusable = 2;
 
 std::string String(const Json& object, const char* name) {
     return object.at(name).get<std::string>();
@@ -95,20 +92,24 @@ int ExitStatus(const Json& answer) {
 
 }  // namespace
 
-int PrintSolved(const Json& answer, bool asJson, std::ostream& out, std::ostream& err) {
-    if (asJson) {
-        PrintJson(answer, out);
-    }
+int PrintSolved(const Json& answer, std::ostream& out, std::ostream& err) {
     if (!Usable(answer)) {
-        return asJson ? kUnusable : TellUnusable(answer, err);
+        return TellUnusable(answer, err);
     }
-    if (!asJson) {
-        PrintProblem(answer, out);
-        PrintSteps(answer.at("lines"), out);
-    }
+    PrintProblem(answer, out);
+    PrintSteps(answer.at("lines"), out);
     out << std::flush;
     TellTroubles(answer, err);
     return ExitStatus(answer);
+}
+
+int PrintSolvedJson(const Json& answer, std::ostream& out, std::ostream& err) {
+    const int status = PrintJson(answer, out);
+    if (Usable(answer)) {
+        out << std::flush;
+        TellTroubles(answer, err);
+    }
+    return status;
 }
 
 int PrintWorkedColumns(const Json& answer, std::ostream& out, std::ostream& err) {
@@ -121,7 +122,7 @@ int PrintWorkedColumns(const Json& answer, std::ostream& out, std::ostream& err)
     }
     if (!frames.empty()) {
         out << '\n';
-        for (const std::string& row : ColumnPicture(frames.back().at("marks"))) {
+        for (const std::string& row : ColumnPicture(ReadMarks(frames.back().at("marks")))) {
             out << "    " << row << '\n';
         }
     }

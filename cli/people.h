@@ -4,12 +4,17 @@
 
 #include "cli/json.h"
 
-/// Answers written for people instead of programs. Each returns the exit status: 0 worked, 1 not
-/// worked or failed, 2 unusable arguments.
+/// Answers written for people instead of programs. Each returns the exit status.
 namespace numerello {
 
-/// The working on `out`, as text or as JSON; what was refused or went wrong on `err`.
-int PrintSolved(const Json& answer, bool asJson, std::ostream& out, std::ostream& err);
+inline constexpr int kWorked = 0;
+inline constexpr int kNotWorked = 1;  ///< or failed
+inline constexpr int kUnusable = 2;   ///< the arguments
+
+/// The working on `out`; what was refused or went wrong on `err`.
+int PrintSolved(const Json& answer, std::ostream& out, std::ostream& err);
+/// The same with the whole answer on `out`, as one line of JSON.
+int PrintSolvedJson(const Json& answer, std::ostream& out, std::ostream& err);
 /// The reason of every step of a column problem, and the finished working drawn in characters.
 int PrintWorkedColumns(const Json& answer, std::ostream& out, std::ostream& err);
 int PrintTyped(const Json& answer, std::ostream& out, std::ostream& err);

@@ -10,7 +10,6 @@ namespace numerello {
 
 namespace {
 
-constexpr std::size_t kMostRows = 10;
 constexpr long kMostProblems = 200;
 
 TestRow ReadRow(const Json& object) {
@@ -20,7 +19,7 @@ TestRow ReadRow(const Json& object) {
     }
     TestRow row;
     row.topic = fields.String("topic", "");
-    row.count = static_cast<int>(fields.Integer("count", 0, kMostProblems, 0));
+    row.count = static_cast<int>(fields.Integer("count", {0, kMostProblems}, 0));
     row.complex = fields.Bool("complex", false);
     fields.RejectOthers();
     if (FindTestTopic(row.topic) == nullptr) {
@@ -31,7 +30,7 @@ TestRow ReadRow(const Json& object) {
 
 std::vector<TestRow> ReadRows(Fields& fields) {
     std::vector<TestRow> rows;
-    for (const Json* object : fields.Objects("rows", kMostRows)) {
+    for (const Json* object : fields.Objects("rows", kTestRows)) {
         rows.push_back(ReadRow(*object));
     }
     if (rows.empty()) {

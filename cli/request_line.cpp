@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "cli/fields.h"
 #include "core/text.h"
 
 namespace numerello {
@@ -33,11 +32,8 @@ class Watch {
         }
     }
 
-    void Check() const {
-        if (!trouble.empty()) {
-            throw BadRequest(trouble);
-        }
-    }
+    /// Why the line is no request, empty so far when nothing is wrong.
+    const std::string& Trouble() const { return trouble; }
 
     /// Whether something was dropped that "id" holds.
     bool DroppedInId() const { return droppedInId; }
@@ -73,28 +69,31 @@ class Watch {
 
 }  // namespace
 
-void ReadRequestLine(std::string_view line, Json& request, Json& id) {
+RequestLine ReadRequestLine(std::string_view line) {
+    RequestLine read;
     // The parser takes a NUL for the end of the line.
     if (line.find('\0') != std::string_view::npos) {
-        throw BadRequest("not JSON");
+        read.trouble = "not JSON";
+        return read;
     }
     Watch watch;
-    request = Json::parse(
+    read.request = Json::parse(
         line,
         [&watch](int depth, Json::parse_event_t event, Json& parsed) {
             return watch.See(depth, event, parsed);
         },
         false);
-    if (request.is_object() && request.contains("id") && !watch.DroppedInId()) {
-        id = request["id"];
+    if (read.request.is_object() && read.request.contains("id") && !watch.DroppedInId()) {
+        read.id = read.request["id"];
     }
-    watch.Check();
-    if (request.is_discarded()) {
-        throw BadRequest("not JSON");
+    if (!watch.Trouble().empty()) {
+        read.trouble = watch.Trouble();
+    } else if (read.request.is_discarded()) {
+        read.trouble = "not JSON";
+    } else if (!read.request.is_object()) {
+        read.trouble = "not a JSON object";
     }
-    if (!request.is_object()) {
-        throw BadRequest("not a JSON object");
-    }
+    return read;
 }
 
 }  // namespace numerello

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "cli/json.h"
@@ -12,9 +13,16 @@ inline constexpr int kDeepestNesting = 256;
 /// An object may have this many keys.
 inline constexpr std::size_t kMostKeys = 1000;
 
-/// Reads one line as a request object into `request` and sets `id` to its "id", null when it has
-/// none. Throws BadRequest, with `id` set as far as it could be read, for a line that is no JSON
-/// (invalid UTF-8 included), no object, beyond the limits above, or that gives a key twice.
-void ReadRequestLine(std::string_view line, Json& request, Json& id);
+// Moving JSON throws nothing, though its library does not say so.
+// NOLINTNEXTLINE(bugprone-exception-escape)
+struct RequestLine {
+    Json request;
+    Json id;              ///< null when it has none
+    std::string trouble;  ///< why it is no request, with the id as far as it could be read
+};
+
+/// Reads one line as a request object. It is none when it is no JSON (invalid UTF-8 included), no
+/// object, beyond the limits above, or gives a key twice.
+RequestLine ReadRequestLine(std::string_view line);
 
 }  // namespace numerello

@@ -8,6 +8,7 @@
 #include "cli/topic_fields.h"
 #include "core/text.h"
 #include "graph/graph_terms.h"
+#include "typeset/variants.h"
 #include "worksheet/number_line.h"
 
 namespace numerello {
@@ -25,7 +26,7 @@ Json Lines(const StepLog& log) {
 /// What the topic draws beside its lines.
 Json Drawing(const Problem& problem) {
     const PlainMetrics metrics;
-    Surface sheet(metrics, {std::string(kSheetFace), 12});
+    Surface sheet(metrics, SheetFont());
     if (const auto& line = problem.playback.NumberLine) {
         DrawNumberLine(sheet, line->A, line->B);
     }

@@ -2,26 +2,19 @@
 
 #include <algorithm>
 #include <array>
-#include <span>
 #include <utility>
 #include <vector>
 
 #include "core/text.h"
 #include "typeset/fraction_parts.h"
 #include "typeset/notation_walk.h"
+#include "typeset/shown_sign.h"
 
 namespace numerello {
 
 namespace {
 
 using Glyph = std::pair<std::string_view, std::string_view>;
-
-constexpr auto kGlyphs = std::to_array<Glyph>({
-    {"{", "÷"},
-    {"`", "π"},
-    {"\\", "±"},
-    {"$", "≠"},
-});
 
 constexpr auto kRaised = std::to_array<Glyph>({
     {"0", "⁰"},
@@ -41,12 +34,12 @@ constexpr auto kRaised = std::to_array<Glyph>({
 
 constexpr std::string_view kOperators = "+-*/=<>,";
 
-/// Null when the table has none.
-const Glyph* Find(std::span<const Glyph> glyphs, std::string_view character) {
-    const auto found = std::find_if(glyphs.begin(), glyphs.end(), [character](const Glyph& glyph) {
-        return glyph.first == character;
-    });
-    return found == glyphs.end() ? nullptr : &*found;
+/// Null for a character that cannot be raised.
+const Glyph* FindRaised(std::string_view character) {
+    const auto* const found =
+        std::find_if(kRaised.begin(), kRaised.end(),
+                     [character](const Glyph& glyph) { return glyph.first == character; });
+    return found == kRaised.end() ? nullptr : found;
 }
 
 /// The control characters have pictures from U+2400, Delete has one at U+2421. Those of the second
@@ -91,7 +84,7 @@ std::string GroupedDivisor(std::string_view part) {
 std::string RaisedText(std::string_view body) {
     std::string raised;
     for (const std::string& character : Characters(body)) {
-        const Glyph* glyph = Find(kRaised, character);
+        const Glyph* glyph = FindRaised(character);
         if (glyph == nullptr) {
             return Text("^(", TerminalText(body), ")");
         }
@@ -134,8 +127,7 @@ std::string Plain(const std::vector<std::string>& pieces) {
         const auto first = pieces.begin() + static_cast<std::ptrdiff_t>(at) + 1;
         const auto partner = opens ? std::find(first, pieces.end(), here) : pieces.end();
         if (partner == pieces.end()) {
-            const Glyph* glyph = Find(kGlyphs, here);
-            plain += glyph == nullptr ? std::string_view(here) : glyph->second;
+            plain += ShownSign(here);
             continue;
         }
         std::string body;

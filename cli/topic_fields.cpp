@@ -25,7 +25,7 @@ const Topic& NamedTopic(Fields& fields) {
         throw BadRequest(Text("unknown topic \"", caption, "\""));
     }
     constexpr long kLargest = std::numeric_limits<int>::max();
-    const long code = fields.Integer("code", -kLargest, kLargest, 0);
+    const long code = fields.Integer("code", {-kLargest, kLargest}, 0);
     if (const Topic* topic = FindTopicByCode(static_cast<int>(code))) {
         return *topic;
     }

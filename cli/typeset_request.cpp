@@ -46,10 +46,10 @@ SampleRequest ReadSample(Fields& fields) {
     SampleRequest request;
     request.target = *target;
     request.text = fields.String("text", "");
-    request.x = fields.Number("x", -kFarthest, kFarthest, 0);
-    request.y = fields.Number("y", -kFarthest, kFarthest, 0);
+    request.x = fields.Number("x", {-kFarthest, kFarthest}, 0);
+    request.y = fields.Number("y", {-kFarthest, kFarthest}, 0);
     if (fields.Has("size")) {
-        request.size = fields.Number("size", kLeastSize, kLargestSize, kLeastSize);
+        request.size = fields.Number("size", {kLeastSize, kLargestSize}, kLeastSize);
     }
     request.blue = fields.Bool("blue", false);
     AnswerSettings unused;

@@ -26,7 +26,6 @@ constexpr double kCarryBack = 19;
 constexpr double kCarryOnPerRow = 20;
 
 constexpr int kOpeningNote = 2;
-constexpr int kMostCells = 100;
 
 /// The counter is 100 and the number of cells to draw. All of them at once is 200.
 constexpr int kNoCell = 100;

@@ -11,6 +11,7 @@
 #include "columns/subtraction.h"
 #include "core/failure.h"
 #include "core/topic_codes.h"
+#include "typeset/variants.h"
 
 namespace numerello {
 
@@ -31,9 +32,9 @@ constexpr std::array kOperations{
     Operation{kDivision, &ColumnRequest::ColumnDivide, LongDivision, 280},
 };
 
-// A digit and a line of 12 points on the sheet.
-constexpr double kDigitWidth = 134.0 / 204 * 12;
-constexpr double kLineHeight = 43.0 / 30 * 12;
+// A digit and a line on the sheet.
+constexpr double kDigitWidth = kCharacterPerPoint * kSheetPoints;
+constexpr double kLineHeight = kLinePerPoint * kSheetPoints;
 
 /// Boxes are typed as digits, but a saved problem may hold anything.
 void RequireDigits(const std::string& number) {

@@ -1,7 +1,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "catalogue/saved_problem.h"
+#include "catalogue/bare_form.h"
 #include "catalogue/topics.h"
 #include "core/erasing.h"
 #include "line_invariants.h"
@@ -13,24 +13,6 @@ namespace {
 
 using namespace numerello;
 
-/// The entry form of any problem, without its window.
-class FuzzForm : public LoadingForm {
-  public:
-    explicit FuzzForm(Problem& problem) : problem(problem) {}
-
-    void Open() override {
-        Stage stage;
-        EraseProblem(problem, stage);
-    }
-    void ShowEntry() override {}
-    void Form_KeyPress(std::string_view key) override { numerello::Form_KeyPress(problem, key); }
-    void compute_Click() override {}
-    void TellStatus(std::string_view) override {}
-
-  private:
-    Problem& problem;
-};
-
 void Expect(bool right, const char* wrong, const std::string& line) {
     if (!right) {
         std::fprintf(stderr, "%s: %s\n", wrong, line.c_str());
@@ -39,7 +21,7 @@ void Expect(bool right, const char* wrong, const std::string& line) {
 }
 
 void Load(const SavedProblem& saved, Problem& problem) {
-    FuzzForm form(problem);
+    BareForm form(problem);
     MersenneSource random;
     LoadSavedProblem(saved, problem, form, FixedClock(0), random);
 }

@@ -5,6 +5,7 @@
 
 #include "core/number.h"
 #include "core/text.h"
+#include "help/file_lines.h"
 #include "help/help_error.h"
 #include "help/page_text.h"
 #include "help/set_text.h"
@@ -27,21 +28,14 @@ void AddPage(HelpBook& book, std::string name, std::string_view body) {
     book.pages.push_back({std::move(name), title, std::move(html)});
 }
 
-std::vector<std::string> LinesOf(std::string_view file) {
-    std::vector<std::string> lines;
-    while (!file.empty()) {
-        const std::size_t end = std::min(file.find('\n'), file.size());
-        if (const std::string_view line = Trimmed(file.substr(0, end)); !line.empty()) {
-            lines.emplace_back(line);
-        }
-        file.remove_prefix(std::min(end + 1, file.size()));
-    }
-    return lines;
-}
-
 void AddGuide(HelpBook& book, const HelpSource& source) {
     book.contents.push_back({0, "", "Using Numerello"});
-    for (const std::string& name : LinesOf(source("pages/contents.txt"))) {
+    const std::string contents = source("pages/contents.txt");
+    for (const std::string_view line : LinesOf(contents)) {
+        const std::string name(Trimmed(line));
+        if (name.empty()) {
+            continue;
+        }
         AddPage(book, name, WithMath(source(Text("pages/", name, ".html"))));
         book.contents.push_back({1, name, book.pages.back().title});
     }

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/text.h"
+#include "help/file_lines.h"
 #include "help/help_error.h"
 
 namespace numerello {
@@ -67,31 +68,30 @@ std::array<std::string_view, kFieldCount> FieldsOf(std::string_view line) {
 }  // namespace
 
 HelpIndex::HelpIndex(std::string_view contentsFile) {
-    while (!contentsFile.empty()) {
-        const std::size_t end = std::min(contentsFile.find('\n'), contentsFile.size());
-        const auto [depth, page, title, text] = FieldsOf(contentsFile.substr(0, end));
+    for (const std::string_view line : LinesOf(contentsFile)) {
+        const auto [depth, page, title, text] = FieldsOf(line);
         if (depth.size() != 1 || !IsDigit(depth)) {
             throw HelpError(Text("a line of the contents without its depth: ", title));
         }
         rows.push_back({depth.front() - '0', std::string(page), std::string(title)});
         words.push_back({Folded(title), Folded(Text(title, " ", text))});
-        contentsFile.remove_prefix(std::min(end + 1, contentsFile.size()));
     }
 }
 
-int HelpIndex::RowOf(std::string_view page) const {
+std::optional<int> HelpIndex::RowOf(std::string_view page) const {
     const auto row = std::find_if(rows.begin(), rows.end(), [page](const ContentsRow& each) {
         return each.page == page && !page.empty();
     });
-    return row == rows.end() ? -1 : static_cast<int>(row - rows.begin());
+    return row == rows.end() ? std::nullopt : std::optional(static_cast<int>(row - rows.begin()));
 }
 
 std::string HelpIndex::PageBeside(std::string_view page, int steps) const {
     const int direction = steps < 0 ? -1 : 1;
-    int row = RowOf(page);
-    if (row < 0) {
+    const std::optional<int> start = RowOf(page);
+    if (!start) {
         return "";
     }
+    int row = *start;
     while (steps != 0) {
         row += direction;
         if (row < 0 || row >= static_cast<int>(rows.size())) {

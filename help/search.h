@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,8 +17,8 @@ class HelpIndex {
 
     const std::vector<ContentsRow>& Rows() const { return rows; }
 
-    /// The index of a page's row; nothing but -1 when there is no such page.
-    int RowOf(std::string_view page) const;
+    /// The index of a page's row; nothing when there is no such page.
+    std::optional<int> RowOf(std::string_view page) const;
 
     /// The page `steps` pages before (negative) or behind another in the contents; empty when
     /// there is none.

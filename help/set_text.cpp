@@ -1,27 +1,16 @@
 #include "help/set_text.h"
 
 #include <algorithm>
-#include <array>
 #include <vector>
 
 #include "core/text.h"
 #include "help/help_error.h"
+#include "typeset/shown_sign.h"
 #include "worksheet/spoken_line.h"
 
 namespace numerello {
 
 namespace {
-
-/// Characters of math text that stand for a sign no keyboard has.
-struct Sign {
-    std::string_view mark;
-    std::string_view shown;
-};
-
-constexpr std::array kSigns{
-    Sign{"{", "\u00f7"}, Sign{"`", "\u03c0"}, Sign{"$", "\u2260"}, Sign{"\\", "\u00b1"},
-    Sign{"&", "&amp;"},  Sign{"<", "&lt;"},   Sign{">", "&gt;"},   Sign{"\"", "&quot;"},
-};
 
 constexpr std::string_view kRedBegins = "<span class=\"red\">";
 constexpr std::string_view kRedEnds = "</span>";
@@ -106,13 +95,10 @@ std::string AsText(const Word& word, bool red) {
     std::string text;
     text += red ? kRedBegins : "";
     for (const std::string& character : word) {
-        const auto* const sign =
-            std::find_if(kSigns.begin(), kSigns.end(),
-                         [&character](const Sign& each) { return each.mark == character; });
         if (character == "[" || character == "]") {
             text += character == "[" ? kRedBegins : kRedEnds;
         } else {
-            text += sign == kSigns.end() ? std::string_view(character) : sign->shown;
+            text += Escaped(ShownSign(character));
         }
     }
     return text + std::string(RedBehind(word, red) ? kRedEnds : "");
@@ -183,17 +169,6 @@ std::string Escaped(std::string_view text) {
 
 std::string MathPicture(std::string_view line, Ink ink) {
     return PictureOf(line, SpokenLine(line), ink);
-}
-
-bool HasWords(std::string_view line) {
-    int letters = 0;
-    for (const std::string& character : Characters(line)) {
-        letters = IsLetter(character) ? letters + 1 : 0;
-        if (letters == 3) {
-            return true;
-        }
-    }
-    return false;
 }
 
 std::string MathSentence(std::string_view sentence, Ink ink) {

@@ -17,15 +17,12 @@ std::string Escaped(std::string_view text);
 /// A whole line of math text as one picture, which is read aloud in words.
 std::string MathPicture(std::string_view line, Ink ink);
 
-/// Whether the line has words, which may be broken at the blanks between them, rather than
-/// mathematics alone.
-bool HasWords(std::string_view line);
-
 /// A sentence as text; its fractions, roots and exponents, with what stands close to them, as
 /// pictures. What stands between "[" and "]" is emphasised.
 std::string MathSentence(std::string_view sentence, Ink ink);
 
-/// A line as a picture or as a sentence, whichever it is.
+/// A line as a picture, or where it has words, which may be broken at the blanks between them, as a
+/// sentence.
 std::string MathLine(std::string_view line, Ink ink);
 
 /// HTML with its <m>...</m> replaced by pictures in the page's ink. Throws HelpError for one that

@@ -8,6 +8,7 @@
 #include "core/text.h"
 #include "help/box_names.h"
 #include "help/contents.h"
+#include "help/help_error.h"
 #include "help/set_text.h"
 #include "help/what_to_type.h"
 #include "help/worked_example.h"
@@ -56,8 +57,12 @@ std::string EntryOf(const TopicText& text, const EntryLayout* layout) {
                      "</b> in the second."));
         }
         if (layout->lists == EntryLists::Roundings) {
+            const auto rows = RoundingRows();
             const auto row = static_cast<std::size_t>(text.boxes.ListIndex[2]);
-            add(Text("Choose <b>", RoundingRows()[row], "</b> from the list."));
+            if (row >= rows.size()) {
+                throw HelpError(Text("\"", text.caption, "\" chooses a row that no list has"));
+            }
+            add(Text("Choose <b>", rows[row], "</b> from the list."));
         }
     }
     return Text("<ul>\n", items, "</ul>\n");

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/text.h"
+#include "help/file_lines.h"
 #include "help/help_error.h"
 
 namespace numerello {
@@ -85,10 +86,8 @@ class Reader {
 
 std::vector<TopicText> ReadTopicTexts(std::string_view file) {
     Reader reader;
-    while (!file.empty()) {
-        const std::size_t end = std::min(file.find('\n'), file.size());
-        reader.Take(file.substr(0, end));
-        file.remove_prefix(std::min(end + 1, file.size()));
+    for (const std::string_view line : LinesOf(file)) {
+        reader.Take(line);
     }
     return reader.Topics();
 }

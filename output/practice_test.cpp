@@ -1,6 +1,7 @@
 #include "output/practice_test.h"
 
-#include <array>
+#include <cstdint>
+#include <utility>
 
 #include "catalogue/examples/example.h"
 #include "catalogue/topics.h"
@@ -11,21 +12,6 @@
 namespace numerello {
 
 namespace {
-
-struct Letters {
-    std::string_view caption;
-    int MaxVariables;
-    bool linearGraph = false;
-};
-
-/// The topics with letters. The others never ask for their number.
-constexpr auto kLetters = std::to_array<Letters>({
-    {"Arithmetic Principles", 1},
-    {"Solving Equations", 1},
-    {"Simplifying Polynomials", 1},
-    {"Evaluating Polynomials", 3},
-    {"Graphing A Linear Equation", 2, true},
-});
 
 void WriteLine(PracticeTest& test, std::string line) {
     test.TestLines[test.TestLineCount] = std::move(line);
@@ -59,18 +45,17 @@ void SetTestTopic(std::string_view Name, PracticeTest& test) {
     if (found == nullptr) {
         return;
     }
-    test.topic.TopicTitle = found->caption;
-    test.topic.ProblemType = found->code;
+    const Topic& topic = *FindTopic(Name);
+    test.topic.TopicTitle = topic.caption;
+    test.topic.ProblemType = topic.code;
     test.TestHeading = found->heading;
     test.TestSuffix = found->suffix;
-    if (!found->mask.empty()) {
-        test.topic.InputMask = BinaryFlagValue(found->mask);
+    if (found->walks) {
+        test.topic.InputMask = BinaryFlagValue(found->Mask());
+        test.topic.MaxVariables = topic.variables;
     }
-    for (const Letters& row : kLetters) {
-        if (row.caption == Name) {
-            test.topic.MaxVariables = row.MaxVariables;
-            test.topic.LinearGraphTopic = row.linearGraph ? 1 : test.topic.LinearGraphTopic;
-        }
+    if (topic.linearGraph) {
+        test.topic.LinearGraphTopic = 1;
     }
 }
 

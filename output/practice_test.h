@@ -12,6 +12,10 @@
 /// A sheet of made-up problems over chosen topics.
 namespace numerello {
 
+/// How many rows an outline has, and how many problems its form lets a row ask for.
+inline constexpr int kTestRows = 10;
+inline constexpr int kMostProblemsOfRow = 18;
+
 /// A row of the outline; one without a topic is left out.
 struct TestRow {
     std::string topic;
@@ -40,6 +44,9 @@ struct PracticeTest {
     /// The lines written so far, math text.
     std::vector<std::string> Lines() const;
 };
+
+/// A row's problems stand below an empty line and a heading: what the form can ask for finds room.
+static_assert(kTestRows * (2 + kMostProblemsOfRow) <= PracticeTest::kTopLine + 1);
 
 /// Chooses a topic for the test: its code and limits, heading and suffix. Any other text than a
 /// topic's caption leaves all but MaxDigits as it was.

@@ -24,13 +24,6 @@ std::string OperandLine(const Problem& problem) {
                 problem.columns.ColumnBottom);
 }
 
-double LineHeight(Surface probe, double points) {
-    probe.SetFontSize(points);
-    const double top = probe.CurrentY;
-    probe.Print("", Surface::LineEnd::Break);
-    return probe.CurrentY - top;
-}
-
 /// From the top of the highest text to the end of the lowest.
 struct Extent {
     double top;
@@ -38,15 +31,15 @@ struct Extent {
 };
 
 /// What printing at the pen would take.
-Extent ExtentOfColumns(const Problem& problem, Surface probe) {
-    const std::size_t before = probe.Marks().size();
+Extent ExtentOfColumns(const Problem& problem, const Surface& Printer) {
+    Surface probe = Printer.Blank();
     SilentLearner silent;
     PrintColumns(problem, probe, silent);
     Extent extent{PrintScale::kHeight, 0};
-    for (std::size_t i = before; i < probe.Marks().size(); ++i) {
-        if (const auto* const text = std::get_if<TextMark>(&probe.Marks()[i])) {
+    for (const Mark& mark : probe.Marks()) {
+        if (const auto* const text = std::get_if<TextMark>(&mark)) {
             extent.top = std::min(extent.top, text->y);
-            extent.end = std::max(extent.end, text->y + LineHeight(probe, text->font.size));
+            extent.end = std::max(extent.end, text->y + probe.LineHeight(text->font.size));
         }
     }
     return extent;
@@ -56,7 +49,7 @@ Extent ExtentOfColumns(const Problem& problem, Surface probe) {
 /// and the highest text stands a line below where the pen was. Gives the end of the lowest.
 double PlaceColumns(const Problem& problem, Surface& Printer) {
     const Extent extent = ExtentOfColumns(problem, Printer);
-    const double unused = extent.top - Printer.CurrentY - LineHeight(Printer, Printer.FontSize());
+    const double unused = extent.top - Printer.CurrentY - Printer.LineHeight(Printer.FontSize());
     Printer.CurrentY -= unused;
     return extent.end - unused;
 }

@@ -2,13 +2,14 @@
 
 #include <algorithm>
 
+#include "typeset/variants.h"
+
 namespace numerello {
 
 namespace {
 
 constexpr double kMargin = 10;
 constexpr double kPixelsPerMillimetre = 96 / 25.4;
-constexpr double kPreview = 8.0 / 12;
 
 PrintScale ScaleOf(PaperSize paper, double zoom) {
     const double pixels = kPixelsPerMillimetre * zoom;
@@ -60,7 +61,7 @@ PrintScale ScaleOfPrint(PaperSize paper) {
 }
 
 PrintScale ScaleOfPreview(PaperSize paper) {
-    return ScaleOf(paper, kPreview);
+    return ScaleOf(paper, kPreviewScale);
 }
 
 std::vector<Mark> MarksInPixels(std::span<const Mark> marks, const PrintScale& scale) {

@@ -3,17 +3,17 @@
 #include "core/topic_codes.h"
 #include "output/print_columns.h"
 #include "output/print_line.h"
+#include "typeset/variants.h"
 
 namespace numerello {
 
 namespace {
 
-constexpr double kLineSize = 12;
 constexpr double kReasonSize = 10;
 
 void SetLineFont(Surface& Printer) {
     Printer.SetFontName(kSheetFace);
-    Printer.SetFontSize(kLineSize);
+    Printer.SetFontSize(kSheetPoints);
 }
 
 void PrintReason(std::string_view reason, Surface& Printer, Learner& learner) {
@@ -22,7 +22,7 @@ void PrintReason(std::string_view reason, Surface& Printer, Learner& learner) {
     if (!reason.empty()) {
         PrintWholeLine(reason, Printer, true, learner);
     }
-    Printer.SetFontSize(kLineSize);
+    Printer.SetFontSize(kSheetPoints);
     PrintEmptyLine(Printer);
     Printer.SetFontName(kSheetFace);
 }

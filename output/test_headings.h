@@ -5,13 +5,16 @@
 
 namespace numerello {
 
-/// What a practice test says for a topic.
+/// What a practice test says for a topic. Code and numbers are those of the catalogue.
 struct TestTopic {
     std::string_view caption;
-    int code = 0;
     std::string_view heading;   ///< the line over its problems
     std::string_view suffix{};  ///< behind each of its problems
-    std::string_view mask{};    ///< 14 characters "0" or "1"; empty leaves InputMask as it is
+    bool walks = false;         ///< whether its problems are made of the keys that a mask allows
+    std::string_view mask{};    ///< of a walk, where it is not the catalogue's
+
+    /// 14 characters "0" or "1"; empty for a topic that leaves InputMask as it is.
+    std::string_view Mask() const;
 };
 
 /// All topics that a practice test may hold.

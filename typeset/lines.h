@@ -11,7 +11,8 @@
 /// The typesetter's entries, one family for each target. A ...Line draws a line below the last one
 /// and never throws a Failure; what it cannot draw it tells the learner. The others draw a single
 /// construct at the pen, get the text between its markers, and throw Failure(Format) for one that
-/// cannot be drawn.
+/// cannot be drawn. The program calls the lines alone; the constructs are the names by which each
+/// can be drawn, and tested, apart from a line.
 namespace numerello {
 
 /// On the worksheet's paper. LineEndX is 4 left of the text's end; it and LineEndY stay when the

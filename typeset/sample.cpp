@@ -1,5 +1,7 @@
 #include "typeset/sample.h"
 
+#include <algorithm>
+#include <array>
 #include <deque>
 #include <limits>
 #include <utility>
@@ -14,7 +16,6 @@ namespace numerello {
 
 namespace {
 
-constexpr std::size_t kPaperSheets = 10;
 constexpr std::size_t kAnyNumber = std::numeric_limits<std::size_t>::max();
 
 /// Sheets that are made when they are turned to.
@@ -59,72 +60,79 @@ class MessageRecorder : public Learner {
     std::vector<SampleAnswer::Message>& messages;
 };
 
-const TypesetVariant& VariantOf(TypesetTarget target) {
-    switch (target) {
-        case TypesetTarget::Paper:
-            return kPaperVariant;
-        case TypesetTarget::Explanation:
-            return kExplanationVariant;
-        case TypesetTarget::Print:
-            return kPrintVariant;
-        case TypesetTarget::Preview:
-            break;
-    }
-    return kPreviewVariant;
+using DrawSample = void (*)(const SampleRequest&, SampleSheets&, SampleAnswer&, Learner&);
+
+void DrawOnPaper(const SampleRequest& request, SampleSheets& sheets, SampleAnswer& answer,
+                 Learner& learner) {
+    Playback playback;
+    FPrintLine(request.text, false, sheets, playback, learner);
+    answer.endX = playback.LineEndX;
+    answer.endY = playback.LineEndY;
 }
 
-void DrawSample(const SampleRequest& request, SampleSheets& sheets, SampleAnswer& answer) {
-    MessageRecorder recorder(answer.messages);
-    switch (request.target) {
-        case TypesetTarget::Paper: {
-            Playback playback;
-            FPrintLine(request.text, false, sheets, playback, recorder);
-            answer.endX = playback.LineEndX;
-            answer.endY = playback.LineEndY;
-            return;
-        }
-        case TypesetTarget::Explanation:
-            ExplainLine(request.text, sheets.Current(), recorder);
-            break;
-        case TypesetTarget::Print:
-            PrintLine(request.text, sheets.Current(), request.blue, recorder);
-            break;
-        case TypesetTarget::Preview:
-            PreviewLine(request.text, sheets, request.blue, recorder);
-            break;
-    }
-    answer.endX = sheets.Current().CurrentX;
-    answer.endY = sheets.Current().CurrentY;
+void TakePen(const SampleSheets& sheets, SampleAnswer& answer) {
+    answer.endX = sheets.Surfaces().back().CurrentX;
+    answer.endY = sheets.Surfaces().back().CurrentY;
+}
+
+void DrawExplanation(const SampleRequest& request, SampleSheets& sheets, SampleAnswer& answer,
+                     Learner& learner) {
+    ExplainLine(request.text, sheets.Current(), learner);
+    TakePen(sheets, answer);
+}
+
+void DrawPrint(const SampleRequest& request, SampleSheets& sheets, SampleAnswer& answer,
+               Learner& learner) {
+    PrintLine(request.text, sheets.Current(), request.blue, learner);
+    TakePen(sheets, answer);
+}
+
+void DrawPreview(const SampleRequest& request, SampleSheets& sheets, SampleAnswer& answer,
+                 Learner& learner) {
+    PreviewLine(request.text, sheets, request.blue, learner);
+    TakePen(sheets, answer);
+}
+
+struct Target {
+    TypesetTarget target;
+    std::string_view name;
+    const TypesetVariant* variant;
+    std::size_t mostSheets;
+    DrawSample draw;
+};
+
+constexpr std::array kTargets{
+    Target{TypesetTarget::Paper, "paper", &kPaperVariant, PaperSheets::kCount, DrawOnPaper},
+    Target{TypesetTarget::Explanation, "explain", &kExplanationVariant, kAnyNumber,
+           DrawExplanation},
+    Target{TypesetTarget::Print, "print", &kPrintVariant, kAnyNumber, DrawPrint},
+    Target{TypesetTarget::Preview, "preview", &kPreviewVariant, kAnyNumber, DrawPreview},
+};
+
+const Target& RowOf(TypesetTarget target) {
+    return *std::find_if(kTargets.begin(), kTargets.end(),
+                         [target](const Target& row) { return row.target == target; });
 }
 
 }  // namespace
 
 std::optional<TypesetTarget> FindTypesetTarget(std::string_view name) {
-    if (name == "paper") {
-        return TypesetTarget::Paper;
-    }
-    if (name == "explain") {
-        return TypesetTarget::Explanation;
-    }
-    if (name == "print") {
-        return TypesetTarget::Print;
-    }
-    if (name == "preview") {
-        return TypesetTarget::Preview;
-    }
-    return std::nullopt;
+    const auto* const row = std::find_if(kTargets.begin(), kTargets.end(),
+                                         [name](const Target& each) { return each.name == name; });
+    return row == kTargets.end() ? std::nullopt : std::optional(row->target);
 }
 
 SampleAnswer TypesetSample(const SampleRequest& request, const TextMetrics& metrics) {
-    const TypesetVariant& variant = VariantOf(request.target);
-    const Font font{std::string(variant.face), request.size.value_or(variant.fontSize)};
-    const bool onPaper = request.target == TypesetTarget::Paper;
-    SampleSheets sheets(metrics, font, onPaper ? kPaperSheets : kAnyNumber);
+    const Target& target = RowOf(request.target);
+    const Font font{std::string(target.variant->face),
+                    request.size.value_or(target.variant->fontSize)};
+    SampleSheets sheets(metrics, font, target.mostSheets);
     sheets.Current().CurrentX = request.x;
     sheets.Current().CurrentY = request.y;
 
     SampleAnswer answer;
-    DrawSample(request, sheets, answer);
+    MessageRecorder recorder(answer.messages);
+    target.draw(request, sheets, answer, recorder);
     int page = 0;
     for (const Surface& surface : sheets.Surfaces()) {
         for (int i = 0; i < surface.PageCount(); ++i, ++page) {

@@ -21,6 +21,9 @@ class Sheets {
 /// the sheets' font.
 class PaperSheets : public Sheets {
   public:
+    /// How many there are at most.
+    static constexpr int kCount = 10;
+
     /// Puts the arrow behind the line just drawn, whose end the playback holds by then.
     virtual void PlaceBlinker() = 0;
 };

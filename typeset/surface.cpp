@@ -16,12 +16,25 @@ void Surface::Print(std::string_view text, LineEnd end) {
     CurrentX += TextWidth(text);
     if (end == LineEnd::Break) {
         CurrentX = 0;
-        CurrentY += metrics->LineHeight(font);
+        CurrentY += LineHeight(font.size);
     }
 }
 
 double Surface::TextWidth(std::string_view text) const {
     return metrics->Width(text, font);
+}
+
+double Surface::LineHeight(double points) const {
+    return metrics->LineHeight({font.name, points});
+}
+
+Surface Surface::Blank() const {
+    Surface blank(*metrics, font);
+    blank.CurrentX = CurrentX;
+    blank.CurrentY = CurrentY;
+    blank.ForeColor = ForeColor;
+    blank.DrawWidth = DrawWidth;
+    return blank;
 }
 
 void Surface::Line(double x1, double y1, double x2, double y2) {

@@ -68,6 +68,13 @@ class Surface {
 
     double TextWidth(std::string_view text) const;
 
+    /// The height of a line in the surface's face.
+    double LineHeight(double points) const;
+
+    /// A surface without a mark, with the same metrics, pen and font: to see what printing would
+    /// do.
+    Surface Blank() const;
+
     /// Draws a stroke of DrawWidth and leaves the pen at its end.
     void Line(double x1, double y1, double x2, double y2);
 

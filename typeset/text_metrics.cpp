@@ -8,10 +8,6 @@ namespace numerello {
 
 namespace {
 
-constexpr double kBlankPerPoint = 67.0 / 204.0;
-constexpr double kCharacterPerPoint = 134.0 / 204.0;
-constexpr double kLinePerPoint = 43.0 / 30.0;
-
 std::size_t CountCharacters(std::string_view text) {
     const bool plain = std::all_of(text.begin(), text.end(),
                                    [](char c) { return static_cast<unsigned char>(c) < 0x80; });

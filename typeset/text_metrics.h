@@ -12,6 +12,11 @@ struct Font {
     double size;
 };
 
+/// What the sheets are ruled by, for each point of the size.
+inline constexpr double kBlankPerPoint = 67.0 / 204;
+inline constexpr double kCharacterPerPoint = 134.0 / 204;
+inline constexpr double kLinePerPoint = 43.0 / 30;
+
 /// How wide a text is and how high a line: in the surface's units.
 class TextMetrics {
   public:

@@ -20,7 +20,7 @@ constexpr PageRule kPrintPage{
 
 constinit const TypesetVariant kPaperVariant{
     .face = kSheetFace,
-    .fontSize = 12,
+    .fontSize = kSheetPoints,
     .freshPage = TypesetVariant::FreshPage{.limit = 589, .penY = 81},
     .marginBlanks = 17,
     .startShift = 0,
@@ -45,7 +45,7 @@ constinit const TypesetVariant kPaperVariant{
 
 constinit const TypesetVariant kExplanationVariant{
     .face = kExplanationFace,
-    .fontSize = 12,
+    .fontSize = kSheetPoints,
     .freshPage = std::nullopt,
     .marginBlanks = 0,
     .startShift = 0,
@@ -66,7 +66,7 @@ constinit const TypesetVariant kExplanationVariant{
 
 constinit const TypesetVariant kPrintVariant{
     .face = kSheetFace,
-    .fontSize = 12,
+    .fontSize = kSheetPoints,
     .freshPage = std::nullopt,
     .marginBlanks = 0,
     .startShift = 12,
@@ -87,7 +87,7 @@ constinit const TypesetVariant kPrintVariant{
 
 constinit const TypesetVariant kPreviewVariant{
     .face = kSheetFace,
-    .fontSize = 8,
+    .fontSize = kPreviewPoints,
     .freshPage = std::nullopt,
     .marginBlanks = 0,
     .startShift = 12,

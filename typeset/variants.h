@@ -1,11 +1,22 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "typeset/surface.h"
 
 namespace numerello {
+
+/// The size of a line on the sheets and in print, and in the preview, which is as much smaller.
+inline constexpr double kSheetPoints = 12;
+inline constexpr double kPreviewPoints = 8;
+inline constexpr double kPreviewScale = kPreviewPoints / kSheetPoints;
+
+/// What a line of the sheets is written in.
+inline Font SheetFont() {
+    return {std::string(kSheetFace), kSheetPoints};
+}
 
 /// A length in the surface's units, with a part that grows with the font size.
 struct Measure {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "graph/coordinate_list.h"
+#include "ui/colors.h"
 #include "ui/text.h"
 
 namespace numerello {
@@ -13,16 +14,14 @@ namespace {
 
 /// Paper stays paper, whatever the desktop's colors.
 constexpr QColor kPaper(0xFF, 0xFF, 0xFF, 0xDC);
-constexpr QColor kInk(0x2B, 0x3A, 0x55);
-constexpr QColor kChosen(0x3F, 0x8F, 0xD2);
 
 constexpr int kBesideText = 12;
 constexpr int kAroundText = 4;
 
 QPalette PaperColors(QPalette palette) {
     palette.setColor(QPalette::Base, kPaper);
-    palette.setColor(QPalette::Text, kInk);
-    palette.setColor(QPalette::Highlight, kChosen);
+    palette.setColor(QPalette::Text, kInkColor);
+    palette.setColor(QPalette::Highlight, kFocusColor);
     palette.setColor(QPalette::HighlightedText, Qt::white);
     return palette;
 }

@@ -7,7 +7,7 @@
 
 namespace numerello {
 
-/// The entries of a plot. Each is written when it is shown, so that thousands cost nothing.
+/// The entries of a plot, each written when it is shown.
 class CoordinateModel : public QAbstractListModel {
     Q_OBJECT
 

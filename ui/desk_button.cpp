@@ -3,6 +3,8 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 
+#include "ui/colors.h"
+
 namespace numerello {
 
 void DeskButton::keyPressEvent(QKeyEvent* event) {
@@ -24,7 +26,7 @@ void DeskButton::PaintFocus(QPainter& painter, qreal radius) const {
     if (hasFocus()) {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(QColor(0x3F, 0x8F, 0xD2), 2));
+        painter.setPen(QPen(kFocusColor, 2));
         painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius, radius);
     }
 }

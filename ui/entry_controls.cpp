@@ -9,7 +9,9 @@
 #include "catalogue/entry_layouts.h"
 #include "catalogue/guided_input.h"
 #include "core/text.h"
+#include "typeset/surface.h"
 #include "ui/text.h"
+#include "ui/typed_key.h"
 
 namespace numerello {
 
@@ -17,27 +19,10 @@ namespace {
 
 constexpr int kSmallestLetters = 9;
 
-/// Whether a key puts a character into the box; the others belong to the form.
-bool IsTyping(const QKeyEvent& event) {
-    switch (event.key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-        case Qt::Key_Tab:
-        case Qt::Key_Backtab:
-        case Qt::Key_Escape:
-        case Qt::Key_Delete:
-            return false;
-        default:
-            return !event.text().isEmpty() &&
-                   (event.modifiers() &
-                    (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == 0;
-    }
-}
-
 }  // namespace
 
 QFont EntryFont(int size) {
-    QFont font(QStringLiteral("VantrelFont"));
+    QFont font(ToQString(kSheetFace));
     font.setPixelSize(size);
     return font;
 }
@@ -91,7 +76,7 @@ void EntryBox::keyPressEvent(QKeyEvent* event) {
         Type(PastedText());
     } else if (event->key() == Qt::Key_Backspace) {
         Type(ToQString(kBackspace));
-    } else if (IsTyping(*event)) {
+    } else if (IsForBox(*event)) {
         Type(event->text());
     } else {
         event->ignore();
@@ -180,8 +165,7 @@ void EntryList::showPopup() {
 }
 
 void EntryList::keyPressEvent(QKeyEvent* event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter || Locked() || IsForTheForm(*event)) {
+    if (IsEnter(event->key()) || Locked() || IsForTheForm(*event)) {
         event->ignore();
         return;
     }
@@ -191,8 +175,8 @@ void EntryList::keyPressEvent(QKeyEvent* event) {
 /// Beside a typed line a list takes no characters: they belong to the line. Digits never choose.
 bool EntryList::IsForTheForm(const QKeyEvent& event) const {
     const bool besideLine = IsTypedOnLine(problem.topic.ProblemType);
-    return (besideLine && (IsTyping(event) || event.matches(QKeySequence::Paste))) ||
-           (IsTyping(event) && IsDigit(event.text().toStdString()));
+    return (besideLine && (IsForBox(event) || event.matches(QKeySequence::Paste))) ||
+           (IsForBox(event) && IsDigit(event.text().toStdString()));
 }
 
 void EntryList::wheelEvent(QWheelEvent* event) {

@@ -8,10 +8,8 @@
 #include <string_view>
 
 #include "app/solvers.h"
-#include "catalogue/guided_input.h"
-#include "catalogue/saved_problem.h"
+#include "catalogue/bare_form.h"
 #include "core/clock.h"
-#include "core/erasing.h"
 #include "core/random_source.h"
 #include "core/silent_learner.h"
 #include "core/text.h"
@@ -38,39 +36,22 @@ class LastWords : public Learner {
     }
 };
 
-/// The entry form without a window.
-class UnseenForm : public LoadingForm {
-  public:
-    UnseenForm(Problem& problem, Learner& learner) : problem(problem), learner(learner) {}
-
-    bool solved = false;
-    std::optional<FailureKind> failure;
-
-    void Open() override { EraseProblem(problem, stage); }
-    void ShowEntry() override {}
-    void Form_KeyPress(std::string_view key) override { numerello::Form_KeyPress(problem, key); }
-    void compute_Click() override {
-        failure = numerello::compute_Click(problem, AllSolvers(), learner, stage);
-        solved = true;
-    }
-    void TellStatus(std::string_view) override {}
-
-  private:
-    Problem& problem;
-    Learner& learner;
-    Stage stage;
-};
-
 /// The reason why a file's problem could not be worked, empty when it was.
 std::string Work(const SavedProblem& saved, Problem& problem) {
     MersenneSource random;
     LastWords learner;
-    UnseenForm form(problem, learner);
+    bool solved = false;
+    std::optional<FailureKind> failure;
+    BareForm form(problem, [&] {
+        Stage noStage;
+        failure = compute_Click(problem, AllSolvers(), learner, noStage);
+        solved = true;
+    });
     LoadSavedProblem(saved, problem, form, SystemClock(), random);
-    if (!form.solved) {
+    if (!solved) {
         return "is not a finished problem";
     }
-    return form.failure ? Text("cannot be worked: ", learner.said) : "";
+    return failure ? Text("cannot be worked: ", learner.said) : "";
 }
 
 PrintOrder OrderOf(const Problem& problem, bool hasGraph) {
@@ -108,28 +89,31 @@ void Write(const QString& pdf, const Problem& problem) {
         .graph = graph};
     SilentLearner learner;
     const ComposedJob composed(job, PaperOf(UsualLayout()), learner);
-    const QByteArray content = PdfOf(composed, UsualLayout(), job.name);
-    WriteFile(pdf.toStdString(), {content.constData(), static_cast<std::size_t>(content.size())});
+    const auto content = PdfOf(composed, UsualLayout(), job.name);
+    if (!content) {
+        throw FileError("cannot be written");
+    }
+    WriteFile(pdf.toStdString(), {content->constData(), static_cast<std::size_t>(content->size())});
 }
 
 }  // namespace
 
-bool ReadyToExport(int argc, char** argv) {
+void PrepareExport(int argc, char** argv) {
     for (int i = 1; i < argc; ++i) {
         const std::string_view argument = argv[i];
         if (argument == "--export" || argument.starts_with("--export=")) {
             if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
                 qputenv("QT_QPA_PLATFORM", "offscreen");
             }
-            return true;
+            return;
         }
     }
-    return false;
 }
 
-int ExportPdf(const QString& pdf, const QString& problemFile, std::string& message) {
+std::string ExportProblem(const QString& problemFile, const QString& pdf) {
     const std::string path = problemFile.toStdString();
     std::string subject = path;
+    std::string message;
     try {
         Problem problem;
         message = Work(ReadSavedProblem(ReadFile(path, kLongestProblemFile)), problem);
@@ -140,11 +124,7 @@ int ExportPdf(const QString& pdf, const QString& problemFile, std::string& messa
     } catch (const FileError& error) {
         message = error.what();
     }
-    if (!message.empty()) {
-        message = Text(subject, ": ", message);
-        return 1;
-    }
-    return 0;
+    return message.empty() ? "" : Text(subject, ": ", message);
 }
 
 int ExportPdf(const QString& pdf, const QStringList& arguments) {
@@ -152,12 +132,12 @@ int ExportPdf(const QString& pdf, const QStringList& arguments) {
         std::fputs("numerello: --export FILE.pdf needs one problem file\n", stderr);
         return 2;
     }
-    std::string message;
-    const int status = ExportPdf(pdf, arguments.front(), message);
-    if (!message.empty()) {
-        std::fputs(Text("numerello: ", message, "\n").c_str(), stderr);
+    const std::string message = ExportProblem(arguments.front(), pdf);
+    if (message.empty()) {
+        return 0;
     }
-    return status;
+    std::fputs(Text("numerello: ", message, "\n").c_str(), stderr);
+    return 1;
 }
 
 }  // namespace numerello

@@ -4,18 +4,18 @@
 #include <algorithm>
 
 #include "ui/artwork.h"
+#include "ui/colors.h"
+#include "worksheet/assistant.h"
 
 namespace numerello {
 
 namespace {
 
-constexpr QSize kPicture(108, 128);
+constexpr QSize kPicture(Assistant::kWidth, Assistant::kHeight);
 constexpr int kMargin = 8;
 constexpr int kRadius = 8;
 constexpr int kFrame = 3;
 constexpr int kGap = 3;  ///< between picture and name
-/// The figures are drawn for paper, also where the desktop is dark.
-constexpr QColor kPaper(0xFF, 0xFD, 0xF5);
 
 QRectF Inside(const QRect& rect, qreal pen) {
     return QRectF(rect).adjusted(pen / 2, pen / 2, -pen / 2, -pen / 2);
@@ -48,7 +48,8 @@ void FigureButton::paintEvent(QPaintEvent* /*event*/) {
     const bool chosen = isChecked();
     const qreal pen = chosen ? kFrame : 1;
     painter.setPen(QPen(palette().color(chosen ? QPalette::Highlight : QPalette::Mid), pen));
-    painter.setBrush(kPaper);
+    // The figures are drawn for paper, also where the desktop is dark.
+    painter.setBrush(kPaperColor);
     painter.drawRoundedRect(Inside(card, pen), kRadius, kRadius);
     painter.drawPixmap((width() - kPicture.width()) / 2, kMargin,
                        Artwork(key, kPicture, devicePixelRatioF()));

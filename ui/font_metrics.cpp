@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 
+#include "typeset/surface.h"
+
 namespace numerello {
 
 namespace {
@@ -16,8 +18,6 @@ constexpr const char* kSheetFontFile = ":/font/VantrelFont-Regular.otf";
 constexpr std::string_view kOtherAlphabets = "Liberation Serif";
 
 constexpr double kPixelsPerPoint = 4.0 / 3;
-constexpr double kSheetBlank = 67.0 / 204;
-constexpr double kSheetLine = 43.0 / 30;
 
 /// Which face of the distribution stands behind a name. The quadrants of the graph are the only
 /// text in "Courier", and they are bold.
@@ -28,8 +28,8 @@ struct Family {
     bool boldInExplanation;
 };
 constexpr std::array kFamilies{
-    Family{"VantrelFont", "VantrelFont", false, false},
-    Family{"Book Antiqua", "TeX Gyre Pagella", false, true},
+    Family{kSheetFace, "VantrelFont", false, false},
+    Family{kExplanationFace, "TeX Gyre Pagella", false, true},
     Family{"Arial", "Liberation Sans", false, false},
     Family{"MS Sans Serif", "Liberation Sans", false, false},
     Family{"Courier", "Liberation Mono", true, true},
@@ -77,7 +77,7 @@ const QRawFont& FontMetrics::FaceOf(char32_t character, const Font& font) const 
 
 double FontMetrics::CharacterWidth(char32_t character, const Font& font) const {
     if (character == U' ' && medium == Medium::Sheet) {
-        return kSheetBlank * font.size;
+        return kBlankPerPoint * font.size;
     }
     const auto [place, isNew] = MasterOf(font.name).emWidths.try_emplace(character);
     if (isNew) {
@@ -101,7 +101,7 @@ double FontMetrics::Width(std::string_view text, const Font& font) const {
 
 double FontMetrics::LineHeight(const Font& font) const {
     if (medium == Medium::Sheet) {
-        return kSheetLine * font.size;
+        return kLinePerPoint * font.size;
     }
     const QRawFont& face = MasterOf(font.name).face;
     return (face.ascent() + face.descent() + face.leading()) / face.pixelSize() * font.size *

@@ -4,9 +4,12 @@
 #include <QMenuBar>
 #include <QToolBar>
 #include <QToolButton>
+#include <stdexcept>
 #include <utility>
 
+#include "core/text.h"
 #include "ui/artwork.h"
+#include "ui/named_action.h"
 
 namespace numerello {
 
@@ -104,9 +107,10 @@ void FrameCommands::MakeToolbar() {
     toolbar->setIconSize({kPictureSize, kPictureSize});
     toolbar->setContextMenuPolicy(Qt::PreventContextMenu);
     // Shows the buttons that a narrow frame has no room for.
-    auto* more = toolbar->findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"));
-    more->setAccessibleName(QStringLiteral("More commands"));
-    more->setFocusPolicy(Qt::NoFocus);
+    if (auto* more = toolbar->findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"))) {
+        more->setAccessibleName(QStringLiteral("More commands"));
+        more->setFocusPolicy(Qt::NoFocus);
+    }
     for (const ButtonRow& row : ButtonRows()) {
         if (IsEmpty(row.key)) {
             toolbar->addSeparator();
@@ -125,7 +129,7 @@ void FrameCommands::MakeToolbar() {
 }
 
 QAction& FrameCommands::At(const char* name) const {
-    return *actions.value(QLatin1String(name));
+    return NamedAction(actions, name);
 }
 
 void FrameCommands::Connect(const char* name, std::function<void()> procedure) {
@@ -144,7 +148,11 @@ void FrameCommands::Update(const EntryControls& controls, bool onSheet, bool tak
 }
 
 void FrameCommands::PopUp(const char* menu, QPoint place) const {
-    frame.findChild<QMenu*>(QLatin1String(menu))->popup(place);
+    auto* popUp = frame.findChild<QMenu*>(QLatin1String(menu));
+    if (popUp == nullptr) {
+        throw std::invalid_argument(Text("there is no menu ", menu));
+    }
+    popUp->popup(place);
 }
 
 }  // namespace numerello

@@ -17,6 +17,7 @@ class FrameCommands {
     /// Makes menu bar, pop-ups and toolbar. The frame owns what is made and outlives this.
     explicit FrameCommands(QMainWindow& frame);
 
+    /// Throws std::invalid_argument for a name that is no command's; so do the others.
     QAction& At(const char* name) const;
 
     /// From now on the command does this. One that does nothing stays grey.

@@ -9,7 +9,10 @@
 #include <QVBoxLayout>
 #include <QWindow>
 #include <QtMath>
+#include <algorithm>
 
+#include "ui/colors.h"
+#include "ui/screen_room.h"
 #include "ui/surface_painter.h"
 #include "ui/text.h"
 
@@ -21,9 +24,6 @@ constexpr int kSideMargin = 10;
 constexpr int kBorder = 1;
 constexpr int kCaption = 27;  ///< part of the height that the model gives
 constexpr int kAwayFromArrow = 8;
-
-constexpr QColor kInk(0x2B, 0x3A, 0x55);
-constexpr QColor kPaper(0xFF, 0xFD, 0xF5);
 
 /// The rows, in the middle of their window.
 class Page : public QWidget {
@@ -76,7 +76,7 @@ FrmExplain::FrmExplain(const Problem& problem, Learner& learner, QWidget* form)
     bold.setBold(true);
     caption->setFont(bold);
     QPalette colors = caption->palette();
-    colors.setColor(QPalette::WindowText, kPaper);
+    colors.setColor(QPalette::WindowText, kPaperColor);
     caption->setPalette(colors);
 
     view->setObjectName(QStringLiteral("Text"));
@@ -133,7 +133,7 @@ void FrmExplain::hideEvent(QHideEvent* event) {
 }
 
 void FrmExplain::paintEvent(QPaintEvent* event) {
-    QPainter(this).fillRect(event->rect(), kInk);
+    QPainter(this).fillRect(event->rect(), kInkColor);
 }
 
 bool FrmExplain::eventFilter(QObject* watched, QEvent* event) {
@@ -191,10 +191,7 @@ void FrmExplain::CloseUnlessHere(const QWindow* focused) {
 }
 
 QPoint PlaceOfExplanation(QRect wanted, const QRect& screen, const QRect& arrow) {
-    wanted.moveRight(std::min(wanted.right(), screen.right()));
-    wanted.moveBottom(std::min(wanted.bottom(), screen.bottom()));
-    wanted.moveLeft(std::max(wanted.left(), screen.left()));
-    wanted.moveTop(std::max(wanted.top(), screen.top()));
+    wanted = Within(wanted, screen);
     if (!wanted.intersects(arrow)) {
         return wanted.topLeft();
     }

@@ -9,7 +9,9 @@
 #include <array>
 
 #include "graph/spoken_graph.h"
+#include "ui/named_action.h"
 #include "ui/pointer.h"
+#include "ui/screen_room.h"
 #include "ui/surface_painter.h"
 #include "ui/text.h"
 
@@ -23,71 +25,11 @@ constexpr int kSmallSide = (4000 + kTwipsPerPixel / 2) / kTwipsPerPixel;
 
 constexpr int kBesideEdge = 24;  ///< from the right edge of the frame, when the window opens
 
-constexpr int kCaptionHeight = 32;  ///< what the desktop adds above a window, at a guess
-
 /// What lies on the drawing keeps away from its edges.
 constexpr int kMargin = 8;
 /// The list leaves the axis and the numeral of its quadrant free.
 constexpr double kListWidth = 0.45;
 constexpr double kListHeight = 0.2;
-
-struct Entry {
-    const char* name;
-    const char* caption;
-    const char* shortcuts = "";
-    bool ticks = false;
-};
-
-/// An entry without a caption is a separator.
-constexpr Entry kSeparator{"", ""};
-
-struct Menu {
-    const char* name;
-    const char* caption;
-    std::array<Entry, 7> entries;
-    int count;  ///< of the entries, separators included
-};
-
-constexpr std::array kMenus{
-    Menu{"mnuGraphFile",
-         "&File",
-         {Entry{"mnuGraphPrint", "&Print", "Ctrl+P"}, Entry{"mnuGraphPrintSetup", "Print &Setup"},
-          kSeparator, Entry{"mnuGraphExit", "&Exit", "Esc"}},
-         4},
-    Menu{"mnuGraphOptions",
-         "&Options",
-         {Entry{"mnuToggleZoomButtons", "Toggle &Zoom Buttons", "", true},
-          Entry{"mnuToggleCoordinates", "Toggle &Coordinates", "", true},
-          Entry{"mnuGraphQuadrant", "Toggle &Quadrants", "", true}, kSeparator,
-          Entry{"mnuGraphHighQuality", "Highest &Quality", "", true},
-          Entry{"mnuGraphHighSpeed", "Highest &Speed", "", true}},
-         6},
-    Menu{"mnuGraphSettings",
-         "&Change Colors",
-         {Entry{"mnuGraphColor", "&Line Color"}, Entry{"mnuGraphGridColor", "&Grid Color"},
-          Entry{"mnuGraphDefault", "&Default Colors"}},
-         3},
-    Menu{"mnuGraphWindow",
-         "&Window",
-         {Entry{"mnuGraphSmall", "&Small"}, Entry{"mnuGraphNormal", "&Normal"},
-          Entry{"mnuGraphMax", "&Large"}, kSeparator,
-          Entry{"mnuGraphZoomIn", "Zoom &In", "Ctrl++; Ctrl+="},
-          Entry{"mnuGraphZoomOut", "Zoom &Out", "Ctrl+-"}},
-         6},
-};
-
-Color ColorOf(const QColor& color) {
-    return static_cast<Color>(color.red() | color.green() << 8 | color.blue() << 16);
-}
-
-/// The place, moved into the screen as far as it must.
-QRect OnScreen(QRect place, const QRect& screen) {
-    place.moveRight(std::min(place.right(), screen.right()));
-    place.moveBottom(std::min(place.bottom(), screen.bottom()));
-    place.moveLeft(std::max(place.left(), screen.left()));
-    place.moveTop(std::max(place.top(), screen.top()));
-    return place;
-}
 
 }  // namespace
 
@@ -101,50 +43,93 @@ FrmGraph::FrmGraph(const Problem& problem, GraphSettings& settings, QWidget* fra
     MakeShortcuts();
 
     const bool fine = settings.GraphQuality != kHighSpeed;
-    Command("mnuToggleZoomButtons")->setChecked(true);
-    Command("mnuToggleCoordinates")->setChecked(true);
-    Command("mnuGraphQuadrant")->setChecked(graph.ShowsQuadrants());
-    Command(fine ? "mnuGraphHighQuality" : "mnuGraphHighSpeed")->setChecked(true);
+    Command("mnuToggleZoomButtons").setChecked(true);
+    Command("mnuToggleCoordinates").setChecked(true);
+    Command("mnuGraphQuadrant").setChecked(graph.ShowsQuadrants());
+    Command(fine ? "mnuGraphHighQuality" : "mnuGraphHighSpeed").setChecked(true);
     SetPrintEnabled(false);
-    OnTrigger("mnuGraphPrint", &FrmGraph::PrintAsked);
-    OnTrigger("mnuGraphPrintSetup", &FrmGraph::PrintSetupAsked);
-    connect(Command("mnuGraphExit"), &QAction::triggered, this, &QWidget::close);
-    OnTrigger("mnuToggleZoomButtons", &FrmGraph::mnuToggleZoomButtons_Click);
-    OnTrigger("mnuToggleCoordinates", &FrmGraph::mnuToggleCoordinates_Click);
-    OnTrigger("mnuGraphQuadrant", &FrmGraph::mnuGraphQuadrant_Click);
-    OnTrigger("mnuGraphHighQuality", &FrmGraph::mnuGraphHighQuality_Click);
-    OnTrigger("mnuGraphHighSpeed", &FrmGraph::mnuGraphHighSpeed_Click);
-    OnTrigger("mnuGraphColor", &FrmGraph::mnuGraphColor_Click);
-    OnTrigger("mnuGraphGridColor", &FrmGraph::mnuGraphGridColor_Click);
-    OnTrigger("mnuGraphDefault", &FrmGraph::mnuGraphDefault_Click);
-    OnTrigger("mnuGraphSmall", &FrmGraph::mnuGraphSmall_Click);
-    OnTrigger("mnuGraphNormal", &FrmGraph::mnuGraphNormal_Click);
-    OnTrigger("mnuGraphMax", &FrmGraph::mnuGraphMax_Click);
-    OnTrigger("mnuGraphZoomIn", &FrmGraph::Command1_Click);
-    OnTrigger("mnuGraphZoomOut", &FrmGraph::Command2_Click);
     Redraw();
 }
 
 void FrmGraph::MakeMenus() {
-    for (const Menu& menu : kMenus) {
-        QMenu* made = menuBar()->addMenu(QString::fromUtf8(menu.caption));
-        made->setObjectName(QString::fromUtf8(menu.name));
-        for (int i = 0; i < menu.count; ++i) {
-            const Entry& entry = menu.entries[static_cast<std::size_t>(i)];
-            if (*entry.name == '\0') {
-                made->addSeparator();
-                continue;
-            }
-            QAction* action = made->addAction(QString::fromUtf8(entry.caption));
-            action->setObjectName(QString::fromUtf8(entry.name));
-            action->setShortcuts(QKeySequence::listFromString(QString::fromUtf8(entry.shortcuts)));
-            action->setCheckable(entry.ticks);
-            commands.insert(action->objectName(), action);
+    struct MenuRow {
+        const char* name;
+        const char* caption;
+    };
+    /// An entry without a name is a separator.
+    struct EntryRow {
+        const char* menu;
+        const char* name = "";
+        const char* caption = "";
+        void (FrmGraph::*procedure)() = nullptr;
+        const char* shortcuts = "";
+        bool ticks = false;
+    };
+    constexpr auto kMenus = std::to_array<MenuRow>({
+        {"mnuGraphFile", "&File"},
+        {"mnuGraphOptions", "&Options"},
+        {"mnuGraphSettings", "&Change Colors"},
+        {"mnuGraphWindow", "&Window"},
+    });
+    constexpr auto kEntries = std::to_array<EntryRow>({
+        {"mnuGraphFile", "mnuGraphPrint", "&Print", &FrmGraph::PrintAsked, "Ctrl+P"},
+        {"mnuGraphFile", "mnuGraphPrintSetup", "Print &Setup", &FrmGraph::PrintSetupAsked},
+        {"mnuGraphFile"},
+        {"mnuGraphFile", "mnuGraphExit", "&Exit", &FrmGraph::mnuGraphExit_Click, "Esc"},
+
+        {"mnuGraphOptions", "mnuToggleZoomButtons", "Toggle &Zoom Buttons",
+         &FrmGraph::mnuToggleZoomButtons_Click, "", true},
+        {"mnuGraphOptions", "mnuToggleCoordinates", "Toggle &Coordinates",
+         &FrmGraph::mnuToggleCoordinates_Click, "", true},
+        {"mnuGraphOptions", "mnuGraphQuadrant", "Toggle &Quadrants",
+         &FrmGraph::mnuGraphQuadrant_Click, "", true},
+        {"mnuGraphOptions"},
+        {"mnuGraphOptions", "mnuGraphHighQuality", "Highest &Quality",
+         &FrmGraph::mnuGraphHighQuality_Click, "", true},
+        {"mnuGraphOptions", "mnuGraphHighSpeed", "Highest &Speed",
+         &FrmGraph::mnuGraphHighSpeed_Click, "", true},
+
+        {"mnuGraphSettings", "mnuGraphColor", "&Line Color", &FrmGraph::mnuGraphColor_Click},
+        {"mnuGraphSettings", "mnuGraphGridColor", "&Grid Color",
+         &FrmGraph::mnuGraphGridColor_Click},
+        {"mnuGraphSettings", "mnuGraphDefault", "&Default Colors",
+         &FrmGraph::mnuGraphDefault_Click},
+
+        {"mnuGraphWindow", "mnuGraphSmall", "&Small", &FrmGraph::mnuGraphSmall_Click},
+        {"mnuGraphWindow", "mnuGraphNormal", "&Normal", &FrmGraph::mnuGraphNormal_Click},
+        {"mnuGraphWindow", "mnuGraphMax", "&Large", &FrmGraph::mnuGraphMax_Click},
+        {"mnuGraphWindow"},
+        {"mnuGraphWindow", "mnuGraphZoomIn", "Zoom &In", &FrmGraph::Command1_Click,
+         "Ctrl++; Ctrl+="},
+        {"mnuGraphWindow", "mnuGraphZoomOut", "Zoom &Out", &FrmGraph::Command2_Click, "Ctrl+-"},
+    });
+    QMap<QString, QMenu*> menus;
+    for (const MenuRow& row : kMenus) {
+        QMenu* menu = menuBar()->addMenu(QString::fromUtf8(row.caption));
+        menu->setObjectName(QString::fromUtf8(row.name));
+        menus.insert(menu->objectName(), menu);
+    }
+    for (const EntryRow& row : kEntries) {
+        QMenu& menu = *menus.value(QLatin1String(row.menu));
+        if (row.procedure == nullptr) {
+            menu.addSeparator();
+            continue;
         }
+        QAction* action = menu.addAction(QString::fromUtf8(row.caption));
+        action->setObjectName(QString::fromUtf8(row.name));
+        action->setShortcuts(QKeySequence::listFromString(QString::fromUtf8(row.shortcuts)));
+        action->setCheckable(row.ticks);
+        connect(action, &QAction::triggered, this,
+                [this, procedure = row.procedure] { (this->*procedure)(); });
+        commands.insert(action->objectName(), action);
     }
     auto* oneOfTwo = new QActionGroup(this);
-    oneOfTwo->addAction(Command("mnuGraphHighQuality"));
-    oneOfTwo->addAction(Command("mnuGraphHighSpeed"));
+    oneOfTwo->addAction(&Command("mnuGraphHighQuality"));
+    oneOfTwo->addAction(&Command("mnuGraphHighSpeed"));
+}
+
+QAction& FrmGraph::Command(const char* name) const {
+    return NamedAction(commands, name);
 }
 
 void FrmGraph::MakeControls() {
@@ -169,10 +154,6 @@ void FrmGraph::MakeShortcuts() {
             &FrmGraph::ExitAsked);
 }
 
-void FrmGraph::OnTrigger(const char* name, Procedure procedure) {
-    connect(Command(name), &QAction::triggered, this, [this, procedure] { (this->*procedure)(); });
-}
-
 void FrmGraph::Open() {
     ResizeDrawing(kNormalSide);
     if (parentWidget() != nullptr) {
@@ -180,7 +161,7 @@ void FrmGraph::Open() {
         QRect place = geometry();
         place.moveCenter(parentWidget()->geometry().center());
         place.moveRight(parentWidget()->geometry().right() - kBesideEdge);
-        setGeometry(OnScreen(place, parentWidget()->screen()->availableGeometry()));
+        setGeometry(Within(place, parentWidget()->screen()->availableGeometry()));
     }
     show();
     picture->setFocus();
@@ -196,8 +177,8 @@ void FrmGraph::ShowRequest(const Problem& problem) {
 }
 
 void FrmGraph::SetPrintEnabled(bool enabled) {
-    Command("mnuGraphPrint")->setEnabled(enabled);
-    Command("mnuGraphPrintSetup")->setEnabled(enabled);
+    Command("mnuGraphPrint").setEnabled(enabled);
+    Command("mnuGraphPrintSetup").setEnabled(enabled);
 }
 
 void FrmGraph::Redraw() {
@@ -207,9 +188,9 @@ void FrmGraph::Redraw() {
     picture->Show(graph.Picture(), ToQString(SpokenGraph(graph)));
     list->Show(graph.ThePlot());
     zoomIn->setEnabled(graph.Range().CanZoomIn());
-    Command("mnuGraphZoomIn")->setEnabled(graph.Range().CanZoomIn());
+    Command("mnuGraphZoomIn").setEnabled(graph.Range().CanZoomIn());
     zoomOut->setEnabled(graph.Range().CanZoomOut());
-    Command("mnuGraphZoomOut")->setEnabled(graph.Range().CanZoomOut());
+    Command("mnuGraphZoomOut").setEnabled(graph.Range().CanZoomOut());
     PlaceControls();
 }
 
@@ -234,7 +215,7 @@ void FrmGraph::ResizeDrawing(int side) {
     const int fits = std::min({side, free.width(), free.height() - above - kCaptionHeight});
     QRect place(0, 0, fits, fits + above);
     place.moveCenter(centre);
-    setGeometry(OnScreen(place, free));
+    setGeometry(Within(place, free));
 }
 
 void FrmGraph::ChooseColor(Color& color, const QString& title) {
@@ -242,7 +223,7 @@ void FrmGraph::ChooseColor(Color& color, const QString& title) {
     dialog.setObjectName(QStringLiteral("CommonDialog1"));
     dialog.setWindowTitle(title);
     if (dialog.exec() == QDialog::Accepted) {
-        color = ColorOf(dialog.currentColor());
+        color = FromQColor(dialog.currentColor());
         Redraw();
     }
 }
@@ -258,17 +239,17 @@ void FrmGraph::Command2_Click() {
 }
 
 void FrmGraph::mnuToggleZoomButtons_Click() {
-    const bool shown = Command("mnuToggleZoomButtons")->isChecked();
+    const bool shown = Command("mnuToggleZoomButtons").isChecked();
     zoomIn->setVisible(shown);
     zoomOut->setVisible(shown);
 }
 
 void FrmGraph::mnuToggleCoordinates_Click() {
-    list->setVisible(Command("mnuToggleCoordinates")->isChecked());
+    list->setVisible(Command("mnuToggleCoordinates").isChecked());
 }
 
 void FrmGraph::mnuGraphQuadrant_Click() {
-    graph.ShowQuadrants(Command("mnuGraphQuadrant")->isChecked());
+    graph.ShowQuadrants(Command("mnuGraphQuadrant").isChecked());
     Redraw();
 }
 
@@ -294,6 +275,10 @@ void FrmGraph::mnuGraphDefault_Click() {
     settings.GraphLineColor = GraphSettings::kDefaultLineColor;
     settings.GraphGridColor = GraphSettings::kDefaultGridColor;
     Redraw();
+}
+
+void FrmGraph::mnuGraphExit_Click() {
+    close();
 }
 
 void FrmGraph::mnuGraphSmall_Click() {

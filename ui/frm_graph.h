@@ -40,13 +40,11 @@ class FrmGraph : public QMainWindow {
     void ExitAsked();  ///< from the program, not only from this window
 
   private:
-    using Procedure = void (FrmGraph::*)();
-
     void MakeMenus();
     void MakeControls();
     void MakeShortcuts();
-    QAction* Command(const char* name) const { return commands.value(QLatin1String(name)); }
-    void OnTrigger(const char* name, Procedure procedure);
+    /// Throws std::invalid_argument for a name that is none of the menus'.
+    QAction& Command(const char* name) const;
     void Redraw();
     void PlaceControls();
     void ResizeDrawing(int side);
@@ -54,6 +52,7 @@ class FrmGraph : public QMainWindow {
 
     void Command1_Click();
     void Command2_Click();
+    void mnuGraphExit_Click();
     void mnuToggleZoomButtons_Click();
     void mnuToggleCoordinates_Click();
     void mnuGraphQuadrant_Click();

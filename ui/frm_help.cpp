@@ -1,34 +1,26 @@
 #include "ui/frm_help.h"
 
 #include <QAction>
-#include <QFile>
-#include <QHeaderView>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QScreen>
-#include <QSignalBlocker>
 #include <QSplitter>
 #include <QStackedWidget>
-#include <QStyledItemDelegate>
 #include <QToolBar>
 #include <QToolButton>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
+#include <optional>
 
 #include "ui/artwork.h"
 #include "ui/font_metrics.h"
+#include "ui/help_contents.h"
+#include "ui/help_files.h"
+#include "ui/help_results.h"
 #include "ui/help_view.h"
+#include "ui/named_action.h"
 #include "ui/text.h"
-
-/// The pages lie in a static library, where nobody asks for them by themselves. The macro works
-/// outside of all namespaces alone.
-static void LoadHelpPages() {
-    Q_INIT_RESOURCE(help);
-}
 
 namespace numerello {
 
@@ -42,35 +34,6 @@ constexpr int kToolPicture = 24;
 constexpr int kSmallestPicture = 20;  ///< of chapters and pages
 constexpr auto kHome = "welcome";
 
-constexpr std::array kZooms{50, 75, 90, 100, 110, 125, 150, 175, 200, 250, 300};
-
-std::string ContentsText() {
-    LoadHelpPages();
-    QFile file(QStringLiteral(":/help/contents.txt"));
-    file.open(QIODevice::ReadOnly);
-    return file.readAll().toStdString();
-}
-
-/// Rows of a tree that are as high as their title needs when it is broken at the view's edge. The
-/// tree by itself has rows of one line alone.
-class BrokenTitles : public QStyledItemDelegate {
-  public:
-    explicit BrokenTitles(QTreeView* tree) : QStyledItemDelegate(tree), tree(tree) {}
-
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        int indented = tree->indentation();
-        for (QModelIndex above = index.parent(); above.isValid(); above = above.parent()) {
-            indented += tree->indentation();
-        }
-        QStyleOptionViewItem narrow = option;
-        narrow.rect = QRect(0, 0, tree->columnWidth(0) - indented, 1);
-        return QStyledItemDelegate::sizeHint(narrow, index);
-    }
-
-  private:
-    QTreeView* tree;
-};
-
 QStringList WordsOf(const QString& query) {
     return query.simplified().split(u' ', Qt::SkipEmptyParts);
 }
@@ -78,7 +41,7 @@ QStringList WordsOf(const QString& query) {
 }  // namespace
 
 FrmHelp::FrmHelp(QWidget* parent)
-    : QWidget(parent, Qt::Window), index(ContentsText()), view(new HelpView(this)) {
+    : QWidget(parent, Qt::Window), index(ReadHelpFile("contents.txt")), view(new HelpView(this)) {
     LoadSheetFont();
     setObjectName(QStringLiteral("frmHelp"));
     setWindowTitle(QStringLiteral("Numerello Help"));
@@ -98,7 +61,7 @@ FrmHelp::FrmHelp(QWidget* parent)
     layout->addWidget(MakeToolbar());
     layout->addWidget(split, 1);
 
-    FillContents();
+    SizeIcons();
     connect(view, &HelpView::PageShown, this, &FrmHelp::MirrorPage);
     view->ShowPage(QString::fromLatin1(kHome));
     const int wanted = fontMetrics().averageCharWidth() * kSideLetters;
@@ -117,68 +80,22 @@ QWidget* FrmHelp::MakeSide() {
     search->setAccessibleName(QStringLiteral("Search"));
     search->setClearButtonEnabled(true);
     search->installEventFilter(this);
+    contents = new HelpContents(index, whole);
+    results = new HelpResults(index, whole);
     connect(search, &QLineEdit::textChanged, this, &FrmHelp::Search);
-    connect(search, &QLineEdit::returnPressed, this,
-            [this] { OpenResult(std::max(0, results->currentRow())); });
-
-    contents = new QTreeWidget(whole);
-    contents->setObjectName(QStringLiteral("contents"));
-    contents->setAccessibleName(QStringLiteral("Contents"));
-    contents->setHeaderHidden(true);
-    contents->setWordWrap(true);
-    contents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    contents->setItemDelegate(new BrokenTitles(contents));
-    // How high a row is depends on where it is broken; the tree does not look again by itself.
-    connect(contents->header(), &QHeaderView::sectionResized, contents, &QTreeWidget::doItemsLayout,
-            Qt::QueuedConnection);
-    connect(contents, &QTreeWidget::currentItemChanged, this,
-            [this](QTreeWidgetItem* item) { OpenContents(item); });
-    connect(contents, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
-        OpenContents(item);
-        item->setExpanded(!item->isExpanded());
-    });
-
-    resultsSide = new QWidget(whole);
-    found = new QLabel(resultsSide);
-    found->setObjectName(QStringLiteral("found"));
-    results = new QListWidget(resultsSide);
-    results->setObjectName(QStringLiteral("results"));
-    results->setAccessibleName(QStringLiteral("Pages found"));
-    results->setWordWrap(true);
-    results->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    connect(results, &QListWidget::currentRowChanged, this, &FrmHelp::OpenResult);
-    connect(results, &QListWidget::itemClicked, this,
-            [this] { OpenResult(results->currentRow()); });
-    auto* resultsLayout = new QVBoxLayout(resultsSide);
-    resultsLayout->setContentsMargins(0, 0, 0, 0);
-    resultsLayout->addWidget(found);
-    resultsLayout->addWidget(results, 1);
+    connect(search, &QLineEdit::returnPressed, results, &HelpResults::Choose);
+    connect(contents, &HelpContents::Chosen, this, &FrmHelp::OpenContents);
+    connect(results, &HelpResults::Chosen, this, &FrmHelp::OpenRow);
 
     side = new QStackedWidget(whole);
     side->addWidget(contents);
-    side->addWidget(resultsSide);
+    side->addWidget(results);
     auto* layout = new QVBoxLayout(whole);
     layout->setContentsMargins(kGap, kGap, 0, kGap);
     layout->setSpacing(kGap);
     layout->addWidget(search);
     layout->addWidget(side, 1);
     return whole;
-}
-
-QAction* FrmHelp::AddCommand(QToolBar* bar, const char* name, const QString& caption,
-                             const QString& picture, const QList<QKeySequence>& shortcuts) {
-    auto* action = bar->addAction(caption);
-    action->setObjectName(QString::fromLatin1(name));
-    action->setIcon(ArtworkIcon(QStringLiteral("help/") + picture));
-    action->setShortcuts(shortcuts);
-    action->setToolTip(QStringLiteral("%1 (%2)").arg(
-        caption, shortcuts.first().toString(QKeySequence::NativeText)));
-    if (auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(action))) {
-        button->setObjectName(QString::fromLatin1(name) + QStringLiteral("Button"));
-        button->setAccessibleName(caption);
-        button->setFocusPolicy(Qt::TabFocus);
-    }
-    return action;
 }
 
 QToolBar* FrmHelp::MakeToolbar() {
@@ -191,87 +108,78 @@ QToolBar* FrmHelp::MakeToolbar() {
     return bar;
 }
 
-void FrmHelp::MakeCommands(QToolBar* bar) {
-    const auto key = [](const char* text) { return QKeySequence(QString::fromLatin1(text)); };
-    auto* back = AddCommand(bar, "back", QStringLiteral("Back"), QStringLiteral("back"),
-                            {key("Alt+Left"), QKeySequence(Qt::Key_Back)});
-    auto* forward = AddCommand(bar, "forward", QStringLiteral("Forward"), QStringLiteral("forward"),
-                               {key("Alt+Right"), QKeySequence(Qt::Key_Forward)});
-    auto* home =
-        AddCommand(bar, "home", QStringLiteral("Home"), QStringLiteral("home"), {key("Alt+Home")});
-    bar->addSeparator();
-    previous = AddCommand(bar, "previous", QStringLiteral("Previous"), QStringLiteral("previous"),
-                          {key("Ctrl+PgUp")});
-    next = AddCommand(bar, "next", QStringLiteral("Next"), QStringLiteral("next"),
-                      {key("Ctrl+PgDown")});
-    bar->addSeparator();
-    smaller = AddCommand(bar, "smaller", QStringLiteral("Smaller"), QStringLiteral("smaller"),
-                         {key("Ctrl+-")});
-    larger = AddCommand(bar, "larger", QStringLiteral("Larger"), QStringLiteral("larger"),
-                        {key("Ctrl++"), key("Ctrl+=")});
-
-    back->setEnabled(false);
-    forward->setEnabled(false);
-    connect(view, &HelpView::backwardAvailable, back, &QAction::setEnabled);
-    connect(view, &HelpView::forwardAvailable, forward, &QAction::setEnabled);
-    connect(back, &QAction::triggered, view, &HelpView::backward);
-    connect(forward, &QAction::triggered, view, &HelpView::forward);
-    connect(home, &QAction::triggered, this,
-            [this] { view->ShowPage(QString::fromLatin1(kHome)); });
-    connect(previous, &QAction::triggered, this, [this] { GoBeside(-1); });
-    connect(next, &QAction::triggered, this, [this] { GoBeside(1); });
-    connect(smaller, &QAction::triggered, this, [this] { StepZoom(-1); });
-    connect(larger, &QAction::triggered, this, [this] { StepZoom(1); });
-
-    // Without buttons.
-    const auto addKey = [this, &key](const char* name, const char* shortcut) {
-        auto* action = new QAction(this);
-        action->setObjectName(QString::fromLatin1(name));
-        action->setShortcut(key(shortcut));
-        addAction(action);
-        return action;
-    };
-    connect(addKey("find", "Ctrl+F"), &QAction::triggered, this, [this] {
-        search->setFocus(Qt::ShortcutFocusReason);
-        search->selectAll();
-    });
-    connect(addKey("usualSize", "Ctrl+0"), &QAction::triggered, this, [this] {
-        view->SetZoom(HelpView::kUsualZoom);
-        StepZoom(0);
-    });
-    connect(addKey("helpOnHelp", "F1"), &QAction::triggered, this,
-            [this] { view->ShowPage(QStringLiteral("this-help")); });
+/// The button of a command, with its picture.
+void FrmHelp::AddButton(QToolBar& bar, QAction& action) {
+    action.setIcon(ArtworkIcon(QStringLiteral("help/") + action.objectName()));
+    action.setToolTip(QStringLiteral("%1 (%2)").arg(
+        action.text(), action.shortcut().toString(QKeySequence::NativeText)));
+    bar.addAction(&action);
+    if (auto* button = qobject_cast<QToolButton*>(bar.widgetForAction(&action))) {
+        button->setObjectName(action.objectName() + QStringLiteral("Button"));
+        button->setAccessibleName(action.text());
+        button->setFocusPolicy(Qt::TabFocus);
+    }
 }
 
-void FrmHelp::FillContents() {
-    QList<QTreeWidgetItem*> above;  // the last item of each depth
-    for (const ContentsRow& row : index.Rows()) {
-        const QStringList title{ToQString(row.title)};
-        auto* item = row.depth == 0 ? new QTreeWidgetItem(contents, title)
-                                    : new QTreeWidgetItem(above.at(row.depth - 1), title);
-        above.resize(row.depth);
-        above.append(item);
-        items.append(item);
+QAction& FrmHelp::Command(const char* name) const {
+    return NamedAction(commands, name);
+}
+
+void FrmHelp::MakeCommands(QToolBar* bar) {
+    /// The name is that of the picture too. Without a name it is a separator, without a caption a
+    /// key without a button.
+    struct Row {
+        const char* name = "";
+        const char* caption = "";
+        const char* shortcuts = "";
+        void (FrmHelp::*procedure)() = nullptr;
+    };
+    constexpr auto kRows = std::to_array<Row>({
+        {"back", "Back", "Alt+Left; Back", &FrmHelp::GoBack},
+        {"forward", "Forward", "Alt+Right; Forward", &FrmHelp::GoForward},
+        {"home", "Home", "Alt+Home", &FrmHelp::GoHome},
+        {},
+        {"previous", "Previous", "Ctrl+PgUp", &FrmHelp::GoToPrevious},
+        {"next", "Next", "Ctrl+PgDown", &FrmHelp::GoToNext},
+        {},
+        {"smaller", "Smaller", "Ctrl+-", &FrmHelp::ZoomOut},
+        {"larger", "Larger", "Ctrl++; Ctrl+=", &FrmHelp::ZoomIn},
+
+        {"find", "", "Ctrl+F", &FrmHelp::Find},
+        {"usualSize", "", "Ctrl+0", &FrmHelp::ZoomAsUsual},
+        {"helpOnHelp", "", "F1", &FrmHelp::ShowHelpOnHelp},
+    });
+    for (const Row& row : kRows) {
+        if (row.procedure == nullptr) {
+            bar->addSeparator();
+            continue;
+        }
+        const QString name = QString::fromLatin1(row.name);
+        const QString caption = QString::fromLatin1(row.caption);
+        auto* action = new QAction(caption, this);
+        action->setObjectName(name);
+        action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(row.shortcuts)));
+        connect(action, &QAction::triggered, this,
+                [this, procedure = row.procedure] { (this->*procedure)(); });
+        caption.isEmpty() ? addAction(action) : AddButton(*bar, *action);
+        commands.insert(name, action);
     }
-    const QIcon chapter = ArtworkIcon(QStringLiteral("book1"));
-    const QIcon page = ArtworkIcon(QStringLiteral("book2"));
-    for (QTreeWidgetItem* item : std::as_const(items)) {
-        item->setIcon(0, item->childCount() > 0 ? chapter : page);
-    }
-    SizeIcons();
-    items.first()->setExpanded(true);
+    Command("back").setEnabled(false);
+    Command("forward").setEnabled(false);
+    connect(view, &HelpView::backwardAvailable, &Command("back"), &QAction::setEnabled);
+    connect(view, &HelpView::forwardAvailable, &Command("forward"), &QAction::setEnabled);
 }
 
 /// Pictures grow with the interface font.
 void FrmHelp::SizeIcons() {
     const QSize size = QSize(1, 1) * std::max(kSmallestPicture, fontMetrics().height());
     contents->setIconSize(size);
-    results->setIconSize(size);
+    results->SetIconSize(size);
 }
 
 void FrmHelp::ShowTopic(std::string_view caption) {
     const QString page = ToQString(PageName(caption));
-    ShowPage(index.RowOf(PageName(caption)) < 0 ? QString::fromLatin1(kHome) : page);
+    ShowPage(index.RowOf(PageName(caption)) ? page : QString::fromLatin1(kHome));
 }
 
 void FrmHelp::ShowPage(const QString& name) {
@@ -294,53 +202,34 @@ void FrmHelp::Raise() {
 }
 
 void FrmHelp::Search() {
-    const std::vector<int> rows = index.Search(search->text().toStdString());
     const bool searching = !search->text().simplified().isEmpty();
-    {
-        const QSignalBlocker noChoiceYet(results);
-        results->clear();
-        resultRows = QList<int>(rows.begin(), rows.end());
-        for (const int row : rows) {
-            auto* item = new QListWidgetItem(items.at(row)->text(0), results);
-            item->setIcon(items.at(row)->icon(0));
-        }
-    }
-    found->setText(rows.empty()       ? QStringLiteral("No page has these words.")
-                   : rows.size() == 1 ? QStringLiteral("1 page")
-                                      : QStringLiteral("%1 pages").arg(rows.size()));
-    side->setCurrentWidget(searching ? resultsSide : contents);
+    results->Show(index.Search(search->text().toStdString()));
+    side->setCurrentWidget(searching ? static_cast<QWidget*>(results) : contents);
     view->MarkWords(searching ? WordsOf(search->text()) : QStringList());
 }
 
-void FrmHelp::OpenResult(int row) {
-    if (row >= 0 && row < resultRows.size()) {
-        const QSignalBlocker openedAlready(results);
-        results->setCurrentRow(row);
-        view->ShowPage(ToQString(index.Rows()[static_cast<std::size_t>(resultRows.at(row))].page));
-    }
+const std::string& FrmHelp::PageOf(int row) const {
+    return index.Rows()[static_cast<std::size_t>(row)].page;
 }
 
-void FrmHelp::OpenContents(QTreeWidgetItem* item) {
-    const auto row = items.indexOf(item);
-    if (row < 0) {
-        return;
-    }
-    const std::string& page = index.Rows()[static_cast<std::size_t>(row)].page;
-    if (!page.empty() && view->Page().toStdString() != page) {
-        view->ShowPage(ToQString(page));
+void FrmHelp::OpenRow(int row) {
+    view->ShowPage(ToQString(PageOf(row)));
+}
+
+/// A chapter has no page, and the page on show is left as it is.
+void FrmHelp::OpenContents(int row) {
+    if (!PageOf(row).empty() && view->Page().toStdString() != PageOf(row)) {
+        OpenRow(row);
     }
 }
 
 /// Lights the row of the page on show.
 void FrmHelp::MirrorPage() {
     const std::string page = view->Page().toStdString();
-    const int row = index.RowOf(page);
-    previous->setEnabled(!index.PageBeside(page, -1).empty());
-    next->setEnabled(!index.PageBeside(page, 1).empty());
-    if (row >= 0) {
-        const QSignalBlocker openedAlready(contents);
-        contents->setCurrentItem(items.at(row));
-        contents->scrollToItem(items.at(row));
+    Command("previous").setEnabled(!index.PageBeside(page, -1).empty());
+    Command("next").setEnabled(!index.PageBeside(page, 1).empty());
+    if (const std::optional<int> row = index.RowOf(page)) {
+        contents->Light(*row);
     }
 }
 
@@ -351,13 +240,53 @@ void FrmHelp::GoBeside(int steps) {
     }
 }
 
-void FrmHelp::StepZoom(int steps) {
-    const auto* const at = std::find(kZooms.begin(), kZooms.end(), view->Zoom());
-    const int last = static_cast<int>(kZooms.size()) - 1;
-    const int place = std::clamp(static_cast<int>(at - kZooms.begin()) + steps, 0, last);
-    view->SetZoom(kZooms[static_cast<std::size_t>(place)]);
-    smaller->setEnabled(place > 0);
-    larger->setEnabled(place < last);
+void FrmHelp::GoBack() {
+    view->backward();
+}
+
+void FrmHelp::GoForward() {
+    view->forward();
+}
+
+void FrmHelp::GoHome() {
+    view->ShowPage(QString::fromLatin1(kHome));
+}
+
+void FrmHelp::GoToPrevious() {
+    GoBeside(-1);
+}
+
+void FrmHelp::GoToNext() {
+    GoBeside(1);
+}
+
+void FrmHelp::ZoomOut() {
+    view->StepZoom(-1);
+    MirrorZoom();
+}
+
+void FrmHelp::ZoomIn() {
+    view->StepZoom(1);
+    MirrorZoom();
+}
+
+void FrmHelp::ZoomAsUsual() {
+    view->ZoomAsUsual();
+    MirrorZoom();
+}
+
+void FrmHelp::MirrorZoom() {
+    Command("smaller").setEnabled(view->CanZoomOut());
+    Command("larger").setEnabled(view->CanZoomIn());
+}
+
+void FrmHelp::Find() {
+    search->setFocus(Qt::ShortcutFocusReason);
+    search->selectAll();
+}
+
+void FrmHelp::ShowHelpOnHelp() {
+    view->ShowPage(QStringLiteral("this-help"));
 }
 
 void FrmHelp::keyPressEvent(QKeyEvent* event) {
@@ -381,11 +310,10 @@ void FrmHelp::changeEvent(QEvent* event) {
 
 /// Up and Down move through the pages found while the search box has the focus.
 bool FrmHelp::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress && !resultRows.isEmpty()) {
+    if (event->type() == QEvent::KeyPress && !results->IsEmpty()) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Down || key == Qt::Key_Up) {
-            const int row = results->currentRow() + (key == Qt::Key_Down ? 1 : -1);
-            OpenResult(std::clamp(row, 0, static_cast<int>(resultRows.size()) - 1));
+            results->Move(key == Qt::Key_Down ? 1 : -1);
             return true;
         }
     }

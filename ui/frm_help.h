@@ -1,21 +1,21 @@
 #pragma once
 
+#include <QMap>
 #include <QWidget>
+#include <string>
 #include <string_view>
 
 #include "help/search.h"
 
 class QAction;
-class QLabel;
 class QLineEdit;
-class QListWidget;
 class QStackedWidget;
 class QToolBar;
-class QTreeWidget;
-class QTreeWidgetItem;
 
 namespace numerello {
 
+class HelpContents;
+class HelpResults;
 class HelpView;
 
 /// The help: contents, search and pages, a window of its own that works without a network. It
@@ -41,34 +41,38 @@ class FrmHelp : public QWidget {
   private:
     QWidget* MakeSide();
     QToolBar* MakeToolbar();
-    QAction* AddCommand(QToolBar* bar, const char* name, const QString& caption,
-                        const QString& picture, const QList<QKeySequence>& shortcuts);
     void MakeCommands(QToolBar* bar);
-    void FillContents();
+    static void AddButton(QToolBar& bar, QAction& action);
+    QAction& Command(const char* name) const;
     void SizeIcons();
     void Raise();
 
     void Search();
-    void OpenResult(int row);
-    void OpenContents(QTreeWidgetItem* item);
+    const std::string& PageOf(int row) const;
+    void OpenRow(int row);
+    void OpenContents(int row);
     void MirrorPage();
+    void MirrorZoom();
     void GoBeside(int steps);
-    void StepZoom(int steps);
+
+    void GoBack();
+    void GoForward();
+    void GoHome();
+    void GoToPrevious();
+    void GoToNext();
+    void ZoomOut();
+    void ZoomIn();
+    void ZoomAsUsual();
+    void Find();
+    void ShowHelpOnHelp();
 
     HelpIndex index;
     HelpView* view;
     QLineEdit* search = nullptr;
     QStackedWidget* side = nullptr;
-    QTreeWidget* contents = nullptr;
-    QWidget* resultsSide = nullptr;
-    QListWidget* results = nullptr;
-    QLabel* found = nullptr;
-    QAction* previous = nullptr;
-    QAction* next = nullptr;
-    QAction* smaller = nullptr;
-    QAction* larger = nullptr;
-    QList<QTreeWidgetItem*> items;  ///< by the rows of the index
-    QList<int> resultRows;
+    HelpContents* contents = nullptr;
+    HelpResults* results = nullptr;
+    QMap<QString, QAction*> commands;  ///< by name
 };
 
 }  // namespace numerello

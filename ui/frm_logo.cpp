@@ -6,8 +6,11 @@
 #include <QScreen>
 #include <chrono>
 
+#include "typeset/surface.h"
 #include "ui/artwork.h"
+#include "ui/colors.h"
 #include "ui/font_metrics.h"
+#include "ui/text.h"
 
 namespace numerello {
 
@@ -15,7 +18,6 @@ namespace {
 
 constexpr QSize kSize(480, 300);
 constexpr std::chrono::milliseconds kShown(1000);
-constexpr QColor kInk(0x2B, 0x3A, 0x55);
 
 }  // namespace
 
@@ -38,10 +40,10 @@ FrmLogo::FrmLogo() : QWidget(nullptr, Qt::Dialog | Qt::FramelessWindowHint) {
 void FrmLogo::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.drawPixmap(0, 0, Artwork(QStringLiteral("splash"), kSize, devicePixelRatioF()));
-    QFont face(QStringLiteral("VantrelFont"));
+    QFont face(ToQString(kSheetFace));
     face.setPixelSize(52);
     painter.setFont(face);
-    painter.setPen(kInk);
+    painter.setPen(kInkColor);
     painter.drawText(QRect(76, 200, 380, 64), Qt::AlignLeft | Qt::AlignVCenter,
                      QStringLiteral("Numerello"));
     face.setPixelSize(17);

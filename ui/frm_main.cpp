@@ -2,26 +2,24 @@
 
 #include <QCloseEvent>
 #include <QDesktopServices>
-#include <QDropEvent>
 #include <QGuiApplication>
 #include <QScreen>
-#include <QTimer>
 #include <QUrl>
 #include <array>
-#include <optional>
+#include <chrono>
 #include <utility>
 
 #include "catalogue/chooser.h"
-#include "catalogue/saved_problem.h"
 #include "catalogue/topic_tree.h"
+#include "core/problem_file.h"
 #include "ui/artwork.h"
 #include "ui/desk.h"
-#include "ui/dropped_file.h"
 #include "ui/frm_about.h"
 #include "ui/frm_options.h"
 #include "ui/frm_select.h"
 #include "ui/held_enter.h"
 #include "ui/pointer.h"
+#include "ui/screen_room.h"
 #include "ui/text.h"
 #include "ui/web_pages.h"
 
@@ -29,38 +27,11 @@ namespace numerello {
 
 namespace {
 
-using std::chrono::seconds;
-
 constexpr QSize kOpeningSize(1100, 800);
 constexpr QSize kSmallestSize(640, 480);
-constexpr int kCaptionHeight = 32;  ///< what the desktop adds above a window, at a guess
-
-constexpr seconds kStatusTime(5);
-constexpr seconds kAddressTime(20);  ///< to be copied down
+constexpr std::chrono::seconds kAddressTime(20);  ///< to be copied down
 
 }  // namespace
-
-/// The entry form of the frame while a problem is loaded; the pointer is busy meanwhile.
-class FrmMain::Loading : public LoadingForm {
-  public:
-    explicit Loading(FrmMain& frame) : frame(frame) {}
-
-    void Open() override {
-        busy.emplace(Qt::BusyCursor);
-        frame.LoadPaper();
-    }
-
-    void ShowEntry() override { frame.paper->ShowEntry(); }
-    void Form_KeyPress(std::string_view key) override { frame.paper->Form_KeyPress(key); }
-    void compute_Click() override { frame.paper->compute_Click(); }
-    void TellStatus(std::string_view text) override {
-        frame.status->Tell(ToQString(text), kStatusTime);
-    }
-
-  private:
-    FrmMain& frame;
-    std::optional<PointerGuard> busy;
-};
 
 FrmMain::FrmMain(SettingsStore& store, std::string documents, std::string StartFile)
     : store(store),
@@ -180,19 +151,6 @@ void FrmMain::Begin() {
     } else {
         LoadProblem(std::exchange(startFile, {}));
     }
-}
-
-void FrmMain::mnuSave_Click() {
-    numerello::mnuSave_Click(problem, files, clock, learner);
-}
-
-void FrmMain::mnuLoad_Click() {
-    LoadProblem({});
-}
-
-void FrmMain::LoadProblem(std::string_view StartFile) {
-    Loading form(*this);
-    numerello::mnuLoad_Click(StartFile, files, problem, form, clock, random);
 }
 
 void FrmMain::LoadPaper() {
@@ -338,27 +296,6 @@ void FrmMain::mnuAbout_Click() {
 bool FrmMain::event(QEvent* event) {
     // Commands under the pointer have nothing to say in the status line, and would empty it.
     return event->type() == QEvent::StatusTip || QMainWindow::event(event);
-}
-
-void FrmMain::dragEnterEvent(QDragEnterEvent* event) {
-    if (!DroppedFile(*event).empty()) {
-        event->setDropAction(Qt::CopyAction);
-        event->accept();
-    }
-}
-
-void FrmMain::dropEvent(QDropEvent* event) {
-    const std::string file = DroppedFile(*event);
-    if (file.empty()) {
-        return;
-    }
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
-    // The program that the file comes from waits until this event is over.
-    QTimer::singleShot(0, this, [this, file] {
-        activateWindow();
-        LoadProblem(file);
-    });
 }
 
 void FrmMain::closeEvent(QCloseEvent* event) {

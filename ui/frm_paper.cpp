@@ -1,21 +1,18 @@
 #include "ui/frm_paper.h"
 
-#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <chrono>
 
 #include "app/solvers.h"
 #include "catalogue/examples/example_click.h"
-#include "catalogue/guided_input.h"
 #include "core/erasing.h"
-#include "core/text.h"
 #include "ui/accessible_sheet.h"
 #include "ui/desk.h"
+#include "ui/keep_running.h"
 #include "ui/motion.h"
 #include "ui/pointer.h"
 #include "ui/text.h"
-#include "ui/typed_key.h"
-#include "worksheet/sheet_rows.h"
 #include "worksheet/shown_note.h"
 #include "worksheet/spoken_line.h"
 
@@ -24,13 +21,7 @@ namespace numerello {
 namespace {
 
 constexpr std::chrono::milliseconds kFlash(400);
-constexpr double kTypedLineLimit = 730;
-
-constexpr int kLightTop = 24;
-constexpr int kLightMargin = 8;
 constexpr int kAroundField = 16;
-/// The light may cover the sheet, but not where anything is written.
-constexpr int kLightLeftOnSheet = 752;
 
 }  // namespace
 
@@ -178,16 +169,6 @@ void FrmPaper::ShowStep() {
     }
 }
 
-/// Brings the arrow or the check mark behind the last line into view, and before it what was
-/// written lowest: a long division goes on below the arrow.
-void FrmPaper::ScrollToLineEnd() {
-    constexpr int kAround = 48;
-    const Sheet& sheet = worksheet.SheetAt(problem.playback.CurrentPage);
-    const int lineEndX = qRound(sheet.left + problem.playback.LineEndX);
-    ensureVisible(lineEndX, qRound(sheet.top + LowestText(sheet.surface)), kAround, kAround);
-    ensureVisible(lineEndX, qRound(sheet.top + problem.playback.LineEndY), kAround, kAround);
-}
-
 void FrmPaper::mnuShowStep_Click(bool ticked) {
     worksheet.mnuShowStep_Click(ticked);
     Refresh();
@@ -229,95 +210,8 @@ void FrmPaper::UsePencil(bool used) {
     pencil->Show(viewport()->size());
 }
 
-bool FrmPaper::TakesKeys() const {
-    return IsTypedOnLine(problem.topic.ProblemType) && problem.playback.TypingEnabled;
-}
-
-void FrmPaper::Form_KeyPress(std::string_view key) {
-    TypeText(ToQString(key));
-}
-
 void FrmPaper::ShowEntry() {
     Refresh();
-}
-
-void FrmPaper::TypeKey(std::string_view key) {
-    const bool sheetIsFull = problem.playback.LineEndX >= kTypedLineLimit && key != kBackspace;
-    if (!IsJudged(problem, key) || sheetIsFull) {
-        return;
-    }
-    numerello::Form_KeyPress(problem, key);
-    worksheet.DrawTypedLine();
-    pencil->KeyTyped();
-}
-
-void FrmPaper::TypeText(const QString& text) {
-    if (!TakesKeys()) {
-        return;
-    }
-    for (const std::string& key : Characters(text.toStdString())) {
-        TypeKey(key);
-    }
-    Refresh();
-    ScrollToLineEnd();
-}
-
-void FrmPaper::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        if (event->isAutoRepeat()) {
-            return;
-        }
-        if (problem.controls.SolveEnabled) {
-            compute_Click();
-        } else if (worksheet.ArrowVisible()) {
-            NextStep();
-        }
-        return;
-    }
-    const bool turnsPages = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown;
-    if (turnsPages && worksheet.StackingOrder().size() > 1) {
-        RaiseNeighbour(event->key() == Qt::Key_PageUp ? -1 : 1);
-        return;
-    }
-    if (event->matches(QKeySequence::Paste)) {
-        TypeText(PastedText());
-        return;
-    }
-    const QString typed = TypedBy(*event);
-    if (typed.isEmpty()) {
-        QScrollArea::keyPressEvent(event);
-        return;
-    }
-    TypeText(typed);
-}
-
-void FrmPaper::RaiseNeighbour(int direction) {
-    if (worksheet.RaiseNeighbour(direction)) {
-        Refresh();
-        const QRect place = pile->At(worksheet.StackingOrder().back()).geometry();
-        ensureVisible(place.right(), place.bottom(), 0, 0);
-        ensureVisible(place.left(), place.top(), 0, 0);
-    }
-}
-
-/// While the mouse drags: what lies on the sheet goes with it, the rest stays as it is.
-void FrmPaper::FollowSheets() {
-    pencil->Place();
-    desk->update();
-}
-
-void FrmPaper::ReleaseSheet(int index) {
-    const QPoint scrolled = Scrolled();
-    worksheet.Paper_MouseUp(
-        index,
-        {static_cast<double>(scrolled.x()), static_cast<double>(scrolled.y()),
-         static_cast<double>(viewport()->width()), static_cast<double>(viewport()->height())});
-    Refresh();
-}
-
-/// What of the desk lies left of the view and above it.
-QPoint FrmPaper::Scrolled() const {
-    return {horizontalScrollBar()->value(), verticalScrollBar()->value()};
 }
 
 void FrmPaper::mouseReleaseEvent(QMouseEvent* event) {
@@ -327,12 +221,6 @@ void FrmPaper::mouseReleaseEvent(QMouseEvent* event) {
         return;
     }
     QScrollArea::mouseReleaseEvent(event);
-}
-
-void FrmPaper::resizeEvent(QResizeEvent* event) {
-    QScrollArea::resizeEvent(event);
-    worksheet.Centre(viewport()->width());
-    Refresh();
 }
 
 void FrmPaper::showEvent(QShowEvent* event) {
@@ -372,39 +260,9 @@ QString FrmPaper::Reason() const {
     return ToQString(refused ? problem.input.InputError : SpokenLine(ShownNote(problem)));
 }
 
-/// The desk fills the view and reaches around all sheets.
-void FrmPaper::FitDesk() {
-    QSize size = viewport()->size();
-    for (const int index : worksheet.StackingOrder()) {
-        const Sheet& sheet = worksheet.SheetAt(index);
-        size =
-            size.expandedTo({qRound(sheet.left + sheet.width), qRound(sheet.top + sheet.height)});
-    }
-    desk->resize(size);
-    PlaceFigures();
-}
-
-/// Beside the sheet. In a narrow view the light stands over the sheet's right edge, where nothing
-/// is written, but never out of sight.
-void FrmPaper::PlaceFigures() {
-    const QSize view = viewport()->size();
-    const int sheetLeft = Worksheet::CentredLeft(view.width());
-    worksheet.TheAssistant().PlaceBeside(sheetLeft, view.width(), view.height());
-
-    const int lightLeft = Assistant::FirstLeft(sheetLeft, view.width()) +
-                          (Assistant::kWidth - LightButton::kSize.width()) / 2;
-    light->move(std::min(std::max(lightLeft, sheetLeft + kLightLeftOnSheet),
-                         view.width() - LightButton::kSize.width() - kLightMargin),
-                kLightTop);
-}
-
 void FrmPaper::KeepTimer() {
     const bool flashing = worksheet.Timer2Enabled() && onScreen && MotionWanted();
-    if (flashing && !timer2.isActive()) {
-        timer2.start();
-    } else if (!flashing) {
-        timer2.stop();
-    }
+    KeepRunning(timer2, flashing);
     wizard->Show(onScreen);
 }
 

@@ -11,7 +11,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QTabBar>
 #include <QTabWidget>
@@ -24,26 +23,22 @@
 #include "catalogue/topics.h"
 #include "ui/frm_print_preview.h"
 #include "ui/pointer.h"
+#include "ui/screen_room.h"
 #include "ui/text.h"
 #include "ui/topic_views.h"
+#include "ui/typed_key.h"
 
 namespace numerello {
 
 namespace {
 
 constexpr int kMargin = 8;
-constexpr int kMostProblems = 18;
 constexpr int kUsualChoice = 4;  ///< 5 problems
-constexpr double kScreenShare = 0.9;
 constexpr int kSmallestHeight = 560;
 
 std::vector<TreeNode> AllNodes() {
     TopicChoice none;
     return BuildTopicTree(none, false);
-}
-
-bool IsEnter(int key) {
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
 }
 
 /// What a row keeps for its topic's name in a narrow window.
@@ -68,8 +63,6 @@ FrmPracticeTest::FrmPracticeTest(TestMaker makeTest, std::optional<HeadingLines>
     setObjectName(QStringLiteral("frmPracticeTest"));
     setWindowTitle(QStringLiteral("Practice Test"));
     setModal(true);
-    childrenTimer.setSingleShot(true);
-    connect(&childrenTimer, &QTimer::timeout, this, &FrmPracticeTest::ShowChildren);
 
     MakeTabs();
     auto* right = new QVBoxLayout;
@@ -78,7 +71,7 @@ FrmPracticeTest::FrmPracticeTest(TestMaker makeTest, std::optional<HeadingLines>
     right->addWidget(this->heading.group);
     right->addLayout(MakeButtons());
     auto* row = new QHBoxLayout(this);
-    row->addWidget(ssTab1, TopicsWidth());
+    row->addWidget(ssTab1, TopicsWidth(*this));
     row->addLayout(right, OutlineWidth());
     resize(PreferredSize());
     treeView1->setFocus();
@@ -93,6 +86,7 @@ void FrmPracticeTest::MakeTabs() {
 
     treeView1 = new QTreeWidget;
     FillTopicTree(*treeView1, nodes);
+    children = new ChildrenScroller(*treeView1);
     // In a narrow window captions are scrolled to and not cut.
     treeView1->header()->setStretchLastSection(false);
     treeView1->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
@@ -131,14 +125,14 @@ QWidget* FrmPracticeTest::MakeOutline() {
     for (const char* caption : {"Problem Type", "Number of Problems ", "Complex"}) {
         grid->addWidget(new QLabel(QString::fromLatin1(caption), outline), 0, column++);
     }
-    for (int i = 0; i < kRows; ++i) {
+    for (int i = 0; i < kTestRows; ++i) {
         const Row row = MakeRow(i, outline);
         grid->addWidget(row.Text4, i + 1, 0);
         grid->addWidget(row.Combo1, i + 1, 1);
         grid->addWidget(row.Check1, i + 1, 2, Qt::AlignHCenter);
         rows[static_cast<std::size_t>(i)] = row;
     }
-    grid->setRowStretch(kRows + 1, 1);
+    grid->setRowStretch(kTestRows + 1, 1);
 
     // On a small screen the rows scroll, so that heading and buttons stay in sight.
     auto* scrolled = new QScrollArea(this);
@@ -163,7 +157,7 @@ FrmPracticeTest::Row FrmPracticeTest::MakeRow(int index, QWidget* parent) {
     row.Combo1->setObjectName(QStringLiteral("Combo1(%1)").arg(index));
     row.Combo1->setAccessibleName(QStringLiteral("Number of problems of row %1").arg(number));
     row.Combo1->setToolTip(QStringLiteral("How many problems of this topic"));
-    for (int count = 1; count <= kMostProblems; ++count) {
+    for (int count = 1; count <= kMostProblemsOfRow; ++count) {
         row.Combo1->addItem(QString::number(count));
     }
     row.Check1->setObjectName(QStringLiteral("Check1(%1)").arg(index));
@@ -188,11 +182,6 @@ QLayout* FrmPracticeTest::MakeButtons() {
     return buttons;
 }
 
-/// Room for the longest caption three folders deep.
-int FrmPracticeTest::TopicsWidth() const {
-    return WidestTopic(*this) + 4 * TopicIndentation(*this) + 7 * kMargin;
-}
-
 /// Room for the longest caption in a row.
 int FrmPracticeTest::OutlineWidth() const {
     const int smallest = rows.front().Text4->parentWidget()->minimumSizeHint().width();
@@ -200,9 +189,9 @@ int FrmPracticeTest::OutlineWidth() const {
 }
 
 QSize FrmPracticeTest::PreferredSize() const {
-    const QSize needed(TopicsWidth() + OutlineWidth() + 4 * kMargin,
+    const QSize needed(TopicsWidth(*this) + OutlineWidth() + 4 * kMargin,
                        std::max(sizeHint().height(), kSmallestHeight));
-    return needed.boundedTo(screen()->availableSize() * kScreenShare);
+    return needed.boundedTo(RoomForDialog(*this));
 }
 
 /// The heading is kept however the form closes.
@@ -265,8 +254,7 @@ void FrmPracticeTest::ShowBeginning(QObject* watched) {
 void FrmPracticeTest::ClickNode(QTreeWidgetItem& item) {
     if (item.childCount() > 0) {
         item.setExpanded(!item.isExpanded());
-        // A row must not be scrolled away between the halves of a double click.
-        childrenTimer.start(QApplication::doubleClickInterval());
+        children->ShowIn(QApplication::doubleClickInterval());
     }
 }
 
@@ -297,15 +285,6 @@ void FrmPracticeTest::Fill(Row& row, const QString& caption) {
     row.Combo1->setEnabled(filled);
     row.Check1->setChecked(false);
     row.Check1->setEnabled(filled);
-}
-
-/// A folder opened at the lower edge would else seem to do nothing.
-void FrmPracticeTest::ShowChildren() {
-    QTreeWidgetItem* folder = treeView1->currentItem();
-    if (folder != nullptr && folder->isExpanded()) {
-        treeView1->scrollToItem(folder->child(folder->childCount() - 1));
-        treeView1->scrollToItem(folder);
-    }
 }
 
 std::vector<TestRow> FrmPracticeTest::Outline() const {

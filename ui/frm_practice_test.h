@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QDialog>
-#include <QTimer>
 #include <array>
 #include <optional>
 #include <string_view>
@@ -24,6 +23,8 @@ class QTreeWidgetItem;
 
 namespace numerello {
 
+class ChildrenScroller;
+
 /// The outline of a practice test, ten rows that topics are chosen into, and its heading. It works
 /// on no problem but those that it makes up.
 class FrmPracticeTest : public QDialog {
@@ -39,8 +40,6 @@ class FrmPracticeTest : public QDialog {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    static constexpr int kRows = 10;
-
     /// Text4, Combo1 and Check1 of an index.
     struct Row {
         QLineEdit* Text4;
@@ -52,7 +51,6 @@ class FrmPracticeTest : public QDialog {
     QWidget* MakeOutline();
     Row MakeRow(int index, QWidget* parent);
     QLayout* MakeButtons();
-    int TopicsWidth() const;
     int OutlineWidth() const;
     QSize PreferredSize() const;
 
@@ -63,7 +61,6 @@ class FrmPracticeTest : public QDialog {
     void ChooseNode(QTreeWidgetItem& item);
     void Choose(std::string_view caption);
     static void Fill(Row& row, const QString& caption);
-    void ShowChildren();
 
     std::vector<TestRow> Outline() const;
     void Command2_Click();
@@ -76,10 +73,10 @@ class FrmPracticeTest : public QDialog {
     std::vector<TreeNode> nodes;
     QTabWidget* ssTab1 = nullptr;
     QTreeWidget* treeView1 = nullptr;
+    ChildrenScroller* children = nullptr;
     QListWidget* indexList = nullptr;
-    std::array<Row, kRows> rows{};
+    std::array<Row, kTestRows> rows{};
     HeadingGroup heading{};
-    QTimer childrenTimer;  ///< until the opened folder's children are scrolled into view
 };
 
 }  // namespace numerello

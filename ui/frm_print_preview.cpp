@@ -5,7 +5,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
@@ -13,9 +12,11 @@
 #include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 #include "ui/pointer.h"
+#include "ui/screen_room.h"
 #include "ui/window_learner.h"
 
 namespace numerello {
@@ -24,7 +25,6 @@ namespace {
 
 constexpr int kAroundPage = 12;
 constexpr double kLargestZoom = 2;
-constexpr double kScreenShare = 0.9;
 
 }  // namespace
 
@@ -50,7 +50,7 @@ FrmPrintPreview::FrmPrintPreview(Previewed preview, PrintDevice& device, QWidget
     row->addWidget(MakeSide());
     MakeShortcuts();
 
-    printer.label1->setText(device.Name().isEmpty() ? QStringLiteral("Unknown") : device.Name());
+    ShowPrinter();
     ShowPages();
     resize(PreferredSize());
     pages->setFocus();
@@ -127,6 +127,11 @@ void FrmPrintPreview::MakeShortcuts() {
             &FrmPrintPreview::Command1_Click);
 }
 
+void FrmPrintPreview::ShowPrinter() {
+    const QString name = device.Name();
+    printer.label1->setText(name.isEmpty() ? QStringLiteral("Unknown") : name);
+}
+
 /// Draws all pages for the paper in the printer.
 void FrmPrintPreview::ShowPages() {
     paper = device.Paper();
@@ -176,7 +181,7 @@ QSize FrmPrintPreview::PreferredSize() const {
     const QSize needed(
         qRound(page.width()) + around + printer.group->sizeHint().width() + 2 * kAroundPage,
         qRound(page.height()) + around);
-    return needed.boundedTo(screen()->availableSize() * kScreenShare);
+    return needed.boundedTo(RoomForDialog(*this));
 }
 
 bool FrmPrintPreview::eventFilter(QObject* watched, QEvent* event) {
@@ -196,7 +201,7 @@ void FrmPrintPreview::SavePdf_Click() {
 
 void FrmPrintPreview::Command3_Click() {
     device.mnuPrintSetup_Click(this);
-    printer.label1->setText(device.Name().isEmpty() ? QStringLiteral("Unknown") : device.Name());
+    ShowPrinter();
     const PaperSize now = device.Paper();
     if (now.width != paper.width || now.height != paper.height) {
         ShowPages();

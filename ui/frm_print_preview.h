@@ -30,6 +30,7 @@ class FrmPrintPreview : public QDialog {
     QWidget* MakeSide();
     void MakeShortcuts();
 
+    void ShowPrinter();
     void ShowPages();
     void ShowPage(int page);
     void FitPictures();

@@ -4,16 +4,15 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMouseEvent>
 #include <QScopedValueRollback>
-#include <QScreen>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <utility>
 
-#include "ui/double_click.h"
+#include "ui/forwarding_view.h"
+#include "ui/screen_room.h"
 #include "ui/text.h"
 #include "ui/topic_views.h"
 
@@ -25,138 +24,7 @@ constexpr QSize kSmallest(440, 520);
 constexpr int kMargin = 8;
 constexpr int kUsualRow = 28;
 
-ChooserKey KeyOf(const QKeyEvent& event) {
-    switch (event.key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            return ChooserKey::Enter;
-        case Qt::Key_Escape:
-            return ChooserKey::Escape;
-        case Qt::Key_Up:
-            return ChooserKey::Up;
-        case Qt::Key_Right:
-            return ChooserKey::Right;
-        case Qt::Key_Down:
-            return ChooserKey::Down;
-        default:
-            return ChooserKey::Other;
-    }
-}
-
-bool MovesThroughList(const QKeyEvent& event) {
-    switch (event.key()) {
-        case Qt::Key_Up:
-        case Qt::Key_Down:
-        case Qt::Key_PageUp:
-        case Qt::Key_PageDown:
-            return true;
-        default:
-            return false;
-    }
-}
-
-bool IsMouse(const QEvent& event) {
-    return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseMove ||
-           event.type() == QEvent::MouseButtonDblClick ||
-           event.type() == QEvent::MouseButtonRelease;
-}
-
 }  // namespace
-
-/// A control that tells the chooser of its keys before it takes them itself.
-template <class Control>
-class FrmSelect::Forwarding : public Control {
-  public:
-    using KeyDown = void (Chooser::*)(ChooserKey);
-
-    Forwarding(FrmSelect& form, ChooserControl name, KeyDown keyDown)
-        : Control(&form), form(form), name(name), keyDown(keyDown) {}
-
-  protected:
-    void keyPressEvent(QKeyEvent* event) override {
-        form.Forward([&] {
-            const ChooserKey key = KeyOf(*event);
-            (form.chooser.*keyDown)(key);
-            if (key != ChooserKey::Enter && key != ChooserKey::Escape) {
-                Control::keyPressEvent(event);
-            }
-        });
-    }
-
-    void focusInEvent(QFocusEvent* event) override {
-        Control::focusInEvent(event);
-        form.chooser.Control_GotFocus(name);
-    }
-
-    FrmSelect& form;
-
-  private:
-    ChooserControl name;
-    KeyDown keyDown;
-};
-
-/// A view that shows what the chooser knows after each click, and takes the left button alone.
-template <class View>
-class FrmSelect::ForwardingView : public Forwarding<View> {
-  public:
-    using MouseUp = void (Chooser::*)();
-
-    ForwardingView(FrmSelect& form, ChooserControl name, typename Forwarding<View>::KeyDown keyDown,
-                   MouseUp mouseUp = nullptr)
-        : Forwarding<View>(form, name, keyDown), mouseUp(mouseUp) {}
-
-  protected:
-    bool viewportEvent(QEvent* event) override {
-        if (!IsMouse(*event)) {
-            return View::viewportEvent(event);
-        }
-        const auto& mouse = static_cast<const QMouseEvent&>(*event);
-        if (event->type() != QEvent::MouseMove && mouse.button() != Qt::LeftButton) {
-            return true;
-        }
-        return Mouse(mouse, event);
-    }
-
-  private:
-    /// While the button is down the row below the pointer is lit, whatever the chooser knows; when
-    /// it comes up a row is clicked or the light goes back.
-    bool Mouse(const QMouseEvent& mouse, QEvent* event) {
-        FrmSelect& form = this->form;
-        const QScopedValueRollback byMouse(form.mouseMoves, true);
-        if (event->type() != QEvent::MouseButtonRelease) {
-            return View::viewportEvent(event);
-        }
-        const bool wasOpen = form.chooser.IsOpen();
-        bool taken = false;
-        form.Forward([&] {
-            taken = View::viewportEvent(event);
-            if (mouseUp != nullptr) {
-                (form.chooser.*mouseUp)();
-            }
-        });
-        if (wasOpen && !form.chooser.IsOpen()) {
-            SwallowSecondClick(mouse.globalPosition());
-        }
-        return taken;
-    }
-
-    MouseUp mouseUp;
-};
-
-/// The keys that move through a list do so in the index while the search box has the focus.
-class FrmSelect::SearchBox : public Forwarding<QLineEdit> {
-  public:
-    using Forwarding<QLineEdit>::Forwarding;
-
-  protected:
-    void keyPressEvent(QKeyEvent* event) override {
-        if (MovesThroughList(*event)) {
-            QCoreApplication::sendEvent(form.indexList, event);
-        } else {
-            Forwarding<QLineEdit>::keyPressEvent(event);
-        }
-    }
-};
 
 FrmSelect::FrmSelect(TopicChoice& topic, std::vector<TreeNode> nodes, const Clock& clock,
                      RandomSource& random, QWidget* parent)
@@ -164,8 +32,6 @@ FrmSelect::FrmSelect(TopicChoice& topic, std::vector<TreeNode> nodes, const Cloc
     setObjectName(QStringLiteral("frmSelect"));
     setWindowTitle(QStringLiteral("Choose problem type:"));
     setModal(true);
-    childrenTimer.setSingleShot(true);
-    connect(&childrenTimer, &QTimer::timeout, this, [this] { ShowChildren(); });
 
     MakeTree();
     MakeIndex();
@@ -177,6 +43,7 @@ void FrmSelect::MakeTree() {
     treeView1 = new ForwardingView<QTreeWidget>(*this, ChooserControl::TreeView1,
                                                 &Chooser::TreeView1_KeyDown);
     items = FillTopicTree(*treeView1, chooser.Nodes());
+    children = new ChildrenScroller(*treeView1);
     ConnectTree();
 }
 
@@ -188,8 +55,7 @@ void FrmSelect::ConnectTree() {
             [this] { Forward([&] { chooser.TreeView1_DblClick(); }); });
     connect(treeView1, &QTreeWidget::itemExpanded, this, [this](QTreeWidgetItem* item) {
         Forward([&] { chooser.TreeView1_Expand(NodeOf(*item)); });
-        // A row must not be scrolled away between the halves of a double click.
-        childrenTimer.start(mouseMoves ? QApplication::doubleClickInterval() : 0);
+        children->ShowIn(mouseMoves ? QApplication::doubleClickInterval() : 0);
     });
     connect(treeView1, &QTreeWidget::itemCollapsed, this, [this](QTreeWidgetItem* item) {
         Forward([&] { chooser.TreeView1_Collapse(NodeOf(*item)); });
@@ -255,11 +121,10 @@ void FrmSelect::MakeTabs() {
     column->addWidget(ssTab1);
 }
 
-/// Room for the longest caption three folders deep, and for the rows of a larger interface font.
+/// Room for the topics, and for the rows of a larger interface font.
 QSize FrmSelect::PreferredSize() const {
-    const QSize needed(WidestTopic(*this) + 4 * TopicIndentation(*this) + 7 * kMargin,
-                       kSmallest.height() * TopicRowHeight(*this) / kUsualRow);
-    return needed.expandedTo(kSmallest).boundedTo(screen()->availableSize() * 0.9);
+    const QSize needed(TopicsWidth(*this), kSmallest.height() * TopicRowHeight(*this) / kUsualRow);
+    return needed.expandedTo(kSmallest).boundedTo(RoomForDialog(*this));
 }
 
 void FrmSelect::reject() {
@@ -289,22 +154,6 @@ bool FrmSelect::eventFilter(QObject* watched, QEvent* event) {
         chooser.Control_GotFocus(ChooserControl::SSTab1);
     }
     return QDialog::eventFilter(watched, event);
-}
-
-/// Hands events on to the chooser. One event may cause others; what comes of them is shown at the
-/// end.
-template <class Action>
-void FrmSelect::Forward(Action action) {
-    if (mirroring) {
-        return;
-    }
-    {
-        const QScopedValueRollback oneMore(openEvents, openEvents + 1);
-        action();
-    }
-    if (openEvents == 0) {
-        Mirror();
-    }
 }
 
 void FrmSelect::Mirror() {
@@ -353,15 +202,6 @@ QWidget* FrmSelect::ControlOf(ChooserControl control) const {
             break;
     }
     return treeView1;
-}
-
-/// A folder opened at the lower edge would else seem to do nothing.
-void FrmSelect::ShowChildren() {
-    QTreeWidgetItem* folder = treeView1->currentItem();
-    if (folder != nullptr && folder->isExpanded()) {
-        treeView1->scrollToItem(folder->child(folder->childCount() - 1));
-        treeView1->scrollToItem(folder);
-    }
 }
 
 }  // namespace numerello

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QDialog>
-#include <QTimer>
 #include <vector>
 
 #include "catalogue/chooser.h"
@@ -14,6 +13,8 @@ class QTreeWidget;
 class QTreeWidgetItem;
 
 namespace numerello {
+
+class ChildrenScroller;
 
 /// The chooser's window: the topics as a tree and as an alphabetic index with a search box. It
 /// forwards its events to a Chooser and shows what stands there. What was chosen stands in the
@@ -52,16 +53,15 @@ class FrmSelect : public QDialog {
     void MirrorTree();
     void MirrorIndex();
     QWidget* ControlOf(ChooserControl control) const;
-    void ShowChildren();
 
     const TopicChoice& topic;
     Chooser chooser;
     std::vector<QTreeWidgetItem*> items;  ///< by the number of their node
     QTabWidget* ssTab1 = nullptr;
     QTreeWidget* treeView1 = nullptr;
+    ChildrenScroller* children = nullptr;
     QLineEdit* text1 = nullptr;
     QListWidget* indexList = nullptr;
-    QTimer childrenTimer;     ///< until the opened folder's children are scrolled into view
     int openEvents = 0;       ///< events that are being forwarded, one inside the other
     bool mirroring = false;   ///< what the controls tell comes from Mirror
     bool mouseMoves = false;  ///< the tree lights a row because of the mouse

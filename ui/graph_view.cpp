@@ -3,6 +3,7 @@
 #include <QAccessibleWidget>
 #include <QFocusEvent>
 
+#include "ui/colors.h"
 #include "ui/graph_painter.h"
 
 namespace numerello {
@@ -10,7 +11,6 @@ namespace numerello {
 namespace {
 
 constexpr QSize kSmallest(160, 160);
-constexpr QColor kFocus(0x3F, 0x8F, 0xD2);
 
 QAccessibleInterface* MakeInterface(const QString& /*className*/, QObject* object) {
     auto* view = qobject_cast<GraphView*>(object);
@@ -65,7 +65,7 @@ void GraphView::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.drawPixmap(0, 0, retained);
     if (ringed) {
-        painter.setPen(QPen(kFocus, 2));
+        painter.setPen(QPen(kFocusColor, 2));
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
     }
 }

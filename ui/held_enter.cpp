@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 
+#include "ui/typed_key.h"
+
 namespace numerello {
 
 HeldEnterGuard::HeldEnterGuard() {
@@ -12,7 +14,7 @@ HeldEnterGuard::HeldEnterGuard() {
 bool HeldEnterGuard::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride) {
         const auto* key = static_cast<const QKeyEvent*>(event);
-        if (key->isAutoRepeat() && (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter)) {
+        if (key->isAutoRepeat() && IsEnter(key->key())) {
             return true;
         }
     }

@@ -1,6 +1,5 @@
 #include "ui/help_pictures.h"
 
-#include <QFile>
 #include <QPainter>
 #include <QWidget>
 #include <algorithm>
@@ -12,8 +11,11 @@
 #include "help/contents.h"
 #include "help/worked_example.h"
 #include "typeset/math_line.h"
+#include "typeset/variants.h"
 #include "ui/artwork.h"
+#include "ui/check_mark.h"
 #include "ui/entry_form.h"
+#include "ui/help_files.h"
 #include "ui/surface_painter.h"
 #include "ui/text.h"
 #include "worksheet/number_line.h"
@@ -22,14 +24,12 @@ namespace numerello {
 
 namespace {
 
-constexpr double kLetterSize = 12;
 /// A line of mathematics that would be wider goes on in a second row.
 constexpr double kLongestRow = 560;
 /// Above the first row, for fractions and powers.
 constexpr double kHeadroom = 100;
 constexpr double kPad = 1;
 constexpr double kRootPad = 5;
-constexpr QSize kCheckPicture(36, 36);
 constexpr QSize kEntrySheet(800, 265);
 constexpr int kEntryPad = 4;
 constexpr double kEntryScale = 0.8;  ///< so that the widest entry fits beside the contents
@@ -37,8 +37,7 @@ constexpr double kEntryScale = 0.8;  ///< so that the widest entry fits beside t
 /// One sheet without end, for a line that is drawn alone.
 class EndlessSheet : public Sheets {
   public:
-    explicit EndlessSheet(const TextMetrics& metrics)
-        : surface(metrics, {std::string(kSheetFace), kLetterSize}) {}
+    explicit EndlessSheet(const TextMetrics& metrics) : surface(metrics, SheetFont()) {}
 
     Surface& Current() override { return surface; }
     void Turn() override {}
@@ -79,7 +78,7 @@ QRectF PlaceOf(const Mark& mark, const FontMetrics& metrics) {
             .adjusted(-1, -1, 1, 1);
     }
     const auto& image = std::get<ImageMark>(mark);
-    return {QPointF(image.x, image.y), QSizeF(kCheckPicture)};
+    return {QPointF(image.x, image.y), QSizeF(kCheckMark)};
 }
 
 /// Its sign leans over the end of its cell, and its bar too.
@@ -125,10 +124,6 @@ void PaintEntryPicture(QPainter& painter, const EntryLayout& layout,
     }
 }
 
-Color ColorOf(const QColor& color) {
-    return static_cast<Color>(color.red() | color.green() << 8 | color.blue() << 16);
-}
-
 /// Emphasis keeps its red on paper; on a page it is told by the ink around it alone.
 void Recolor(std::vector<Mark>& marks, Color ink) {
     for (Mark& mark : marks) {
@@ -160,9 +155,7 @@ QImage HelpPictures::Picture(const QUrl& address, const Look& look) {
 
 const TopicText* HelpPictures::TextOf(const QString& page) {
     if (texts.empty()) {
-        QFile file(QStringLiteral(":/help/topics.txt"));
-        file.open(QIODevice::ReadOnly);
-        for (TopicText& text : ReadTopicTexts(file.readAll().toStdString())) {
+        for (TopicText& text : ReadTopicTexts(ReadHelpFile("topics.txt"))) {
             texts.emplace(PageName(text.caption), std::move(text));
         }
     }
@@ -179,12 +172,12 @@ QImage HelpPictures::Mathematics(const QString& address, const Look& look) const
     const auto end =
         DrawMathLine(Characters(line), LoneLine(), ink == QLatin1String("blue"), sheet, nobody);
     std::vector<Mark> marks = sheet.Current().Marks();
-    Recolor(marks, ink == QLatin1String("page")   ? ColorOf(look.pageInk)
+    Recolor(marks, ink == QLatin1String("page")   ? FromQColor(look.pageInk)
                    : ink == QLatin1String("blue") ? kBlue
                                                   : kBlack);
     QRectF place = PlaceOf(marks, metrics);
     if (end) {
-        const double baseline = end->y + metrics.Ascent({std::string(kSheetFace), kLetterSize});
+        const double baseline = end->y + metrics.Ascent(SheetFont());
         const double middle = baseline - look.sink / look.scale;
         const double half = std::max(middle - place.top(), place.bottom() - middle);
         place.setTop(middle - half);
@@ -217,11 +210,7 @@ QImage HelpPictures::Working(const TopicText& topic, const Look& look) const {
     const WorkedExample example(topic, metrics);
     const std::vector<Mark>& marks = example.Drawing().Marks();
     return Pictured(PlaceOf(marks, metrics), look, [&](QPainter& painter) {
-        PaintMarks(painter, marks, metrics,
-                   [&look](QPainter& onto, const std::string& key, QPointF corner) {
-                       onto.drawPixmap(corner, Artwork(ToQString(key), kCheckPicture,
-                                                       look.scale * look.pixelRatio));
-                   });
+        PaintMarks(painter, marks, metrics, DrawCheckMark(look.scale * look.pixelRatio));
     });
 }
 

@@ -5,7 +5,6 @@
 #include <QUrl>
 #include <map>
 #include <string>
-#include <vector>
 
 #include "help/topic_texts.h"
 #include "ui/font_metrics.h"

@@ -7,16 +7,18 @@
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextFragment>
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "typeset/surface.h"
+#include "ui/colors.h"
 #include "ui/text.h"
 
 namespace numerello {
 
 namespace {
 
-constexpr QColor kPaper(0xff, 0xfd, 0xf5);
 constexpr double kMargin = 16;
 /// Pages are read, not glanced at: they are a little larger than the interface font.
 constexpr double kReadingSize = 1.15;
@@ -24,6 +26,12 @@ constexpr double kReadingSize = 1.15;
 /// are finer.
 constexpr double kSheetLetters = 1.25;
 constexpr double kSheetLetterHeight = 16;
+
+/// The sizes, in percent of the interface font, and which of them is the usual one.
+constexpr std::array kZooms{50, 75, 90, 100, 110, 125, 150, 175, 200, 250, 300};
+constexpr int kLastZoom = static_cast<int>(kZooms.size()) - 1;
+constexpr int kUsualZoom = 3;
+static_assert(kZooms[kUsualZoom] == 100);
 
 QString FileOf(const QString& page) {
     return QStringLiteral(":/help/%1.html").arg(page);
@@ -91,18 +99,19 @@ QString StyleSheet(const QPalette& palette, double text) {
                ".line { color: #000000; font-family: VantrelFont; font-size: %8; margin: 0; }"
                ".reason { color: #0000ff; margin: 0; }")
         .arg(px(1.8), px(1.3), LinkColor(palette).name(), Blend(palette, 0.12).name(),
-             Blend(palette, 0.75).name(), kPaper.name(), px(0.4), px(kSheetLetters), px(1.1));
+             Blend(palette, 0.75).name(), kPaperColor.name(), px(0.4), px(kSheetLetters), px(1.1));
 }
 
 }  // namespace
 
-HelpView::HelpView(QWidget* parent) : QTextBrowser(parent) {
+HelpView::HelpView(QWidget* parent) : QTextBrowser(parent), zoomStep(kUsualZoom) {
     // Before anything of it is told: what is known of it once stays as it is.
     TellHelp();
     setOpenExternalLinks(false);
     setUndoRedoEnabled(false);
     document()->setDocumentMargin(kMargin);
     connect(this, &QTextBrowser::sourceChanged, this, &HelpView::TakePage);
+    connect(document(), &QTextDocument::contentsChanged, this, [this] { spoken.reset(); });
     Restyle();
 }
 
@@ -121,16 +130,36 @@ void HelpView::TakePage(const QUrl& address) {
     emit PageShown();
 }
 
-void HelpView::SetZoom(int percent) {
-    if (percent != zoom) {
-        zoom = percent;
+int HelpView::Zoom() const {
+    return kZooms[static_cast<std::size_t>(zoomStep)];
+}
+
+bool HelpView::CanZoomIn() const {
+    return zoomStep < kLastZoom;
+}
+
+bool HelpView::CanZoomOut() const {
+    return zoomStep > 0;
+}
+
+void HelpView::StepZoom(int steps) {
+    SetZoom(std::clamp(zoomStep + steps, 0, kLastZoom));
+}
+
+void HelpView::ZoomAsUsual() {
+    SetZoom(kUsualZoom);
+}
+
+void HelpView::SetZoom(int step) {
+    if (step != zoomStep) {
+        zoomStep = step;
         Restyle();
     }
 }
 
 void HelpView::Restyle() {
     QFont font = this->font();
-    const int height = qMax(1, qRound(QFontInfo(font).pixelSize() * kReadingSize * zoom / 100.0));
+    const int height = qMax(1, qRound(QFontInfo(font).pixelSize() * kReadingSize * Zoom() / 100.0));
     font.setPixelSize(height);
     document()->setDefaultFont(font);
     document()->setIndentWidth(height * 2);
@@ -193,6 +222,9 @@ void HelpView::ShowMarks() {
 }
 
 QString HelpView::Spoken() const {
+    if (spoken) {
+        return *spoken;
+    }
     QStringList paragraphs;
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
         QString words;
@@ -206,7 +238,8 @@ QString HelpView::Spoken() const {
             paragraphs << words;
         }
     }
-    return paragraphs.join(u'\n');
+    spoken = paragraphs.join(u'\n');
+    return *spoken;
 }
 
 }  // namespace numerello

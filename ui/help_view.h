@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTextBrowser>
+#include <optional>
 
 #include "ui/help_pictures.h"
 
@@ -12,8 +13,6 @@ class HelpView : public QTextBrowser {
     Q_OBJECT
 
   public:
-    static constexpr int kUsualZoom = 100;
-
     explicit HelpView(QWidget* parent = nullptr);
 
     /// Whether there is such a page; an unknown one is not shown.
@@ -22,9 +21,15 @@ class HelpView : public QTextBrowser {
     /// The name of the page on show.
     QString Page() const { return page; }
 
-    /// In percent of the platform's interface font. Keeps the place on the page.
-    void SetZoom(int percent);
-    int Zoom() const { return zoom; }
+    /// Makes all larger by so many steps, or smaller, as far as there are any. Keeps the place on
+    /// the page.
+    void StepZoom(int steps);
+    void ZoomAsUsual();
+    bool CanZoomIn() const;
+    bool CanZoomOut() const;
+
+    /// In percent of the platform's interface font.
+    int Zoom() const;
 
     /// Marks the words that begin with one of these, without regard to case.
     void MarkWords(const QStringList& beginnings);
@@ -41,14 +46,16 @@ class HelpView : public QTextBrowser {
     void changeEvent(QEvent* event) override;
 
   private:
+    void SetZoom(int step);
     void TakePage(const QUrl& address);
     void Restyle();
     void ShowMarks();
 
     HelpPictures pictures;
     QString page;
-    int zoom = kUsualZoom;
+    int zoomStep;  ///< in the table of sizes
     QStringList marked;
+    mutable std::optional<QString> spoken;  ///< none after a change of the page
 };
 
 /// Makes the help readable for assistive technology.

@@ -9,8 +9,10 @@
 #include <chrono>
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
 
+#include "ui/application.h"
 #include "ui/artwork.h"
 #include "ui/export_pdf.h"
 #include "ui/font_metrics.h"
@@ -119,9 +121,9 @@ int main(int argc, char** argv) {
         const QCoreApplication app(argc, argv);
         Parse(app);
     }
-    numerello::ReadyToExport(argc, argv);
+    numerello::PrepareExport(argc, argv);
 
-    const QApplication app(argc, argv);
+    const numerello::Application app(argc, argv);
     const Arguments arguments = Parse(app);
     if (!numerello::LoadSheetFont()) {
         qCritical("The font of the sheets cannot be loaded.");

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QGuiApplication>
+#include <QMouseEvent>
+#include <QWidget>
 
 namespace numerello {
 
@@ -13,5 +15,10 @@ class PointerGuard {
     PointerGuard(const PointerGuard&) = delete;
     PointerGuard& operator=(const PointerGuard&) = delete;
 };
+
+/// The place of an event on a widget as that stands now: it may tell one from before the last move.
+inline QPoint PlaceOn(const QWidget& widget, const QMouseEvent& event) {
+    return widget.mapFromGlobal(event.globalPosition()).toPoint();
+}
 
 }  // namespace numerello

@@ -7,15 +7,13 @@
 #include "core/text.h"
 #include "output/preview_pages.h"
 #include "output/print_test.h"
+#include "typeset/variants.h"
 #include "ui/text.h"
 #include "worksheet/spoken_line.h"
 
 namespace numerello {
 
 namespace {
-
-constexpr double kPreviewZoom = 8.0 / 12;
-constexpr double kLineSize = 12;
 
 /// The number of a problem is no mathematics.
 QString InWords(const std::string& line) {
@@ -72,9 +70,9 @@ ShownPages TestPages(const HeadingLines& heading, const std::vector<std::string>
 
 ShownPages KeyPages(const HeadingLines& heading, const std::vector<WorkedProblem>& problems,
                     PaperSize paper, const TextMetrics& faces, Learner& learner) {
-    ShownPages shown{.scale = ScaleOfPrint(paper), .zoom = kPreviewZoom, .pages = {}};
+    ShownPages shown{.scale = ScaleOfPrint(paper), .zoom = kPreviewScale, .pages = {}};
     const ScaledMetrics metrics(faces, shown.scale);
-    Surface printer(metrics, {std::string(kSheetFace), kLineSize});
+    Surface printer(metrics, SheetFont());
     const std::vector<int> places = PrintAnswerKey(heading, problems, printer, learner);
     for (int page = 0; page < printer.PageCount(); ++page) {
         Words words(heading, page);

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "typeset/surface.h"
 #include "ui/text.h"
 
 namespace numerello {
@@ -37,8 +38,8 @@ HeadingGroup MakeHeadingGroup(const HeadingLines& texts, QWidget* parent) {
         line->setObjectName(QStringLiteral("Text%1").arg(i + 1));
         line->setAccessibleName(QString::fromLatin1(kHeadingNames[i]));
         line->setToolTip(QStringLiteral("Printed at the top of the first page"));
-        line->setFont(QFont(QStringLiteral("VantrelFont"),
-                            std::max(kHeadingSize, parent->font().pointSize())));
+        line->setFont(
+            QFont(ToQString(kSheetFace), std::max(kHeadingSize, parent->font().pointSize())));
         line->setTextMargins(kTextMargin, kTextMargin, kTextMargin, 0);
         line->setMaxLength(kLongestHeading);
         column->addWidget(line);

@@ -26,6 +26,19 @@ QString OfferedFile() {
     return DocumentsFolder() + QStringLiteral("/Numerello.pdf");
 }
 
+bool WritePdf(const std::string& path, const ComposedJob& job, const QPageLayout& layout,
+              const std::string& title) {
+    const auto pdf = PdfOf(job, layout, title);
+    try {
+        if (pdf) {
+            WriteFile(path, {pdf->constData(), static_cast<std::size_t>(pdf->size())});
+        }
+    } catch (const FileError&) {
+        return false;
+    }
+    return pdf.has_value();
+}
+
 }  // namespace
 
 PrintDevice::PrintDevice() = default;
@@ -125,10 +138,7 @@ bool PrintDevice::SavePdf(const PrintJob& job, QWidget* window) {
     const PointerGuard busy(Qt::WaitCursor);
     WindowLearner learner(window);
     const ComposedJob composed(job, Paper(), learner);
-    const QByteArray pdf = PdfOf(composed, Printer().pageLayout(), job.name);
-    try {
-        WriteFile(*path, {pdf.constData(), static_cast<std::size_t>(pdf.size())});
-    } catch (const FileError&) {
+    if (!WritePdf(*path, composed, Printer().pageLayout(), job.name)) {
         learner.MessageBox("", "The file could not be saved.");
         return false;
     }

@@ -3,7 +3,6 @@
 #include <QPrinter>
 #include <QString>
 #include <memory>
-#include <string>
 
 #include "ui/print_job.h"
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "output/print_solution.h"
+#include "typeset/variants.h"
 #include "ui/surface_painter.h"
 #include "ui/text.h"
 
@@ -14,7 +15,6 @@ namespace numerello {
 namespace {
 
 constexpr double kPixelsPerInch = 96;
-constexpr double kLineSize = 12;
 
 }  // namespace
 
@@ -29,9 +29,7 @@ void PaintPage(QPainter& painter, const std::vector<Mark>& marks, const PrintSca
 }
 
 ComposedJob::ComposedJob(const PrintJob& job, PaperSize paper, Learner& learner)
-    : scale(ScaleOfPrint(paper)),
-      surface(metrics, {std::string(kSheetFace), kLineSize}),
-      graph(job.graph) {
+    : scale(ScaleOfPrint(paper)), surface(metrics, SheetFont()), graph(job.graph) {
     job.compose(surface, learner);
 }
 
@@ -62,7 +60,8 @@ bool SendPages(const ComposedJob& job, QPagedPaintDevice& device) {
     return painter.end();
 }
 
-QByteArray PdfOf(const ComposedJob& job, const QPageLayout& layout, const std::string& title) {
+std::optional<QByteArray> PdfOf(const ComposedJob& job, const QPageLayout& layout,
+                                const std::string& title) {
     QByteArray content;
     QBuffer buffer(&content);
     buffer.open(QIODevice::WriteOnly);
@@ -72,8 +71,7 @@ QByteArray PdfOf(const ComposedJob& job, const QPageLayout& layout, const std::s
     writer.setPageLayout(fullPage);
     writer.setTitle(ToQString(title));
     writer.setCreator(QStringLiteral("Numerello"));
-    SendPages(job, writer);
-    return content;
+    return SendPages(job, writer) ? std::optional(content) : std::nullopt;
 }
 
 PaperSize PaperOf(const QPageLayout& layout) {

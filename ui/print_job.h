@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QRectF>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "core/learner.h"
@@ -33,6 +34,8 @@ void PaintPage(QPainter& painter, const std::vector<Mark>& marks, const PrintSca
 class ComposedJob {
   public:
     ComposedJob(const PrintJob& job, PaperSize paper, Learner& learner);
+    ComposedJob(const ComposedJob&) = delete;
+    ComposedJob& operator=(const ComposedJob&) = delete;
 
     /// At least 1: a job without a mark is an empty page.
     int PageCount() const;
@@ -52,8 +55,10 @@ class ComposedJob {
 /// them.
 bool SendPages(const ComposedJob& job, QPagedPaintDevice& device);
 
-/// The pages as a PDF file's content. Paper and orientation are those of the layout.
-QByteArray PdfOf(const ComposedJob& job, const QPageLayout& layout, const std::string& title);
+/// The pages as a PDF file's content; none when they could not be painted to their end. Paper and
+/// orientation are those of the layout.
+std::optional<QByteArray> PdfOf(const ComposedJob& job, const QPageLayout& layout,
+                                const std::string& title);
 
 /// The paper of a layout, as it is turned.
 PaperSize PaperOf(const QPageLayout& layout);

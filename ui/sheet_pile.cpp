@@ -3,7 +3,7 @@
 namespace numerello {
 
 SheetPile::SheetPile(Worksheet& worksheet, const FontMetrics& metrics, QWidget* desk)
-    : QObject(desk), worksheet(worksheet), desk(desk) {
+    : QObject(desk), worksheet(worksheet) {
     for (int i = 0; i < Worksheet::kSheetCount; ++i) {
         papers[static_cast<std::size_t>(i)] = new SheetWidget(i, metrics, desk);
         Connect(i);

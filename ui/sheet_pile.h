@@ -48,7 +48,6 @@ class SheetPile : public QObject {
     void Move(int index, bool leftButton, QPoint place);
 
     Worksheet& worksheet;
-    QWidget* desk;
     std::array<SheetWidget*, Worksheet::kSheetCount> papers{};
     QRect picture;
 };

@@ -6,7 +6,9 @@
 #include <utility>
 
 #include "ui/artwork.h"
+#include "ui/check_mark.h"
 #include "ui/desk.h"
+#include "ui/pointer.h"
 #include "ui/surface_painter.h"
 #include "ui/text.h"
 #include "worksheet/sheet_rows.h"
@@ -16,10 +18,9 @@ namespace numerello {
 
 namespace {
 
-constexpr QSize kPaperSize(800, 657);
+constexpr QSize kPaperSize(SheetStack::kWidth, SheetStack::kHeight);
 constexpr QSize kArrowSize(36, 36);
 constexpr QSize kArrowPicture(33, 33);
-constexpr QSize kCheckPicture(36, 36);
 
 /// The white strip on every sheet but the first.
 constexpr QRect kTitleStrip(60, 1, 685, 57);
@@ -103,13 +104,18 @@ void SheetWidget::Show(const Sheet& sheet) {
     if (const DrawingState now = StateOf(sheet); now != state) {
         state = now;
         retained = QPixmap();
+        spoken.reset();
         update();
         TellChange();
     }
 }
 
 SheetWidget::DrawingState SheetWidget::StateOf(const Sheet& sheet) {
-    return {sheet.newSheets, sheet.surface.Clearings(), sheet.surface.Marks().size(), sheet.height,
+    return {sheet.newSheets,
+            sheet.surface.Clearings(),
+            sheet.surface.Marks().size(),
+            sheet.lines.size(),
+            sheet.height,
             sheet.title};
 }
 
@@ -120,13 +126,16 @@ void SheetWidget::Place() {
 }
 
 QString SheetWidget::Spoken() const {
-    QStringList words;
-    if (shown != nullptr) {
-        for (const std::string& row : SheetRows(*shown)) {
-            words << ToQString(SpokenLine(row));
+    if (!spoken) {
+        QStringList words;
+        if (shown != nullptr) {
+            for (const std::string& row : SheetRows(*shown)) {
+                words << ToQString(SpokenLine(row));
+            }
         }
+        spoken = words.join(u'\n');
     }
-    return words.join(u'\n');
+    return *spoken;
 }
 
 /// Says what was written, to those who hear the sheet.
@@ -159,10 +168,7 @@ QPixmap SheetWidget::Painted() const {
         painter.fillRect(kTitleStrip, Qt::white);
     }
     PaintTitle(painter, shown->title, metrics);
-    PaintMarks(painter, shown->surface.Marks(), metrics,
-               [ratio](QPainter& onto, const std::string& key, QPointF corner) {
-                   onto.drawPixmap(corner, Artwork(ToQString(key), kCheckPicture, ratio));
-               });
+    PaintMarks(painter, shown->surface.Marks(), metrics, DrawCheckMark(ratio));
     return picture;
 }
 
@@ -189,17 +195,12 @@ void SheetWidget::PaintShadowsFromAbove(QPainter& painter) const {
     }
 }
 
-/// The place on the sheet as it lies now: an event may tell one from before its last move.
-QPoint SheetWidget::PlaceOf(const QMouseEvent& event) const {
-    return mapFromGlobal(event.globalPosition()).toPoint();
-}
-
 void SheetWidget::mousePressEvent(QMouseEvent* event) {
-    emit Pressed(event->button() == Qt::LeftButton, PlaceOf(*event));
+    emit Pressed(event->button() == Qt::LeftButton, PlaceOn(*this, *event));
 }
 
 void SheetWidget::mouseMoveEvent(QMouseEvent* event) {
-    emit Moved(event->buttons().testFlag(Qt::LeftButton), PlaceOf(*event));
+    emit Moved(event->buttons().testFlag(Qt::LeftButton), PlaceOn(*this, *event));
 }
 
 void SheetWidget::mouseReleaseEvent(QMouseEvent* event) {

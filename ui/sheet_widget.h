@@ -2,6 +2,7 @@
 
 #include <QPixmap>
 #include <QWidget>
+#include <optional>
 #include <string>
 
 #include "ui/desk_button.h"
@@ -59,12 +60,12 @@ class SheetWidget : public QWidget {
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
-    QPoint PlaceOf(const QMouseEvent& event) const;
     /// Two equal states are equal drawings.
     struct DrawingState {
         int newSheets = -1;
         int clearings = 0;
         std::size_t marks = 0;
+        std::size_t lines = 0;
         double height = 0;
         std::string title;
 
@@ -80,9 +81,10 @@ class SheetWidget : public QWidget {
     bool hasTitleStrip;
     const Sheet* shown = nullptr;
     ArrowButton* arrow;
-    DrawingState state;  ///< of what is retained
-    QPixmap retained;    ///< paper and drawing; null after a change
-    QString told;        ///< what was last told to those who hear the sheet
+    DrawingState state;                     ///< of what is retained
+    QPixmap retained;                       ///< paper and drawing; null after a change
+    mutable std::optional<QString> spoken;  ///< none after a change
+    QString told;                           ///< what was last told to those who hear the sheet
 };
 
 }  // namespace numerello

@@ -177,6 +177,10 @@ QColor ToQColor(Color color) {
             static_cast<int>(color >> 16 & 255)};
 }
 
+Color FromQColor(const QColor& color) {
+    return static_cast<Color>(color.red() | color.green() << 8 | color.blue() << 16);
+}
+
 void PaintMarks(QPainter& painter, const std::vector<Mark>& marks, const FontMetrics& faces,
                 const PictureDrawer& drawPicture) {
     painter.save();

@@ -20,7 +20,8 @@ using PictureDrawer =
 void PaintMarks(QPainter& painter, const std::vector<Mark>& marks, const FontMetrics& faces,
                 const PictureDrawer& drawPicture = {});
 
-/// A colour with red in the low byte.
+/// A colour with red in the low byte, there and back; how far it shines through is lost.
 QColor ToQColor(Color color);
+Color FromQColor(const QColor& color);
 
 }  // namespace numerello

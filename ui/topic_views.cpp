@@ -49,6 +49,12 @@ int WidestTopic(const QWidget& window) {
     return widest;
 }
 
+int TopicsWidth(const QWidget& window) {
+    constexpr int kFoldersAndBar = 4;
+    constexpr int kMargins = 56;
+    return WidestTopic(window) + kFoldersAndBar * TopicIndentation(window) + kMargins;
+}
+
 std::vector<QTreeWidgetItem*> FillTopicTree(QTreeWidget& tree, std::span<const TreeNode> nodes) {
     tree.setObjectName(QStringLiteral("TreeView1"));
     tree.setAccessibleName(QStringLiteral("Topics by chapter"));
@@ -72,6 +78,19 @@ std::vector<QTreeWidgetItem*> FillTopicTree(QTreeWidget& tree, std::span<const T
         }
     }
     return items;
+}
+
+ChildrenScroller::ChildrenScroller(QTreeWidget& tree) : QObject(&tree), tree(tree) {
+    timer.setSingleShot(true);
+    connect(&timer, &QTimer::timeout, this, [this] { Show(); });
+}
+
+void ChildrenScroller::Show() {
+    QTreeWidgetItem* folder = tree.currentItem();
+    if (folder != nullptr && folder->isExpanded()) {
+        tree.scrollToItem(folder->child(folder->childCount() - 1));
+        tree.scrollToItem(folder);
+    }
 }
 
 int NodeOf(const QTreeWidgetItem& item) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QObject>
+#include <QTimer>
 #include <span>
 #include <vector>
 
@@ -21,8 +23,29 @@ int TopicIndentation(const QWidget& window);
 /// How wide the longest caption is.
 int WidestTopic(const QWidget& window);
 
+/// How wide a window's tree wants to be: the longest caption three folders deep.
+int TopicsWidth(const QWidget& window);
+
 /// Fills an empty tree. The items stand in the order of the nodes.
 std::vector<QTreeWidgetItem*> FillTopicTree(QTreeWidget& tree, std::span<const TreeNode> nodes);
+
+/// Scrolls the children of a folder that was opened into view: at the lower edge the click would
+/// else seem to do nothing.
+class ChildrenScroller : public QObject {
+  public:
+    /// The tree owns this.
+    explicit ChildrenScroller(QTreeWidget& tree);
+
+    /// Those of the current folder, so many milliseconds from now; calling it again begins anew. A
+    /// row must not be scrolled away between the halves of a double click.
+    void ShowIn(int milliseconds) { timer.start(milliseconds); }
+
+  private:
+    void Show();
+
+    QTreeWidget& tree;
+    QTimer timer;
+};
 
 /// The number of the node that an item of such a tree shows.
 int NodeOf(const QTreeWidgetItem& item);

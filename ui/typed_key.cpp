@@ -1,5 +1,9 @@
 #include "ui/typed_key.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <algorithm>
+
 #include "catalogue/guided_input.h"
 #include "ui/text.h"
 
@@ -32,6 +36,26 @@ QString TypedBy(const QKeyEvent& event) {
         default:
             return event.text();
     }
+}
+
+bool IsForBox(const QKeyEvent& event) {
+    switch (event.key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
+        case Qt::Key_Escape:
+        case Qt::Key_Delete:
+            return false;
+        default:
+            return !event.text().isEmpty() && !IsShortcut(event);
+    }
+}
+
+QString PastedText() {
+    const QString text = QGuiApplication::clipboard()->text().left(kLongestLine);
+    const auto isBreak = [](QChar character) { return character == u'\n' || character == u'\r'; };
+    return text.left(std::find_if(text.cbegin(), text.cend(), isBreak) - text.cbegin());
 }
 
 }  // namespace numerello

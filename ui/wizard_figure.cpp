@@ -4,7 +4,10 @@
 #include <algorithm>
 
 #include "ui/artwork.h"
+#include "ui/colors.h"
+#include "ui/keep_running.h"
 #include "ui/motion.h"
+#include "ui/pointer.h"
 #include "ui/text.h"
 
 namespace numerello {
@@ -19,12 +22,6 @@ constexpr int kGap = 4;  ///< between figure and notice
 /// Where the words stand in the bubble.
 constexpr QRect kWords(8, 12, 88, 30);
 constexpr int kWordsHeight = 15;
-
-void Keep(QTimer& timer, bool running) {
-    if (running != timer.isActive()) {
-        running ? timer.start() : timer.stop();
-    }
-}
 
 }  // namespace
 
@@ -54,21 +51,16 @@ void WizardButton::paintEvent(QPaintEvent* /*event*/) {
     PaintFocus(painter, 10);
 }
 
-/// The place on the figure as it stands now: an event may tell one from before its last move.
-QPoint WizardButton::PlaceOf(const QMouseEvent& event) const {
-    return mapFromGlobal(event.globalPosition()).toPoint();
-}
-
 void WizardButton::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) {
-        const QPoint place = PlaceOf(*event);
+        const QPoint place = PlaceOn(*this, *event);
         model.Wizard_MouseDown(place.x(), place.y());
     }
 }
 
 void WizardButton::mouseMoveEvent(QMouseEvent* event) {
     if (event->buttons().testFlag(Qt::LeftButton)) {
-        const QPoint place = PlaceOf(*event);
+        const QPoint place = PlaceOn(*this, *event);
         model.Wizard_MouseMove(place.x(), place.y());
         setCursor(Qt::ClosedHandCursor);
         emit Moved();
@@ -106,7 +98,7 @@ void ClickNotice::paintEvent(QPaintEvent* /*event*/) {
     bold.setBold(true);
     bold.setPixelSize(kWordsHeight);
     painter.setFont(bold);
-    painter.setPen(QColor(0x2B, 0x3A, 0x55));
+    painter.setPen(kInkColor);
     painter.drawText(kWords, Qt::AlignCenter, text());
 }
 
@@ -148,9 +140,9 @@ void WizardFigure::Show(bool onScreen) {
     flashing = onScreen;
     wizard->Show();
     ShowNotice();
-    Keep(wizIn, model.WizInEnabled());
-    Keep(wizOut, model.WizOutEnabled());
-    Keep(clickMe, model.ClickMeEnabled() && flashing && MotionWanted());
+    KeepRunning(wizIn, model.WizInEnabled());
+    KeepRunning(wizOut, model.WizOutEnabled());
+    KeepRunning(clickMe, model.ClickMeEnabled() && flashing && MotionWanted());
 }
 
 /// Below the figure, as far as the form reaches. Without motion it stands there and does not flash.

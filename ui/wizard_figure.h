@@ -28,8 +28,6 @@ class WizardButton : public MenuButton {
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
-    QPoint PlaceOf(const QMouseEvent& event) const;
-
     Assistant& model;
 };
 

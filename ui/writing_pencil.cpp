@@ -4,6 +4,7 @@
 #include <chrono>
 
 #include "ui/artwork.h"
+#include "ui/keep_running.h"
 #include "ui/motion.h"
 #include "ui/sheet_widget.h"
 
@@ -75,9 +76,7 @@ void WritingPencil::Place() {
     const Sheet& sheet = worksheet.SheetAt(0);
     const Pencil& model = worksheet.ThePencil();
     pencil->move(qRound(sheet.left + model.Left()), qRound(sheet.top + model.Top()));
-    if (model.Timer1Enabled() != timer1.isActive()) {
-        model.Timer1Enabled() ? timer1.start() : timer1.stop();
-    }
+    KeepRunning(timer1, model.Timer1Enabled());
 }
 
 bool WritingPencil::IsAt(QPoint place) const {

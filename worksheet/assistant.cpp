@@ -1,8 +1,8 @@
 #include "worksheet/assistant.h"
 
 #include <algorithm>
-#include <cmath>
 
+#include "worksheet/drag.h"
 #include "worksheet/shown_note.h"
 
 namespace numerello {
@@ -18,8 +18,6 @@ constexpr int kLowerEdge = 27;
 
 constexpr double kSmallest = 10;
 constexpr double kScaleStep = 0.5;
-
-constexpr double kDragThreshold = 10;
 
 std::string_view FigureOf(int whichAssistant) {
     switch (whichAssistant) {
@@ -163,12 +161,12 @@ bool Assistant::Wizard_MouseUp() {
         return false;
     }
     // Measured before the edges push the figure back: a drag against an edge is no click.
-    const double distance = std::max(std::abs(left - pressLeft), std::abs(top - pressTop));
+    const bool isDrag = IsDrag(left - pressLeft, top - pressTop);
     pressed = false;
-    dragged = dragged || distance >= kDragThreshold;
+    dragged = dragged || isDrag;
     left = Left();
     top = Top();
-    return distance < kDragThreshold && !ShownNote(problem).empty();
+    return !isDrag && !ShownNote(problem).empty();
 }
 
 bool Assistant::MayNotify() const {

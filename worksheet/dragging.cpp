@@ -1,6 +1,7 @@
 #include <algorithm>
-#include <cmath>
+#include <utility>
 
+#include "worksheet/drag.h"
 #include "worksheet/worksheet.h"
 
 namespace numerello {
@@ -10,9 +11,6 @@ namespace {
 /// What is seen of a dragged sheet at least, at its upper edge.
 constexpr double kGripWidth = 60;
 constexpr double kGripHeight = 40;
-
-/// A hand that shakes while it presses a button does not mean to move the sheet for good.
-constexpr double kDragThreshold = 10;
 
 double Within(double lowest, double value, double highest) {
     return std::max(lowest, std::min(value, highest));
@@ -65,9 +63,7 @@ void Worksheet::Paper_MouseMove(int Index, bool leftButton, int X, int Y) {
     sheet.left += X - dragStartX;
     sheet.top += Y - dragStartY;
     movedSincePress = true;
-    const double distance =
-        std::max(std::abs(sheet.left - heldLeft), std::abs(sheet.top - heldTop));
-    sheetsDragged = sheetsDragged || distance >= kDragThreshold;
+    sheetsDragged = sheetsDragged || IsDrag(sheet.left - heldLeft, sheet.top - heldTop);
     Changed();
 }
 

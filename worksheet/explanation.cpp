@@ -6,6 +6,7 @@
 #include "core/text.h"
 #include "typeset/lines.h"
 #include "typeset/notation_walk.h"
+#include "typeset/variants.h"
 #include "worksheet/explanation_rows.h"
 #include "worksheet/shown_note.h"
 #include "worksheet/spoken_line.h"
@@ -14,7 +15,7 @@ namespace numerello {
 
 namespace {
 
-const Font kFont{std::string(kExplanationFace), 12};
+const Font kFont{std::string(kExplanationVariant.face), kExplanationVariant.fontSize};
 
 constexpr double kRoomInLines = 3.5;
 

@@ -5,14 +5,12 @@
 #include <string_view>
 
 #include "typeset/slack.h"
+#include "worksheet/mark_rows.h"
 
 namespace numerello {
 
 namespace {
 
-/// Rows that are nearer to each other are one: the bracket of a division stands a little above its
-/// row.
-constexpr double kSameRow = 5;
 /// Digits of one number stand a cell of 20 apart, the marks beside it a little more.
 constexpr double kNextCell = 25;
 
@@ -82,17 +80,9 @@ std::vector<std::string> SheetRows(const Sheet& sheet) {
     if (!sheet.lines.empty()) {
         return sheet.lines;
     }
-    Pieces pieces = PiecesOf(sheet.surface);
-    std::stable_sort(
-        pieces.begin(), pieces.end(),
-        [](const TextMark& upper, const TextMark& lower) { return upper.y < lower.y; });
     std::vector<std::string> rows;
-    for (auto first = pieces.begin(); first != pieces.end();) {
-        const auto next = std::find_if(first, pieces.end(), [first](const TextMark& each) {
-            return IsBefore(first->y + kSameRow, each.y);
-        });
-        rows.push_back(RowOf({first, next}));
-        first = next;
+    for (const Pieces& row : RowsOfTexts(PiecesOf(sheet.surface))) {
+        rows.push_back(RowOf(row));
     }
     return rows;
 }

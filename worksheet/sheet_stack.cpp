@@ -5,6 +5,7 @@
 #include "core/bounds.h"
 #include "core/number.h"
 #include "core/text.h"
+#include "typeset/variants.h"
 
 namespace numerello {
 
@@ -12,7 +13,6 @@ namespace {
 
 constexpr double kRuling = 46;
 constexpr double kFanStep = 25;
-constexpr double kFontSize = 12;
 
 void Unfold(Sheet& sheet) {
     sheet.width = SheetStack::kWidth;
@@ -105,7 +105,7 @@ void SheetStack::Replace(Sheet& sheet) const {
 }
 
 Surface SheetStack::EmptySurface() const {
-    return {metrics, Font{std::string(kSheetFace), kFontSize}};
+    return {metrics, SheetFont()};
 }
 
 }  // namespace numerello

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "typeset/surface.h"
+#include "typeset/sheets.h"
 
 namespace numerello {
 
@@ -28,7 +28,7 @@ struct Sheet {
 /// until they are turned to. A number outside 0 to 9 throws Failure(Format).
 class SheetStack {
   public:
-    static constexpr int kCount = 10;
+    static constexpr int kCount = PaperSheets::kCount;
     static constexpr int kWidth = 800;
     static constexpr int kHeight = 657;
 

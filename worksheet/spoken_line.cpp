@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <vector>
 
 #include "core/text.h"
@@ -43,29 +42,9 @@ constexpr std::array<std::string_view, 10> kCounts{"",     "one", "two",   "thre
 constexpr std::array<std::string_view, 11> kParts{
     "", "", "half", "third", "fourth", "fifth", "sixth", "seventh", "eighth", "ninth", "tenth"};
 
-bool IsLetter(std::string_view character) {
-    return character.size() == 1 && std::isalpha(static_cast<unsigned char>(character[0])) != 0;
-}
-
-bool IsDigit(std::string_view character) {
-    return character.size() == 1 && std::isdigit(static_cast<unsigned char>(character[0])) != 0;
-}
-
 bool IsWholeNumber(std::string_view text) {
     return !text.empty() && text.size() < 10 &&
            std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
-}
-
-/// Three letters side by side make a word; mathematics has single letters.
-bool IsSentence(std::string_view line) {
-    int letters = 0;
-    for (const std::string& character : Characters(line)) {
-        letters = IsLetter(character) ? letters + 1 : 0;
-        if (letters == 3) {
-            return true;
-        }
-    }
-    return false;
 }
 
 /// Whether a part is one number or letter, so that no end has to be told.
@@ -139,7 +118,7 @@ std::string SpokenRoot(std::string_view body) {
 class Speaker {
   public:
     explicit Speaker(std::string_view line)
-        : characters(Characters(line)), sentence(IsSentence(line)) {}
+        : characters(Characters(line)), sentence(HasWords(line)) {}
 
     std::string Speak() {
         while (at < characters.size()) {
@@ -261,6 +240,17 @@ class Speaker {
 };
 
 }  // namespace
+
+bool HasWords(std::string_view line) {
+    int letters = 0;
+    for (const std::string& character : Characters(line)) {
+        letters = IsLetter(character) ? letters + 1 : 0;
+        if (letters == 3) {
+            return true;
+        }
+    }
+    return false;
+}
 
 std::string SpokenLine(std::string_view line) {
     return Speaker(line).Speak();

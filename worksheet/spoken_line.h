@@ -10,4 +10,8 @@ namespace numerello {
 /// it as it stands.
 std::string SpokenLine(std::string_view line);
 
+/// Whether the line is a sentence rather than mathematics alone. Three letters side by side make a
+/// word; mathematics has single letters.
+bool HasWords(std::string_view line);
+
 }  // namespace numerello

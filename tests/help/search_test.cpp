@@ -61,7 +61,7 @@ TEST(HelpSearch, WalksFromPageToPage) {
     EXPECT_EQ(index.PageBeside("three", 1), "");
     EXPECT_EQ(index.PageBeside("attic", 1), "");
     EXPECT_EQ(index.RowOf("three"), 4);
-    EXPECT_EQ(index.RowOf(""), -1);
+    EXPECT_EQ(index.RowOf(""), std::nullopt);
 }
 
 TEST(HelpSearch, RefusesOtherTexts) {

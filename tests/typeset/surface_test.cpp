@@ -100,6 +100,36 @@ TEST_F(SurfaceTest, ClsKeepsFontColourAndWidth) {
     EXPECT_EQ(surface.DrawWidth, 2);
 }
 
+TEST_F(SurfaceTest, LinesAreMeasuredWithoutATrace) {
+    surface.SetFontSize(8);
+    EXPECT_NEAR(surface.LineHeight(30), 43, 1e-9);
+    EXPECT_EQ(surface.FontSize(), 8);
+    EXPECT_EQ(surface.CurrentY, 0);
+}
+
+TEST_F(SurfaceTest, BlankHasThePenAndNoMarks) {
+    surface.SetFontSize(8);
+    surface.SetFontName(kExplanationFace);
+    surface.Print("a");
+    surface.NewPage();
+    surface.ForeColor = kBlue;
+    surface.DrawWidth = 2;
+    surface.CurrentX = 5;
+    surface.CurrentY = 9;
+    Surface blank = surface.Blank();
+    EXPECT_TRUE(blank.Marks().empty());
+    EXPECT_EQ(blank.PageCount(), 1);
+    blank.Print("b");
+    const auto& text = std::get<TextMark>(blank.Marks().front());
+    EXPECT_EQ(text.x, 5);
+    EXPECT_EQ(text.y, 9);
+    EXPECT_EQ(text.font.name, "Book Antiqua");
+    EXPECT_EQ(text.font.size, 8);
+    EXPECT_EQ(text.color, kBlue);
+    EXPECT_EQ(blank.DrawWidth, 2);
+    EXPECT_EQ(surface.Marks().size(), 1U);
+}
+
 TEST_F(SurfaceTest, PagesHoldTheirOwnMarks) {
     surface.Print("a");
     surface.Print("b");

@@ -173,10 +173,10 @@ class EveryTopic : public Window {
 
     /// Without a window nobody answers what a problem asks, so it is not worked.
     void ExpectExport(bool worked) {
-        std::string trouble;
         const QString pdf = documents.filePath(QStringLiteral("out.pdf"));
         QFile::remove(pdf);
-        EXPECT_EQ(ExportPdf(pdf, Saved(), trouble), worked ? 0 : 1) << trouble;
+        const std::string trouble = ExportProblem(Saved(), pdf);
+        EXPECT_EQ(trouble.empty(), worked) << trouble;
         EXPECT_EQ(QFile::exists(pdf), worked);
     }
 

@@ -3,6 +3,7 @@
 #include <QPageSize>
 #include <QPrinter>
 
+#include "output/print_solution.h"
 #include "tests/ui/printed_forms.h"
 #include "ui/export_pdf.h"
 #include "ui/print_job.h"
@@ -20,7 +21,12 @@ class Export : public testing::Test {
         file.open(QIODevice::WriteOnly);
         file.write(line.toUtf8());
         file.close();
-        return ExportPdf(Pdf(), Problem(), message);
+        return Write(Problem());
+    }
+
+    int Write(const QString& file) {
+        message = ExportProblem(file, Pdf());
+        return message.empty() ? 0 : 1;
     }
 
     QString Problem() const { return folder.filePath("problem.nrl"); }
@@ -55,7 +61,7 @@ TEST_F(Export, RefusesAFileThatIsNone) {
     EXPECT_NE(message, "");
     EXPECT_NE(message.find("problem.nrl"), std::string::npos);
     EXPECT_FALSE(QFile::exists(Pdf()));
-    EXPECT_EQ(ExportPdf(Pdf(), folder.filePath("none.nrl"), message), 1);
+    EXPECT_EQ(Write(folder.filePath("none.nrl")), 1);
     EXPECT_NE(message.find("none.nrl"), std::string::npos);
 }
 
@@ -72,7 +78,7 @@ TEST_F(Export, RefusesABoxProblemThatIsNotReady) {
 
 TEST_F(Export, TellsOfAFileThatCannotBeWritten) {
     Run(kEquation);
-    EXPECT_EQ(ExportPdf("/proc/none.pdf", Problem(), message), 1);
+    message = ExportProblem(Problem(), "/proc/none.pdf");
     EXPECT_NE(message.find("/proc/none.pdf"), std::string::npos) << message;
 }
 
@@ -145,12 +151,22 @@ TEST_F(SentPages, ThatAPrinterRefusesAreNotSent) {
     EXPECT_FALSE(SendPages(job, printer));
 }
 
+TEST_F(SentPages, ThatWereNotPaintedToTheirEndAreNoFile) {
+    // The graph's painter gives up, and the pages with it.
+    const PrintJob broken{
+        .name = "broken",
+        .compose = [](Surface& Printer, Learner&) { Printer.PaintPicture(kGraphPicture, 0, 0); },
+        .graph = [](QPainter& painter, QRectF) { painter.end(); }};
+    const ComposedJob job(broken, kA4, learner);
+    EXPECT_EQ(PdfOf(job, UsualLayout(), "broken"), std::nullopt);
+}
+
 TEST_F(SentPages, AreOneEmptyPageOfAnEmptyJob) {
     const ComposedJob job({.name = "empty", .compose = [](Surface&, Learner&) {}}, kA4, learner);
     EXPECT_EQ(job.PageCount(), 1);
     QFile file(folder.filePath("empty.pdf"));
     file.open(QIODevice::WriteOnly);
-    file.write(PdfOf(job, UsualLayout(), "empty"));
+    file.write(PdfOf(job, UsualLayout(), "empty").value());
     file.close();
     EXPECT_EQ(PagesOfPdf(file.fileName()), 1);
 }

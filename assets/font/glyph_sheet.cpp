@@ -9,7 +9,10 @@
 #include <utility>
 #include <vector>
 
+#include "output/print_scale.h"
 #include "typeset/sample.h"
+#include "typeset/variants.h"
+#include "ui/colors.h"
 #include "ui/font_metrics.h"
 #include "ui/surface_painter.h"
 
@@ -19,7 +22,6 @@ using namespace numerello;
 
 constexpr int kWidth = 800;
 constexpr int kPitch = 46;
-constexpr QColor kPaper(0xFF, 0xFD, 0xF5);
 constexpr QColor kRule(0xC9, 0xDD, 0xF2);
 constexpr QColor kMargin(0xE8, 0xA0, 0xA0);
 
@@ -86,8 +88,7 @@ class Sheet {
 };
 
 std::vector<char32_t> AllCharacters() {
-    const QRawFont face =
-        FontMetrics(FontMetrics::Medium::Sheet).Face({std::string(kSheetFace), 12});
+    const QRawFont face = FontMetrics(FontMetrics::Medium::Sheet).Face(SheetFont());
     std::vector<char32_t> characters;
     for (char32_t character = U'!'; character < 0x3000; ++character) {
         if (face.supportsCharacter(character)) {
@@ -139,37 +140,18 @@ double PaintLines(QPainter& painter, double top) {
     return top + y + 2 * kPitch;
 }
 
-/// The faces' measures in the units of a printed page, 800 by 600 on the printable part of A4.
-class PageMetrics : public TextMetrics {
-  public:
-    static constexpr double kUnitX = 190 / 25.4 * 96 / 800;
-    static constexpr double kUnitY = 277 / 25.4 * 96 / 600;
-
-    explicit PageMetrics(double scale) : scale(scale) {}
-
-    double Width(std::string_view text, const Font& font) const override {
-        return faces.Width(text, font) / (kUnitX * scale);
+/// A line as a printed page or its preview has it, the page's margins left out.
+std::vector<Mark> PrintedLine(const SampleRequest& request, const FontMetrics& faces,
+                              const PrintScale& scale) {
+    std::vector<Mark> marks;
+    for (const auto& placed : TypesetSample(request, ScaledMetrics(faces, scale)).marks) {
+        TextMark mark = std::get<TextMark>(placed.mark);
+        mark.x /= scale.across;
+        mark.y /= scale.down;
+        marks.emplace_back(mark);
     }
-    double LineHeight(const Font& font) const override {
-        return faces.LineHeight(font) / (kUnitY * scale);
-    }
-
-    /// From page units to pixels; letters keep their size.
-    std::vector<Mark> Placed(const SampleAnswer& answer) const {
-        std::vector<Mark> marks;
-        for (const auto& placed : answer.marks) {
-            TextMark mark = std::get<TextMark>(placed.mark);
-            mark.x *= kUnitX * scale;
-            mark.y *= kUnitY * scale;
-            marks.emplace_back(mark);
-        }
-        return marks;
-    }
-
-  private:
-    FontMetrics faces{FontMetrics::Medium::Print};
-    double scale;
-};
+    return marks;
+}
 
 /// The other three targets, each with its own offsets.
 double PaintVariants(QPainter& painter, double top) {
@@ -179,14 +161,13 @@ double PaintVariants(QPainter& painter, double top) {
     sheet.Line({TypesetTarget::Explanation, kText, 100, 10, {}, true},
                FontMetrics::Medium::Explanation);
     const FontMetrics faces(FontMetrics::Medium::Print);
-    const PageMetrics page(1);
     sheet.Caption(10, 60, "print");
-    sheet.Marks(page.Placed(TypesetSample({TypesetTarget::Print, kText, 100, 35, {}, false}, page)),
-                faces);
-    const PageMetrics picture(8.0 / 12);
+    sheet.Marks(
+        PrintedLine({TypesetTarget::Print, kText, 100, 35, {}, false}, faces, ScaleOfPrint(kA4)),
+        faces);
     sheet.Caption(10, 120, "preview");
-    sheet.Marks(picture.Placed(
-                    TypesetSample({TypesetTarget::Preview, kText, 150, 100, {}, false}, picture)),
+    sheet.Marks(PrintedLine({TypesetTarget::Preview, kText, 150, 100, {}, false}, faces,
+                            ScaleOfPreview(kA4)),
                 faces);
     return top + 180;
 }
@@ -217,7 +198,7 @@ int main(int argc, char** argv) {
         // The first pass finds out how high the picture is.
         QImage image(static_cast<int>(kWidth * scale), static_cast<int>(height * scale) + 1,
                      QImage::Format_RGB32);
-        image.fill(kPaper);
+        image.fill(kPaperColor);
         QPainter painter(&image);
         painter.scale(scale, scale);
         PaintAll(painter, height);

@@ -1,4 +1,5 @@
-# Every folder of the library is one static library; its links are the only folders it may include.
+# Every folder of the library is one static library. Its links are what it is linked with; every target
+# sees the whole tree, and tests/floors.sh alone sees to it that a folder includes those below it only.
 
 add_library(numerello_options INTERFACE)
 target_include_directories(numerello_options INTERFACE ${PROJECT_SOURCE_DIR})

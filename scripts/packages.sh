@@ -1,10 +1,12 @@
-# What Numerello needs from the distribution, and how it gets there. Sourced by ./run and ./test.
+# What Numerello needs from the distribution, and how it gets there. Sourced by ./run, ./test and the
+# scripts.
 
 BUILD_PACKAGES="g++ cmake ninja-build nlohmann-json3-dev libcli11-dev
     qt6-base-dev qt6-svg-dev python3-fonttools fonts-texgyre fonts-liberation"
 TEST_PACKAGES="libgtest-dev libbenchmark-dev clang libclang-rt-dev
     xvfb openbox xdotool xsel x11-utils scrot dbus at-spi2-core python3-gi gir1.2-atspi-2.0
     poppler-utils desktop-file-utils appstream shared-mime-info man-db"
+COVERAGE_PACKAGES="lcov"
 PACKAGE_PACKAGES="dpkg-dev"
 TRY_PACKAGES="debootstrap xvfb openbox xdotool x11-utils scrot"
 

@@ -168,6 +168,10 @@ QLabel* EntryForm::AddLabel(std::string_view text, int size, Qt::Alignment align
     return label;
 }
 
+QWidget* EntryForm::LastControl() const {
+    return lists.empty() ? static_cast<QWidget*>(boxes.back()) : lists.back();
+}
+
 void EntryForm::SetTabOrder() {
     QWidget* last = nullptr;
     const auto follow = [&last](QWidget* next) {

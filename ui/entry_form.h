@@ -25,6 +25,9 @@ class EntryForm : public QObject {
     /// The first box; null where the sheet itself takes the keys.
     QWidget* FirstBox() const { return boxes.empty() ? nullptr : boxes.front(); }
 
+    /// The last one in the order of the Tab key, where there is a first box.
+    QWidget* LastControl() const;
+
     /// Where the picture is on the sheet; empty where there is none.
     QRect PicturePlace() const;
 

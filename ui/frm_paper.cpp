@@ -79,6 +79,8 @@ void FrmPaper::MakeEntry() {
     pile->SetPicture(entry->PicturePlace());
     if (entry->FirstBox() != nullptr) {
         setFocusProxy(entry->FirstBox());
+        // The Tab key comes into this form at that box, past an arrow that stood before it.
+        pile->PutArrowsBehind(entry->LastControl());
     }
 }
 

@@ -156,6 +156,8 @@ FrmPracticeTest::Row FrmPracticeTest::MakeRow(int index, QWidget* parent) {
 
     row.Combo1->setObjectName(QStringLiteral("Combo1(%1)").arg(index));
     row.Combo1->setAccessibleName(QStringLiteral("Number of problems of row %1").arg(number));
+    // Some desktops tell the choice in place of the name.
+    row.Combo1->setAccessibleDescription(row.Combo1->accessibleName());
     row.Combo1->setToolTip(QStringLiteral("How many problems of this topic"));
     for (int count = 1; count <= kMostProblemsOfRow; ++count) {
         row.Combo1->addItem(QString::number(count));

@@ -54,6 +54,13 @@ void SheetPile::Show(WritingPencil& pencil) {
     }
 }
 
+void SheetPile::PutArrowsBehind(QWidget* control) {
+    for (SheetWidget* paper : papers) {
+        QWidget::setTabOrder(control, &paper->Arrow());
+        control = &paper->Arrow();
+    }
+}
+
 void SheetPile::Describe(const QString& reason) {
     for (SheetWidget* paper : papers) {
         paper->setAccessibleDescription(reason);

@@ -26,6 +26,9 @@ class SheetPile : public QObject {
     /// Shows drawings, places and order; the pencil lies directly above the first sheet.
     void Show(WritingPencil& pencil);
 
+    /// The Tab key comes from this control to the arrows.
+    void PutArrowsBehind(QWidget* control);
+
     /// What an ear is told about all sheets.
     void Describe(const QString& reason);
 

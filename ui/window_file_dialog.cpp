@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QLineEdit>
 
 #include "ui/held_enter.h"
@@ -47,6 +48,17 @@ class NamingDialog : public QFileDialog {
     }
 };
 
+/// In the toolkit's own dialog two labels do not say what they are the labels of.
+void JoinLabels(const QFileDialog& dialog) {
+    for (const auto& [label, list] :
+         {std::pair("lookInLabel", "lookInCombo"), std::pair("fileTypeLabel", "fileTypeCombo")}) {
+        auto* said = dialog.findChild<QLabel*>(QLatin1String(label));
+        if (said != nullptr) {
+            said->setBuddy(dialog.findChild<QWidget*>(QLatin1String(list)));
+        }
+    }
+}
+
 }  // namespace
 
 std::optional<std::string> WindowFileDialog::Show(const FileDialogSettings& settings) {
@@ -62,6 +74,7 @@ std::optional<std::string> WindowFileDialog::Show(const FileDialogSettings& sett
     if (!settings.suggestedName.empty()) {
         dialog.selectFile(ToQString(settings.suggestedName));
     }
+    JoinLabels(dialog);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return std::nullopt;
     }

@@ -41,10 +41,12 @@ bool WindowLearner::Confirm(std::string_view title, std::string_view text) {
 std::optional<std::string> WindowLearner::InputBox(std::string_view title,
                                                    std::string_view prompt) {
     const PointerGuard notBusy(Qt::ArrowCursor);
-    bool answered = false;
-    const QString answer = QInputDialog::getText(window, TitleOf(title), ToQString(prompt),
-                                                 QLineEdit::Normal, QString(), &answered);
-    return answered ? std::optional(answer.toStdString()) : std::nullopt;
+    QInputDialog box(window);
+    box.setObjectName(QStringLiteral("InputBox"));
+    box.setWindowTitle(TitleOf(title));
+    box.setLabelText(ToQString(prompt));
+    return box.exec() == QDialog::Accepted ? std::optional(box.textValue().toStdString())
+                                           : std::nullopt;
 }
 
 }  // namespace numerello

@@ -8,7 +8,7 @@ namespace {
 
 class Exactness : public ::testing::TestWithParam<int> {};
 
-TEST_P(Exactness, OfEveryLine) {
+TEST_P(Exactness, EveryLineEqualsTheProblem) {
     JudgeMany(GetParam(), 20264, kInventedProblems, AnswerSettings(), JudgeExactLines);
 }
 

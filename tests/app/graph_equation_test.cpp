@@ -1,40 +1,15 @@
 #include <gtest/gtest.h>
 
 #include "app/solvers.h"
-#include "catalogue/guided_input.h"
-#include "catalogue/topic_choice.h"
-#include "core/erasing.h"
+#include "tests/catalogue/typing.h"
+#include "tests/learners.h"
 
 namespace numerello {
 namespace {
 
-class AskedLearner : public Learner {
-  public:
-    explicit AskedLearner(std::vector<std::string> answers) : answers(std::move(answers)) {}
-
-    void MessageBox(std::string_view, std::string_view) override {}
-    bool Confirm(std::string_view, std::string_view) override { return true; }
-    std::optional<std::string> InputBox(std::string_view, std::string_view prompt) override {
-        prompts.emplace_back(prompt);
-        return prompts.size() <= answers.size() ? std::optional(answers[prompts.size() - 1])
-                                                : std::nullopt;
-    }
-
-    std::vector<std::string> prompts;
-
-  private:
-    std::vector<std::string> answers;
-};
-
-Problem Graphed(std::string_view equation, AskedLearner& learner) {
-    Problem problem;
-    MersenneSource random;
+Problem Graphed(std::string_view equation, PromptedLearner& learner) {
+    Problem problem = Typed("Graphing A Linear Equation", equation);
     Stage stage;
-    TreeViewSelect("Graphing A Linear Equation", problem.topic, SystemClock(), random);
-    EraseProblem(problem, stage);
-    for (const char key : equation) {
-        Form_KeyPress(problem, std::string_view(&key, 1));
-    }
     compute_Click(problem, AllSolvers(), learner, stage);
     return problem;
 }
@@ -48,7 +23,7 @@ std::vector<std::string> Cells(const Problem& problem) {
 }
 
 TEST(GraphEquation, LeavesNumbersTogetherAndLettersAlone) {
-    AskedLearner learner({});
+    PromptedLearner learner({});
     const Problem problem = Graphed("2x+3y=6", learner);
     EXPECT_EQ(problem.graph.GraphMode, 3);
     EXPECT_TRUE(problem.controls.GraphEnabled);
@@ -57,21 +32,21 @@ TEST(GraphEquation, LeavesNumbersTogetherAndLettersAlone) {
 }
 
 TEST(GraphEquation, AsksWhichOfTwoOtherLettersUntilItIsOneOfThem) {
-    AskedLearner learner({"q", "", "b"});
+    PromptedLearner learner({"q", "", "b"});
     const Problem problem = Graphed("a+b=3", learner);
     const std::string prompt = "Which variable do you want to solve for?";
-    EXPECT_EQ(learner.prompts, (std::vector<std::string>{prompt, prompt, prompt}));
+    EXPECT_EQ(learner.asked, (std::vector<std::string>{prompt, prompt, prompt}));
     EXPECT_EQ(problem.log.StepText[problem.log.StepCount - 1], "b=-a+3");
 }
 
 TEST(GraphEquation, TakesTheAnswerInCapitalsToo) {
-    AskedLearner learner({"B"});
+    PromptedLearner learner({"B"});
     EXPECT_EQ(Graphed("a+b=3", learner).graph.GraphMode, 3);
-    EXPECT_EQ(learner.prompts.size(), 1U);
+    EXPECT_EQ(learner.asked.size(), 1U);
 }
 
 TEST(GraphEquation, TellsThatTheLetterAskedForHasGone) {
-    AskedLearner learner({});
+    PromptedLearner learner({});
     const Problem problem = Graphed("0y+x=3", learner);
     EXPECT_EQ(problem.graph.GraphMode, 3);
     EXPECT_EQ(problem.log.StepText[2], "x=3");
@@ -81,15 +56,15 @@ TEST(GraphEquation, TellsThatTheLetterAskedForHasGone) {
 }
 
 TEST(GraphEquation, AsksNothingWhenYStandsFirst) {
-    AskedLearner learner({});
+    PromptedLearner learner({});
     EXPECT_EQ(Graphed("y=5", learner).graph.GraphMode, 3);
     EXPECT_EQ(Graphed("x=3", learner).graph.GraphMode, 3);
     EXPECT_EQ(Graphed("y-2x=4", learner).graph.GraphMode, 3);
-    EXPECT_TRUE(learner.prompts.empty());
+    EXPECT_TRUE(learner.asked.empty());
 }
 
 TEST(GraphEquation, EndsWithoutAnAnswer) {
-    AskedLearner learner({});
+    PromptedLearner learner({});
     const Problem problem = Graphed("a+b=3", learner);
     EXPECT_EQ(problem.graph.GraphMode, 0);
     EXPECT_FALSE(problem.controls.GraphEnabled);
@@ -97,7 +72,7 @@ TEST(GraphEquation, EndsWithoutAnAnswer) {
 }
 
 TEST(GraphEquation, HasNothingToDrawWithoutALetter) {
-    AskedLearner learner({});
+    PromptedLearner learner({});
     const Problem problem = Graphed("y=y+3", learner);
     EXPECT_EQ(problem.graph.GraphMode, 0);
     EXPECT_FALSE(problem.controls.GraphEnabled);

@@ -4,10 +4,9 @@
 #include <fstream>
 
 #include "app/solvers.h"
-#include "catalogue/guided_input.h"
-#include "catalogue/topic_choice.h"
-#include "core/erasing.h"
 #include "core/text.h"
+#include "tests/catalogue/typing.h"
+#include "tests/learners.h"
 
 /// Works the problems of worked_logs/. A file names its topic; its problems are separated by empty
 /// lines. A problem is its typed characters, the settings other than the usual ones (decimals,
@@ -100,34 +99,16 @@ std::vector<WorkedProblem> ReadProblems(const std::filesystem::path& path) {
     return problems;
 }
 
-class ListLearner : public Learner {
-  public:
-    explicit ListLearner(const std::vector<std::string>& answers) : answers(answers) {}
-
-    void MessageBox(std::string_view, std::string_view) override {}
-    bool Confirm(std::string_view, std::string_view) override { return true; }
-    std::optional<std::string> InputBox(std::string_view, std::string_view) override {
-        return next < answers.size() ? std::optional(answers[next++]) : std::nullopt;
-    }
-
-  private:
-    const std::vector<std::string>& answers;
-    std::size_t next = 0;
-};
-
 void Check(const WorkedProblem& worked) {
     SCOPED_TRACE(worked.topic + ": " + worked.typed);
-    Problem problem;
-    MersenneSource random;
-    Stage stage;
-    TreeViewSelect(worked.topic, problem.topic, SystemClock(), random);
-    EraseProblem(problem, stage);
+    Problem problem = Opened(worked.topic);
     problem.settings = worked.settings;
     for (const char key : worked.typed) {
         Form_KeyPress(problem, std::string_view(&key, 1));
         EXPECT_TRUE(problem.input.KeyAccepted) << key;
     }
-    ListLearner learner(worked.answers);
+    PromptedLearner learner(worked.answers);
+    Stage stage;
     EXPECT_EQ(compute_Click(problem, AllSolvers(), learner, stage), worked.failure);
 
     std::vector<std::string> lines;

@@ -15,6 +15,7 @@
 #include "columns/steps.h"
 #include "core/erasing.h"
 #include "core/solve_driver.h"
+#include "tests/learners.h"
 
 namespace numerello {
 
@@ -64,20 +65,6 @@ struct Frame {
             texts.push_back(std::visit([](const auto& each) { return Written(each); }, mark));
         }
         return texts;
-    }
-};
-
-/// Writes down what it is told.
-class NotingLearner : public Learner {
-  public:
-    std::vector<std::string> messages;
-
-    void MessageBox(std::string_view title, std::string_view text) override {
-        messages.push_back((title.empty() ? "" : std::string(title) + ": ") + std::string(text));
-    }
-    bool Confirm(std::string_view, std::string_view) override { return true; }
-    std::optional<std::string> InputBox(std::string_view, std::string_view) override {
-        return std::nullopt;
     }
 };
 

@@ -146,19 +146,25 @@ TEST(Round, HalvesGoToTheEvenNeighbour) {
 TEST(Round, LooksAtTheScaledValue) {
     EXPECT_EQ(Round(2.675, 2), 2.68);  // 267.5 once scaled, though the Double lies below the tie
     EXPECT_EQ(Round(0.28 * 28.375, 2), 7.95);
+    EXPECT_EQ(Round(123456789012.345, 2), 123456789012.34);
     EXPECT_EQ(Round(0.66 / 5280, 5), 0.00012);
 }
 
-TEST(Round, LeavesTheRest) {
+TEST(Round, GoesToTheNearestWhereThereIsNoTie) {
     EXPECT_EQ(Round(3.3333, 2), 3.33);
     EXPECT_EQ(Round(3.336, 2), 3.34);
     EXPECT_EQ(Round(-3.336, 2), -3.34);
+}
+
+TEST(Round, LeavesWhatHasNoFurtherDigits) {
     EXPECT_EQ(Round(7, 2), 7);
-    EXPECT_EQ(Round(123456789012.345, 2), 123456789012.34);  // the scaled value is a tie
     EXPECT_EQ(Round(1e300, 5), 1e300);
+    EXPECT_EQ(Round(DBL_MAX, 5), DBL_MAX);
+}
+
+TEST(Round, RefusesWhatIsNoNumber) {
     EXPECT_EQ(KindOf([] { Round(INFINITY, 2); }), FailureKind::Overflow);
     EXPECT_EQ(KindOf([] { Round(NAN, 2); }), FailureKind::Overflow);
-    EXPECT_EQ(Round(DBL_MAX, 5), DBL_MAX);
 }
 
 TEST(Divide, TellsItsTwoFailuresApart) {

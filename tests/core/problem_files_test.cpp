@@ -2,6 +2,7 @@
 
 #include "core/disk.h"
 #include "temporary_folder.h"
+#include "tests/learners.h"
 
 namespace numerello {
 namespace {
@@ -23,19 +24,6 @@ class ChoosingDialog : public FileDialog {
     std::vector<FileDialogSettings> shown;
 };
 
-class RecordingLearner : public Learner {
-  public:
-    void MessageBox(std::string_view title, std::string_view text) override {
-        messages.emplace_back(title, text);
-    }
-    bool Confirm(std::string_view, std::string_view) override { return true; }
-    std::optional<std::string> InputBox(std::string_view, std::string_view) override {
-        return std::nullopt;
-    }
-
-    std::vector<std::pair<std::string, std::string>> messages;
-};
-
 class ProblemFilesTest : public TemporaryFolder {
   protected:
     ProblemFilesTest() {
@@ -50,7 +38,7 @@ class ProblemFilesTest : public TemporaryFolder {
 
     Problem problem;
     ChoosingDialog dialog;
-    RecordingLearner learner;
+    NotingLearner learner;
     FixedClock clock{0, {2026, 11, 20}};
 };
 
@@ -151,8 +139,7 @@ TEST_F(ProblemFilesTest, AFileThatCannotBeWrittenIsTold) {
     ProblemFiles files(folder, dialog);
     dialog.choices = {Path("none/a.nrl")};
     EXPECT_FALSE(mnuSave_Click(problem, files, clock, learner));
-    ASSERT_EQ(learner.messages.size(), 1U);
-    EXPECT_EQ(learner.messages[0].second, "The problem could not be saved.");
+    EXPECT_EQ(learner.messages, std::vector<std::string>{"The problem could not be saved."});
     EXPECT_FALSE(std::filesystem::exists(Path("none")));
 }
 

@@ -1,8 +1,6 @@
 #!/usr/bin/env python3
 """A learner works a subtraction and a division in columns, click by click."""
 
-import sys
-
 import screen
 
 SUBTRACTION = [
@@ -19,21 +17,12 @@ DIVISION = [
 ]
 
 
-def choose(desk, topic):
-    desk.wait_for_window("Choose problem type:")
-    desk.key("ctrl+Tab")
-    desk.type(topic)
-    desk.key("Return")
-    desk.wait_for_window("Vantrel - Numerello")
-    screen.until(lambda: screen.find(topic), "the sheet")
-
-
 def play(desk, topic, drawings):
     """Clicks through from the first drawing, which is there, to the check mark."""
     for i, expected in enumerate(drawings):
         screen.until(
             lambda: screen.sheet_text(topic) == expected,
-            f"drawing {i + 1}; there is {screen.sheet_text(topic)!r}",
+            lambda: f"drawing {i + 1}; there is {screen.sheet_text(topic)!r}",
         )
         desk.picture(f"{topic.lower()}-{i + 1}")
         if i + 1 < len(drawings):
@@ -41,32 +30,27 @@ def play(desk, topic, drawings):
     screen.until(lambda: not screen.find("Next Step"), "the arrow to go")
 
 
-def main():
-    program, pictures, *scale = sys.argv[1:]
-    with screen.Screen(program, pictures, scale=int(scale[0]) if scale else 1) as desk:
-        desk.open_program("--no-splash")
-        choose(desk, "Subtraction")
-        desk.type("1000")
-        desk.key("Tab")
-        desk.type("1")
-        desk.click_on("Solve!")
-        play(desk, "Subtraction", SUBTRACTION)
+def journey(desk):
+    desk.open_program("--no-splash")
+    desk.choose("Subtraction")
+    desk.type("1000")
+    desk.key("Tab")
+    desk.type("1")
+    desk.click_on("Solve!")
+    play(desk, "Subtraction", SUBTRACTION)
 
-        # The larger number in the wrong box.
-        desk.key("ctrl+n")
-        choose(desk, "Division")
-        desk.type("95")
-        desk.key("Tab")
-        desk.type("7")
-        desk.key("Return")
-        screen.until(lambda: screen.find("OK"), "the message that the numbers are switched")
-        desk.picture("division-switched")
-        desk.key("Return")
-        play(desk, "Division", DIVISION)
-        desk.key("ctrl+q")
-        assert desk.exit_status() == 0
-    print("columns: played to their check marks")
+    # The larger number in the wrong box.
+    desk.key("ctrl+n")
+    desk.choose("Division")
+    desk.type("95")
+    desk.key("Tab")
+    desk.type("7")
+    desk.key("Return")
+    screen.until(lambda: screen.find("OK"), "the message that the numbers are switched")
+    desk.picture("division-switched")
+    desk.key("Return")
+    play(desk, "Division", DIVISION)
 
 
 if __name__ == "__main__":
-    main()
+    screen.run(journey, "columns: played to their check marks")

@@ -1,22 +1,11 @@
 #!/usr/bin/env python3
 """A learner's slips at the keyboard: refused keys say why, Backspace takes back, boxes come in turn."""
 
-import sys
-
 import screen
 
 LINE_TOPIC = "Fraction Arithmetic"
 BOX_TOPIC = "Similar Triangles"
 SIDES = ["a1=", "b1=", "c1=", "a2=", "b2=", "c2="]
-
-
-def choose(desk, topic):
-    desk.wait_for_window("Choose problem type:")
-    desk.key("ctrl+Tab")
-    desk.type(topic)
-    desk.key("Return")
-    desk.wait_for_window("Vantrel - Numerello")
-    screen.until(lambda: screen.find(topic), "the sheet")
 
 
 def expect_sheet(text):
@@ -33,7 +22,7 @@ def solve_is_on():
 
 
 def type_fractions(desk):
-    choose(desk, LINE_TOPIC)
+    desk.choose(LINE_TOPIC)
     assert not solve_is_on()
     desk.type("1/2/")
     expect_sheet("one half divided by")
@@ -57,9 +46,8 @@ def type_fractions(desk):
 
 def fill_triangles(desk):
     desk.key("ctrl+n")
-    choose(desk, BOX_TOPIC)
-    nameless = screen.showing_without_name()
-    assert not nameless, f"on the sheet, without a name: {nameless}"
+    desk.choose(BOX_TOPIC)
+    screen.expect_all_named("on the sheet")
     for number, side in enumerate(SIDES, start=3):
         screen.until(lambda: screen.has_state(screen.find(side), "FOCUSED"), f"the focus on {side}")
         assert solve_is_on() == (number > 6), f"Solve! before {side}"
@@ -73,16 +61,11 @@ def fill_triangles(desk):
     screen.until(lambda: not solve_is_on(), "Solve! to go off")
 
 
-def main():
-    program, pictures, *scale = sys.argv[1:]
-    with screen.Screen(program, pictures, scale=int(scale[0]) if scale else 1) as desk:
-        desk.open_program("--no-splash")
-        type_fractions(desk)
-        fill_triangles(desk)
-        desk.key("ctrl+q")
-        assert desk.exit_status() == 0
-    print("guided input: worked")
+def journey(desk):
+    desk.open_program("--no-splash")
+    type_fractions(desk)
+    fill_triangles(desk)
 
 
 if __name__ == "__main__":
-    main()
+    screen.run(journey, "guided input: worked")

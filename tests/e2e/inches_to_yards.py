@@ -1,8 +1,6 @@
 #!/usr/bin/env python3
 """A learner with a keyboard alone: chooses a topic, types a problem, plays it to the check mark."""
 
-import sys
-
 import screen
 
 TOPIC = "Converting Inches To Yards"
@@ -26,48 +24,40 @@ def sheet_lines():
 def expect_lines(count):
     screen.until(
         lambda: sheet_lines() == LINES[:count],
-        f"the first {count} lines on the sheet; it holds {sheet_lines()}",
+        lambda: f"the first {count} lines on the sheet; it holds {sheet_lines()}",
     )
 
 
-def main():
-    program, pictures, *scale = sys.argv[1:]
-    with screen.Screen(program, pictures, scale=int(scale[0]) if scale else 1) as desk:
-        desk.open_program()
-        desk.wait_for_mapped("Vantrel - Numerello")
-        desk.picture("splash")
-        desk.wait_for_window("Choose problem type:")
-        desk.picture("chooser-topic")
-        nameless = screen.showing_without_name()
-        assert not nameless, f"in the chooser, without a name: {nameless}"
-        desk.key("ctrl+Tab")
-        desk.type("converting inches to y")
-        desk.picture("chooser-index")
-        desk.key("Return")
+def journey(desk):
+    desk.open_program()
+    desk.wait_for_mapped(screen.FRAME)
+    desk.picture("splash")
+    desk.wait_for_window(screen.CHOOSER)
+    desk.picture("chooser-topic")
+    screen.expect_all_named("in the chooser")
+    desk.key("ctrl+Tab")
+    desk.type("converting inches to y")
+    desk.picture("chooser-index")
+    desk.key("Return")
 
-        desk.wait_for_window("Vantrel - Numerello")
-        screen.until(lambda: screen.find(TOPIC), "the sheet")
-        desk.picture("empty-sheet")
-        nameless = screen.showing_without_name()
-        assert not nameless, f"on the sheet, without a name: {nameless}"
+    desk.wait_for_window(screen.FRAME)
+    screen.until(lambda: screen.find(TOPIC), "the sheet")
+    desk.picture("empty-sheet")
+    screen.expect_all_named("on the sheet")
 
-        desk.type("4+0")
-        expect_lines(1)
-        desk.key("Return")
-        for shown in range(2, len(LINES) + 1):
-            expect_lines(shown)
-            if shown == 5:
-                desk.picture("half-played")
-            if shown < len(LINES):
-                assert screen.find("Next Step"), f"no arrow behind line {shown}"
-                desk.key("Return")
-        screen.until(lambda: not screen.find("Next Step"), "the arrow to go")
-        desk.picture("finished")
-
-        desk.key("ctrl+q")
-        assert desk.exit_status() == 0
-    print("inches to yards: played to the check mark")
+    desk.type("4+0")
+    expect_lines(1)
+    desk.key("Return")
+    for shown in range(2, len(LINES) + 1):
+        expect_lines(shown)
+        if shown == 5:
+            desk.picture("half-played")
+        if shown < len(LINES):
+            assert screen.find("Next Step"), f"no arrow behind line {shown}"
+            desk.key("Return")
+    screen.until(lambda: not screen.find("Next Step"), "the arrow to go")
+    desk.picture("finished")
 
 
 if __name__ == "__main__":
-    main()
+    screen.run(journey, "inches to yards: played to the check mark")

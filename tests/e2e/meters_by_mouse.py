@@ -1,8 +1,6 @@
 #!/usr/bin/env python3
 """A learner with the mouse: finds a metric topic in the tree, fills the box and picks the units."""
 
-import sys
-
 import screen
 
 TOPIC = "Meter Conversions"
@@ -19,50 +17,45 @@ def solution():
     return (screen.sheet_text(TOPIC) or "").split("\n")
 
 
-def main():
-    program, pictures, *scale = sys.argv[1:]
-    with screen.Screen(program, pictures, scale=int(scale[0]) if scale else 1) as desk:
-        desk.open_program("--no-splash")
-        desk.wait_for_window("Choose problem type:")
-        for node in ("Standard/Metric/Temperature Conversions", "Metric Conversions", TOPIC):
-            desk.picture("tree-" + node.split("/")[0].lower().replace(" ", "-"))
-            desk.click_on(node)
-            desk.settle()
-
-        desk.wait_for_window("Vantrel - Numerello")
-        screen.until(lambda: screen.find(TOPIC), "the sheet")
-        desk.type("2.5")
-        desk.select_elsewhere("meter")
-        desk.click_on("Value", button=2)
+def journey(desk):
+    desk.open_program("--no-splash")
+    desk.wait_for_window(screen.CHOOSER)
+    for node in ("Standard/Metric/Temperature Conversions", "Metric Conversions", TOPIC):
+        desk.picture("tree-" + node.split("/")[0].lower().replace(" ", "-"))
+        desk.click_on(node)
         desk.settle()
-        assert screen.find("Value").get_text(0, 20) == "2.5", "a middle click brings no foreign text"
-        for name, row in (("From", 6), ("To", 3)):
-            desk.click_on(name)
-            desk.settle()
-            desk.key(*["Down"] * row, "Return")
-            desk.settle()
-        desk.picture("metric-entry")
-        desk.click_on("Solve!")
-        for shown in range(1, len(LINES) + 1):
-            screen.until(
-                lambda: solution() == LINES[:shown],
-                f"the first {shown} lines; the sheet holds {solution()}",
-            )
-            if shown < len(LINES):
-                desk.click_on("Next Step")
-        screen.until(lambda: not screen.find("Next Step"), "the arrow to go")
-        desk.picture("metric-finished")
 
-        desk.click_on("Erase")
-        desk.wait_for_window("Clear Problem")
-        desk.picture("erase-question")
-        desk.key("Escape")
-        desk.wait_for_window("Vantrel - Numerello")
-        assert solution() == LINES, "Cancel keeps the sheet"
-        desk.key("ctrl+q")
-        assert desk.exit_status() == 0
-    print("meters by mouse: worked")
+    desk.wait_for_window(screen.FRAME)
+    screen.until(lambda: screen.find(TOPIC), "the sheet")
+    desk.type("2.5")
+    desk.select_elsewhere("meter")
+    desk.click_on("Value", button=2)
+    desk.settle()
+    assert screen.find("Value").get_text(0, 20) == "2.5", "a middle click brings no foreign text"
+    for name, row in (("From", 6), ("To", 3)):
+        desk.click_on(name)
+        desk.settle()
+        desk.key(*["Down"] * row, "Return")
+        desk.settle()
+    desk.picture("metric-entry")
+    desk.click_on("Solve!")
+    for shown in range(1, len(LINES) + 1):
+        screen.until(
+            lambda: solution() == LINES[:shown],
+            lambda: f"the first {shown} lines; the sheet holds {solution()}",
+        )
+        if shown < len(LINES):
+            desk.click_on("Next Step")
+    screen.until(lambda: not screen.find("Next Step"), "the arrow to go")
+    desk.picture("metric-finished")
+
+    desk.click_on("Erase")
+    desk.wait_for_window("Clear Problem")
+    desk.picture("erase-question")
+    desk.key("Escape")
+    desk.wait_for_window(screen.FRAME)
+    assert solution() == LINES, "Cancel keeps the sheet"
 
 
 if __name__ == "__main__":
-    main()
+    screen.run(journey, "meters by mouse: worked")

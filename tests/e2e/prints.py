@@ -3,11 +3,9 @@
 
 import pathlib
 import subprocess
-import sys
 
 import screen
 
-FRAME = "Vantrel - Numerello"
 EQUATION = "Solving Equations BB 3x+4=2x+7 BB  BB  BB  BB  BB  BB  BB -1 BB -1 BB 0 BB 101\n"
 
 
@@ -28,19 +26,14 @@ def save_as(desk, pdf, back):
     return text_of(pdf)
 
 
-def expect_named(window):
-    nameless = screen.showing_without_name()
-    assert not nameless, f"in {window}, without a name: {nameless}"
-
-
 def print_the_equation(desk, folder):
     desk.key("ctrl+p")
     desk.wait_for_window("Print Options")
-    expect_named("Print Options")
+    screen.expect_all_named("in Print Options")
     desk.click_on("Explanation")
     desk.picture("print-options")
     desk.key("Return")
-    lines = save_as(desk, folder / "equation.pdf", FRAME)
+    lines = save_as(desk, folder / "equation.pdf", screen.FRAME)
     assert lines[:2] == ["Vantrel Numerello", "Solving Equations"], lines
     assert lines[3] == "3x+4=2x+7" and "x=3" in lines, lines
 
@@ -49,7 +42,7 @@ def fill_the_outline(desk):
     """Down from the first folder: Enter opens it, and chooses each of the four topics below."""
     desk.click_on("Practice Test", "push button")
     desk.wait_for_window("Practice Test")
-    expect_named("Practice Test")
+    screen.expect_all_named("in Practice Test")
     desk.key("Return")
     for _ in range(4):
         desk.key("Down", "Return")
@@ -60,7 +53,7 @@ def fill_the_outline(desk):
 def print_the_test(desk, folder):
     desk.click_on("Create Practice Test")
     desk.wait_for_window("Print Preview")
-    expect_named("Print Preview")
+    screen.expect_all_named("in Print Preview")
     desk.picture("print-preview")
     desk.key("ctrl+p")
     test = save_as(desk, folder / "test.pdf", "Print Preview")
@@ -83,26 +76,21 @@ def print_the_test(desk, folder):
     desk.key("Escape")
     desk.wait_for_window("Practice Test")
     desk.key("Escape")
-    desk.wait_for_window(FRAME)
+    desk.wait_for_window(screen.FRAME)
 
 
-def main():
-    program, pictures, *scale = sys.argv[1:]
-    with screen.Screen(program, pictures, scale=int(scale[0]) if scale else 1) as desk:
-        folder = pathlib.Path.home() / "prints"
-        folder.mkdir()
-        problem = folder / "equation.nrl"
-        problem.write_text(EQUATION)
-        desk.open_program(str(problem))
-        desk.wait_for_window(FRAME)
-        screen.until(lambda: screen.find("Solving Equations"), "the sheet")
-        print_the_equation(desk, folder)
-        fill_the_outline(desk)
-        print_the_test(desk, folder)
-        desk.key("ctrl+q")
-        assert desk.exit_status() == 0
-    print("prints: a worked equation, a test and its key")
+def journey(desk):
+    folder = pathlib.Path.home() / "prints"
+    folder.mkdir()
+    problem = folder / "equation.nrl"
+    problem.write_text(EQUATION)
+    desk.open_program(str(problem))
+    desk.wait_for_window(screen.FRAME)
+    screen.until(lambda: screen.find("Solving Equations"), "the sheet")
+    print_the_equation(desk, folder)
+    fill_the_outline(desk)
+    print_the_test(desk, folder)
 
 
 if __name__ == "__main__":
-    main()
+    screen.run(journey, "prints: a worked equation, a test and its key")

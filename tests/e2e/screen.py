@@ -3,6 +3,7 @@
 import os
 import pathlib
 import subprocess
+import sys
 import time
 
 import gi
@@ -12,17 +13,19 @@ from gi.repository import Atspi  # noqa: E402
 
 KEY_DELAY_MS = 12
 
+FRAME = "Vantrel - Numerello"
+CHOOSER = "Choose problem type:"
+
 
 class Screen:
     """Starts Xvfb, openbox and the program; ends them all when left."""
 
-    def __init__(self, program, pictures, scale=1, environment=None):
+    def __init__(self, program, pictures, scale=1):
         self.program = program
         self.pictures = pathlib.Path(pictures)
         self.pictures.mkdir(parents=True, exist_ok=True)
         self.scale = scale
         self.size = f"{1280 * scale}x{800 * scale}"
-        self.environment = {"QT_SCALE_FACTOR": str(scale), **(environment or {})}
         self.children = []
 
     def __enter__(self):
@@ -38,7 +41,7 @@ class Screen:
             {
                 "QT_QPA_PLATFORM": "xcb",
                 "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
-                **self.environment,
+                "QT_SCALE_FACTOR": str(self.scale),
             }
         )
         self._start(["openbox", "--sm-disable"])
@@ -78,6 +81,20 @@ class Screen:
 
     def exit_status(self, seconds=10):
         return self.run.wait(seconds)
+
+    def choose(self, topic):
+        """Chooses it in the index of the chooser, which is about to open."""
+        self.wait_for_window(CHOOSER)
+        self.key("ctrl+Tab")
+        self.type(topic)
+        self.key("Return")
+        self.wait_for_window(FRAME)
+        until(lambda: find(topic), "the sheet")
+
+    def leave(self):
+        """Closes the frame, which has the focus."""
+        self.key("ctrl+q")
+        assert self.exit_status() == 0
 
     def wait_for_window(self, title, seconds=15):
         """Waits until a window of that title has the focus."""
@@ -139,15 +156,26 @@ class Screen:
         subprocess.run(["scrot", "-o", str(self.pictures / f"{name}.png")], check=True)
 
 
+def run(journey, told):
+    """Takes the journey through the program that the command line names, and says so."""
+    program, pictures, *scale = sys.argv[1:]
+    folder = pathlib.Path(pictures) / "-".join([pathlib.Path(sys.argv[0]).stem, *scale])
+    with Screen(program, folder, scale=int(scale[0]) if scale else 1) as desk:
+        journey(desk)
+        desk.leave()
+    print(told)
+
+
 def until(condition, what, seconds=10):
-    """The condition's first true value; fails when there is none in time."""
+    """The condition's first true value; fails when there is none in time. What was waited for is a
+    text, or a procedure that makes one of what is there instead."""
     end = time.monotonic() + seconds
     while time.monotonic() < end:
         value = condition()
         if value:
             return value
         time.sleep(0.05)
-    raise AssertionError(f"waited {seconds} s for {what}")
+    raise AssertionError(f"waited {seconds} s for {what() if callable(what) else what}")
 
 
 def resting_middle(found):
@@ -212,3 +240,8 @@ def showing_without_name():
         ):
             nameless.append(f"{each.get_role_name()} {each.get_description()}".strip())
     return nameless
+
+
+def expect_all_named(where):
+    nameless = showing_without_name()
+    assert not nameless, f"{where}, without a name: {nameless}"

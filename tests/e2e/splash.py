@@ -2,12 +2,9 @@
 """A learner who does not want to wait for the splash to go presses a key."""
 
 import subprocess
-import sys
 
 import screen
 
-CHOOSER = "Choose problem type:"
-FRAME = "Vantrel - Numerello"
 SPLASH = (480, 300)
 
 
@@ -22,26 +19,21 @@ def is_splash(desk, window):
 
 
 def splash_is_shown(desk):
-    windows = asked("search", "--onlyvisible", "--name", FRAME).split()
+    windows = asked("search", "--onlyvisible", "--name", screen.FRAME).split()
     return any(is_splash(desk, window) for window in windows)
 
 
-def main():
-    program, pictures, *scale = sys.argv[1:]
-    with screen.Screen(program, pictures, scale=int(scale[0]) if scale else 1) as desk:
-        desk.open_program()
-        # It stays for a second unless a key reaches it, which takes the focus.
-        screen.until(lambda: is_splash(desk, "%1"), "the splash to have the focus")
-        desk.picture("splash")
-        desk.key("x")
-        screen.until(lambda: not splash_is_shown(desk), "the splash to go", 0.4)
-        desk.wait_for_window(CHOOSER)
-        desk.key("Escape")
-        desk.wait_for_window(FRAME)
-        desk.key("ctrl+q")
-        assert desk.exit_status() == 0
-    print("splash: has the focus and goes at a key")
+def journey(desk):
+    desk.open_program()
+    # It stays for a second unless a key reaches it, which takes the focus.
+    screen.until(lambda: is_splash(desk, "%1"), "the splash to have the focus")
+    desk.picture("splash")
+    desk.key("x")
+    screen.until(lambda: not splash_is_shown(desk), "the splash to go", 0.4)
+    desk.wait_for_window(screen.CHOOSER)
+    desk.key("Escape")
+    desk.wait_for_window(screen.FRAME)
 
 
 if __name__ == "__main__":
-    main()
+    screen.run(journey, "splash: has the focus and goes at a key")

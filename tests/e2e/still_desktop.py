@@ -1,14 +1,12 @@
 #!/usr/bin/env python3
 """On a desktop that asks for no animations nothing flashes; once it allows them, it does."""
 
-import sys
 import time
 
 import screen
 from settings_service import SettingsService
 
 TOPIC = "Factoring"
-FRAME = "Vantrel - Numerello"
 
 
 def seen_over(seconds, name):
@@ -21,18 +19,10 @@ def seen_over(seconds, name):
     return glances
 
 
-def main():
-    program, pictures, *scale = sys.argv[1:]
-    with (
-        SettingsService() as settings,
-        screen.Screen(program, pictures, scale=int(scale[0]) if scale else 1) as desk,
-    ):
+def journey(desk):
+    with SettingsService() as settings:
         desk.open_program("--no-splash")
-        desk.wait_for_window("Choose problem type:")
-        desk.key("ctrl+Tab")
-        desk.type(TOPIC)
-        desk.key("Return")
-        desk.wait_for_window(FRAME)
+        desk.choose(TOPIC)
         screen.until(lambda: screen.find("Click me!"), "the notice")
         assert all(seen_over(2, "Click me!")), "the notice stands still"
 
@@ -42,10 +32,7 @@ def main():
         screen.until(lambda: screen.find("Next Step"), "the arrow")
         glances = seen_over(3, "Click me!")
         assert any(glances) and not all(glances), f"the notice flashes: {glances}"
-        desk.key("ctrl+q")
-        assert desk.exit_status() == 0
-    print("still desktop: nothing moved unasked")
 
 
 if __name__ == "__main__":
-    main()
+    screen.run(journey, "still desktop: nothing moved unasked")

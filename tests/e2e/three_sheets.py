@@ -1,13 +1,11 @@
 #!/usr/bin/env python3
 """A learner plays a long solution over three sheets, lays them about and asks the Wiz."""
 
-import sys
 import time
 
 import screen
 
 TOPIC = "Factoring"
-FRAME = "Vantrel - Numerello"
 NUMBER = 5040
 PAIRS = [(n, NUMBER // n) for n in range(1, 71) if NUMBER % n == 0]
 FACTORS = sorted({n for pair in PAIRS for n in pair})
@@ -46,7 +44,7 @@ def play(desk):
     for count in range(2, len(LINES) + 1):
         screen.until(
             lambda: all_lines() == LINES[:count],
-            f"the first {count} lines; the sheets hold {all_lines()}",
+            lambda: f"the first {count} lines; the sheets hold {all_lines()}",
         )
         if count < len(LINES):
             desk.key("Return")
@@ -57,7 +55,7 @@ def play(desk):
 
 def ask_the_wiz(desk):
     desk.click_on("Wiz Assistant")
-    screen.until(lambda: told() == WHY, f"an explanation; told is {told()!r}")
+    screen.until(lambda: told() == WHY, lambda: f"an explanation; told is {told()!r}")
     desk.picture("wiz-tells")
     desk.key("Escape")
     screen.until(lambda: told() is None, "the explanation to close")
@@ -81,41 +79,31 @@ def move_sheets(desk):
     desk.key("Next")
 
 
-def main():
-    program, pictures, *scale = sys.argv[1:]
-    with screen.Screen(program, pictures, scale=int(scale[0]) if scale else 1) as desk:
-        desk.open_program("--no-splash")
-        desk.wait_for_window("Choose problem type:")
-        desk.key("ctrl+Tab")
-        desk.type(TOPIC)
-        desk.key("Return")
-        desk.wait_for_window(FRAME)
-        screen.until(lambda: screen.find("Wiz Assistant"), "the Wiz to grow in")
-        screen.until(lambda: screen.find("Click me!"), "its notice")
-        desk.picture("notice")
+def journey(desk):
+    desk.open_program("--no-splash")
+    desk.choose(TOPIC)
+    screen.until(lambda: screen.find("Wiz Assistant"), "the Wiz to grow in")
+    screen.until(lambda: screen.find("Click me!"), "its notice")
+    desk.picture("notice")
 
-        play(desk)
-        ask_the_wiz(desk)
-        move_sheets(desk)
-        nameless = screen.showing_without_name()
-        assert not nameless, f"without a name: {nameless}"
+    play(desk)
+    ask_the_wiz(desk)
+    move_sheets(desk)
+    screen.expect_all_named("over three sheets")
 
-        desk.click_on("Wiz Assistant", button=3)
-        desk.settle()
-        desk.picture("wiz-menu")
-        desk.key("h")
-        screen.until(lambda: not screen.find("Wiz Assistant"), "the Wiz to go")
+    desk.click_on("Wiz Assistant", button=3)
+    desk.settle()
+    desk.picture("wiz-menu")
+    desk.key("h")
+    screen.until(lambda: not screen.find("Wiz Assistant"), "the Wiz to go")
 
-        desk.click_on("Erase")
-        desk.wait_for_window("Clear Problem")
-        desk.key("Return")
-        desk.wait_for_window(FRAME)
-        screen.until(lambda: not all_lines(), "empty sheets")
-        assert not any(screen.find(title) for title in TITLES[1:])
-        desk.key("ctrl+q")
-        assert desk.exit_status() == 0
-    print("three sheets: played, moved and erased")
+    desk.click_on("Erase")
+    desk.wait_for_window("Clear Problem")
+    desk.key("Return")
+    desk.wait_for_window(screen.FRAME)
+    screen.until(lambda: not all_lines(), "empty sheets")
+    assert not any(screen.find(title) for title in TITLES[1:])
 
 
 if __name__ == "__main__":
-    main()
+    screen.run(journey, "three sheets: played, moved and erased")

@@ -54,7 +54,7 @@ TEST_F(RecorderTest, ALineThatDiffersInItsEmphasisIsANewOne) {
     EXPECT_EQ(Last(), "x-4+4");
 }
 
-TEST_F(RecorderTest, ButNotWhileAPolynomialIsEvaluated) {
+TEST_F(RecorderTest, AnEvaluatedLineThatDiffersInItsEmphasisIsTheSame) {
     problem.topic.ProblemType = 103;
     Record("4[(1)]", "");
     Record("4(1)", "next");

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "core/learner.h"
+#include "tests/learners.h"
 #include "typeset/surface.h"
 
 namespace numerello {
@@ -22,18 +22,6 @@ constexpr double kPreviewLine = 43.0 / 30 * 8;
 constexpr double kHeadingEnd = 7 * kLine;
 constexpr double kPitch = kLine + 12;
 constexpr double kFirstBase = kHeadingEnd + 12;
-
-class NotingLearner : public Learner {
-  public:
-    std::vector<std::string> messages;
-
-    void MessageBox(std::string_view title, std::string_view text) override {
-        EXPECT_EQ(title, "");
-        messages.emplace_back(text);
-    }
-    bool Confirm(std::string_view, std::string_view) override { return false; }
-    std::optional<std::string> InputBox(std::string_view, std::string_view) override { return {}; }
-};
 
 /// A row of a page: what was printed from one Y in one font, in drawing order.
 struct Row {

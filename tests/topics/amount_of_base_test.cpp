@@ -123,7 +123,7 @@ TEST(AmountOfBase, FailsBelowTheLastEquation) {
     EXPECT_EQ(LogUpTo(FailureKind::Overflow, Boxed(kAmountOfBase, {"1E307", "5"})).size(), 5U);
 }
 
-TEST(AmountOfBase, RandomProblems) {
+TEST(AmountOfBase, TheMissingPartOfRandomProblemsIsExact) {
     const BoxedTopic topic(kAmountOfBase);
     Draws draws(kAmountOfBase);
     for (int i = 0; i < kRandomProblems; ++i) {

@@ -5,7 +5,7 @@ namespace {
 
 constexpr int kAngles = 104;
 
-TEST(ClassifyAngle, EachKind) {
+TEST(ClassifyAngle, NamesEachKindWithItsBounds) {
     const Log kinds[] = {
         {{"180", ""}, {"180^o^ (degrees) forms a STRAIGHT angle.", "A straight angle = 180^o^"}},
         {{"90", ""}, {"90^o^ (degrees) forms a RIGHT angle.", "A right angle = 90^o^"}},
@@ -52,7 +52,7 @@ TEST(ClassifyAngle, TextThatIsNoNumberFailsBehindTheProblemLine) {
     }
 }
 
-TEST(ClassifyAngle, RandomDegrees) {
+TEST(ClassifyAngle, RandomDegreesAreOfTheKindOfTheirRange) {
     const TypedTopic topic(kAngles);
     Draws draws(kAngles);
     for (int i = 0; i < kRandomProblems; ++i) {

@@ -32,7 +32,7 @@ Problem Trapezoid(const std::string& h, const std::string& a, const std::string&
     return Boxed(kTrapezoid, {a, h, b}, RoundDigits);
 }
 
-TEST(AreaOf, RectangleAndParallelogram) {
+TEST(AreaOf, RectangleAndParallelogramFollowTheirFormula) {
     const Log expected{
         {"base = 3, height = 4.5", ""},
         {"Area = base * height",
@@ -59,7 +59,7 @@ TEST(AreaOf, RectangleAndParallelogramTakeAnyMeasure) {
     }
 }
 
-TEST(AreaOf, Circle) {
+TEST(AreaOf, ACircleFollowsItsFormula) {
     // 3.1415926 * 9 = 28.2743334
     const Log expected{
         {"radius = 3", ""},
@@ -90,7 +90,7 @@ TEST(AreaOf, PiOfTheFormulaFollowsTheSettingThatOfTheArithmeticStays) {
     }
 }
 
-TEST(AreaOf, Triangle) {
+TEST(AreaOf, ATriangleFollowsItsFormula) {
     const Log expected{{"base = 3, height = 4.5", ""},
                        {"Area = #1/2# * base * height",
                         "This is the formula for calculating the area of a triangle."},
@@ -100,7 +100,7 @@ TEST(AreaOf, Triangle) {
     EXPECT_EQ(LogOf(Solved(BaseAndHeight(kTriangle, "3", "4.5"))), expected);
 }
 
-TEST(AreaOf, Trapezoid) {
+TEST(AreaOf, ATrapezoidFollowsItsFormula) {
     const Log expected{{"height = 3, a = 4.5, b = 5", ""},
                        {"Area = #1/2# * height * (a + b)",
                         "This is the formula for calculating the area of a trapezoid."},
@@ -180,7 +180,7 @@ TEST(AreaOf, AnotherCodeHasNoArea) {
     EXPECT_THROW(AreaOf(problem, problem.boxes, 11), Failure);
 }
 
-TEST(AreaOf, RandomBasesAndHeights) {
+TEST(AreaOf, RandomBasesAndHeightsAreMultiplied) {
     const std::pair<int, Rational> topics[] = {
         {kRectangle, 1}, {kParallelogram, 1}, {kTriangle, Rational(1, 2)}};
     for (const auto& [code, factor] : topics) {
@@ -203,7 +203,7 @@ TEST(AreaOf, RandomBasesAndHeights) {
     }
 }
 
-TEST(AreaOf, RandomCircles) {
+TEST(AreaOf, RandomCirclesHavePiTimesTheSquareOfTheirRadius) {
     const BoxedTopic topic(kCircle);
     Draws draws(kCircle);
     for (int i = 0; i < kRandomProblems; ++i) {
@@ -220,7 +220,7 @@ TEST(AreaOf, RandomCircles) {
     }
 }
 
-TEST(AreaOf, RandomTrapezoids) {
+TEST(AreaOf, RandomTrapezoidsHaveTheirHeightTimesTheirMeanSide) {
     const BoxedTopic topic(kTrapezoid);
     Draws draws(kTrapezoid);
     for (int i = 0; i < kRandomProblems; ++i) {

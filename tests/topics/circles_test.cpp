@@ -152,7 +152,7 @@ struct Measured {
     Rational factor;
 };
 
-TEST(Circles, RandomMeasures) {
+TEST(Circles, RandomMeasuresAreMultipliedByTheirFactor) {
     const Rational pi = Rational::Of("3.1415926");
     const Measured topics[] = {{kCircumferenceByRadius, "Circumference = ", pi * 2},
                                {kCircumferenceByDiameter, "Circumference = ", pi},

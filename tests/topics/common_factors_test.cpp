@@ -223,7 +223,7 @@ bool AllBeyondSixteenBits(const std::vector<std::string>& entries) {
                        [](const std::string& entry) { return std::stoi(entry) > 32767; });
 }
 
-TEST(FindGCF, RandomLists) {
+TEST(FindGCF, DividesEveryEntryOfRandomListsAndIsTheLargestToDoSo) {
     const TypedTopic topic(kGreatestCommonFactors);
     Draws draws(87);
     int overflows = 0;
@@ -268,7 +268,7 @@ double LCMByPrimes(const std::vector<std::string>& entries) {
     return multiple;
 }
 
-TEST(FindLCM, RandomLists) {
+TEST(FindLCM, IsDivisibleByEveryEntryOfRandomListsAndTheLeastOfAll) {
     const TypedTopic topic(kLeastCommonMultiples);
     Draws draws(88);
     int overflows = 0;

@@ -68,7 +68,7 @@ TEST(CompareNumbers, AMissingNumberFailsBeforeTheFirstLine) {
     }
 }
 
-TEST(CompareNumbers, RandomPairs) {
+TEST(CompareNumbers, RandomPairsStandInTheOrderOfTheirValues) {
     const TypedTopic topic(kComparing);
     Draws draws(90);
     for (int i = 0; i < kRandomProblems; ++i) {

@@ -144,7 +144,7 @@ TEST(FractionToPercent, FailsWhereTheNumberIsNeeded) {
                     "the number below."}});
 }
 
-TEST(FractionToDecimal, RandomQuotients) {
+TEST(FractionToDecimal, RandomQuotientsHaveFifteenRightDigits) {
     const TypedTopic topic(kFractionToDecimal);
     Draws draws(kFractionToDecimal);
     for (int i = 0; i < kRandomProblems; ++i) {
@@ -162,7 +162,7 @@ TEST(FractionToDecimal, RandomQuotients) {
     }
 }
 
-TEST(FractionToPercent, RandomQuotients) {
+TEST(FractionToPercent, RandomQuotientsAreRoundedBeforeTheyAreTimesAHundred) {
     TypedTopic topic(kFractionToPercent);
     Draws draws(kFractionToPercent);
     for (int i = 0; i < kRandomProblems; ++i) {

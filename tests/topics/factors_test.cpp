@@ -123,7 +123,7 @@ TEST(ListFactors, EveryNumberUpToTwoThousand) {
     }
 }
 
-TEST(ListFactors, RandomNumbers) {
+TEST(ListFactors, RandomNumbersHaveTheFactorsFoundByTrial) {
     const TypedTopic topic(kFactoring);
     Draws draws(86);
     for (int i = 0; i < kRandomProblems; ++i) {

@@ -181,7 +181,7 @@ void ExpectRandomProducts(int code, const std::vector<std::string>& words) {
     }
 }
 
-TEST(Formulas, RandomProblems) {
+TEST(Formulas, TheMissingPartOfRandomProblemsIsExact) {
     ExpectRandomProducts(kWork, {"work", "rate", "time"});
     ExpectRandomProducts(kDistance, {"distance", "speed", "time"});
 }

@@ -78,7 +78,7 @@ TEST(SimplifyFraction, ComparesTextsToTellWhetherAnythingChanged) {
     EXPECT_EQ(LogOf(Solved(kSimplifying, "5/07")).back().first, "#5/7#");
 }
 
-TEST(SimplifyFraction, Results) {
+TEST(SimplifyFraction, EndsWithTermsThatHaveNoCommonFactor) {
     const std::pair<std::string, std::string> cases[] = {{"5/5", "1"},
                                                          {"1/1", "1"},
                                                          {"0/1", "0"},

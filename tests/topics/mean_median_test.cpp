@@ -177,7 +177,7 @@ std::vector<std::int64_t> NearestTo(std::int64_t dividend, std::int64_t divisor)
     return {twiceRest < divisor ? below : below + 1};
 }
 
-TEST(FindMean, RandomLists) {
+TEST(FindMean, IsTheSumOfRandomListsOverTheirCount) {
     TypedTopic topic(kMeans);
     Draws draws(62);
     for (int i = 0; i < kRandomProblems; ++i) {
@@ -206,7 +206,7 @@ TEST(FindMean, RandomLists) {
     }
 }
 
-TEST(FindMedian, RandomLists) {
+TEST(FindMedian, IsTheMiddleOfRandomListsInOrder) {
     const TypedTopic topic(kMedians);
     Draws draws(61);
     for (int i = 0; i < kRandomProblems; ++i) {

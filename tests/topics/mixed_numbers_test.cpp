@@ -133,7 +133,7 @@ TEST(MixedToFraction, SimplifiesTheResult) {
     EXPECT_EQ(log[10], (std::pair<std::string, std::string>("#5/2#", "#10/4# simplified: #5/2#")));
 }
 
-TEST(MixedToFraction, Results) {
+TEST(MixedToFraction, EndsInLowestTerms) {
     const std::pair<std::string, std::string> cases[] = {{"1+2/2", "2"},
                                                          {"0+0/5", "0"},
                                                          {"3+0/4", "3"},

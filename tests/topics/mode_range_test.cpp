@@ -64,7 +64,7 @@ TEST(FindRange, AnEntryThatIsNoNumberKeepsTheProblemLine) {
     }
 }
 
-TEST(FindRange, RandomLists) {
+TEST(FindRange, IsTheLargestOfRandomListsLessTheSmallest) {
     const TypedTopic topic(kRanges);
     Draws draws(59);
     for (int i = 0; i < kRandomProblems; ++i) {
@@ -118,7 +118,7 @@ Log Modes(const std::vector<std::string>& modes, const std::string& count) {
         {Joined(modes, ", "), "Modes of the given group of numbers."}};
 }
 
-TEST(FindMode, One) {
+TEST(FindMode, IsTheNumberThatOccursMostOften) {
     const Log expected{{"4,9,4", ""},
                        {"The mode is the number (or numbers) that occurs most often in a group.",
                         "Count the occurrence of each number in the group:"},
@@ -127,7 +127,7 @@ TEST(FindMode, One) {
     EXPECT_EQ(LogOf(Solved(kModes, "4,9,4")), expected);
 }
 
-TEST(FindMode, Several) {
+TEST(FindMode, AreAllNumbersThatOccurMostOftenInTheirOrder) {
     const Log expected{
         {"1,1,2,2", ""},
         {"The mode is the number (or numbers) that occurs most often in a group.",
@@ -140,7 +140,7 @@ TEST(FindMode, Several) {
               LogOfMode("3,2,1,1,2,3", Modes({"3", "2", "1"}, "2")));
 }
 
-TEST(FindMode, None) {
+TEST(FindMode, IsNoneWhereEachNumberOccursOnce) {
     const Log expected{
         {"1,2,3", ""},
         {"The mode is the number (or numbers) that occurs most often in a group.",
@@ -176,7 +176,7 @@ TEST(FindMode, TakesAnyEntryAndNeverFails) {
     EXPECT_EQ(LogOf(Solved(kModes, "-,3,-")), LogOfMode("-,3,-", OneMode("-", "2")));
 }
 
-TEST(FindMode, RandomLists) {
+TEST(FindMode, AreTheMostFrequentEntriesOfRandomLists) {
     const TypedTopic topic(kModes);
     Draws draws(60);
     int endings[3] = {};

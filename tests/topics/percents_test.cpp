@@ -123,7 +123,7 @@ TEST(PercentToFraction, GoesThroughTheDecimal) {
     EXPECT_EQ(LogOf(Solved(kPercentToFraction, "75%")), expected);
 }
 
-TEST(PercentToFraction, Results) {
+TEST(PercentToFraction, EndsInLowestTerms) {
     struct Case {
         std::string percent;
         std::string note;
@@ -163,7 +163,7 @@ TEST(PercentToFraction, ASignElsewhereLeavesNoNumber) {
     }
 }
 
-TEST(DecimalToPercent, RandomDecimals) {
+TEST(DecimalToPercent, RandomDecimalsAreTimesAHundred) {
     const TypedTopic topic(kDecimalToPercent);
     Draws draws(kDecimalToPercent);
     for (int i = 0; i < kRandomProblems; ++i) {
@@ -172,7 +172,7 @@ TEST(DecimalToPercent, RandomDecimals) {
     }
 }
 
-TEST(PercentToDecimal, RandomPercents) {
+TEST(PercentToDecimal, RandomPercentsAreAHundredthOfTheirNumber) {
     const TypedTopic topic(kPercentToDecimal);
     Draws draws(kPercentToDecimal);
     for (int i = 0; i < kRandomProblems; ++i) {

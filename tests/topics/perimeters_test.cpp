@@ -128,7 +128,7 @@ TEST(PerimeterOfRectangle, TextThatIsNoNumberFailsBelowTheFormula) {
     ExpectFailure(Rectangle("1E308", "1"), FailureKind::Overflow, FormulaOfRectangle("1E308", "1"));
 }
 
-TEST(PerimeterOfTriangle, RandomSides) {
+TEST(PerimeterOfTriangle, RandomSidesAreAdded) {
     const BoxedTopic topic(kTriangle);
     Draws draws(kTriangle);
     for (int i = 0; i < kRandomProblems; ++i) {
@@ -147,7 +147,7 @@ TEST(PerimeterOfTriangle, RandomSides) {
     }
 }
 
-TEST(PerimeterOfRectangle, RandomSides) {
+TEST(PerimeterOfRectangle, RandomSidesAreAddedTwice) {
     const BoxedTopic topic(kRectangle);
     Draws draws(kRectangle);
     for (int i = 0; i < kRandomProblems; ++i) {

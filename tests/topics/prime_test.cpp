@@ -110,14 +110,14 @@ std::string Verdict(int value) {
                : v + " is COMPOSITE because " + v + " has more than two different factors.";
 }
 
-TEST(PrimeOrComposite, EveryNumberUpToTwoThousand) {
+TEST(PrimeOrComposite, JudgesEveryNumberUpToTwoThousandAsTrialDoes) {
     for (int value = 1; value <= 2000; ++value) {
         EXPECT_EQ(LogOf(Solved(kPrimeOrComposite, std::to_string(value))).back().first,
                   Verdict(value));
     }
 }
 
-TEST(PrimeOrComposite, RandomNumbers) {
+TEST(PrimeOrComposite, JudgesRandomNumbersAsTrialDoes) {
     const TypedTopic topic(kPrimeOrComposite);
     Draws draws(85);
     for (int i = 0; i < kRandomProblems; ++i) {
@@ -214,14 +214,14 @@ Log FactorizationBySieve(const std::string& v, int value) {
     return lines.empty() ? AlreadyPrime(v) : Factorization(v, lines);
 }
 
-TEST(PrimeFactorization, EveryNumberUpToTwoThousand) {
+TEST(PrimeFactorization, FindsThePrimesOfEveryNumberUpToTwoThousand) {
     for (int value = 0; value <= 2000; ++value) {
         const std::string v = std::to_string(value);
         EXPECT_EQ(LogOfFactorization(v), FactorizationBySieve(v, value));
     }
 }
 
-TEST(PrimeFactorization, RandomNumbers) {
+TEST(PrimeFactorization, FindsThePrimesOfRandomNumbers) {
     const TypedTopic topic(kPrimeFactorization);
     Draws draws(84);
     for (int i = 0; i < kRandomProblems; ++i) {

@@ -181,7 +181,7 @@ void ExpectRoot(const std::string& shown, const Rational& square, int places) {
     EXPECT_TRUE(root <= half || (root - half) * (root - half) <= square) << shown;
 }
 
-TEST(PythagoreanTheorem, RandomSides) {
+TEST(PythagoreanTheorem, TheThirdOfRandomSidesIsTheRoundedRoot) {
     const BoxedTopic topic(kPythagoras);
     Draws draws(kPythagoras);
     for (int i = 0; i < kRandomProblems; ++i) {

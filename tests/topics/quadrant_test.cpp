@@ -99,7 +99,7 @@ TEST(PointQuadrant, ACoordinateThatIsNoNumberKeepsTwoLines) {
     }
 }
 
-TEST(PointQuadrant, RandomPoints) {
+TEST(PointQuadrant, RandomPointsLieWhereTheirSignsSay) {
     const TypedTopic topic(kPointsQuadrant);
     Draws draws(107);
     const auto coordinate = [&draws] {
@@ -172,7 +172,7 @@ TEST(GraphRequests, AMissingCoordinateFailsBeforeTheFirstLine) {
     }
 }
 
-TEST(GraphRequests, RandomLines) {
+TEST(GraphRequests, RandomLinesKeepBothOfTheirPoints) {
     const TypedTopic topic(kLineThroughTwoPoints);
     Draws draws(106);
     for (int i = 0; i < kRandomProblems; ++i) {

@@ -30,7 +30,7 @@ TEST(MultiplyScientific, MultipliesBasesAndAddsExponents) {
     EXPECT_EQ(BoxedLog(kMultiplying, {"2.5", "3", "3", "-5"}), expected);
 }
 
-TEST(MultiplyScientific, Results) {
+TEST(MultiplyScientific, LeavesTheResultWithoutShiftingItsPoint) {
     const std::pair<std::vector<std::string>, std::string> cases[] = {
         {{"5", "2", "2", "-4"}, "10 * 10^-2^"},
         {{"4.12", "3", "2.50", "4"}, "10.3 * 10^7^"},
@@ -92,7 +92,7 @@ TEST(DivideScientific, DividesBasesAndSubtractsExponents) {
     EXPECT_EQ(BoxedLog(kDividing, {"7.5", "5", "2.5", "-2"}), expected);
 }
 
-TEST(DivideScientific, Results) {
+TEST(DivideScientific, LeavesTheResultWithoutShiftingItsPoint) {
     struct Case {
         std::vector<std::string> boxes;
         std::string quotient;
@@ -160,7 +160,7 @@ std::vector<std::string> DrawTwoNumbers(Draws& draws, int longest) {
             DrawBox(draws, longest, BoxMarks::Minus), DrawBox(draws, 4, BoxMarks::Minus)};
 }
 
-TEST(MultiplyScientific, RandomNumbers) {
+TEST(MultiplyScientific, RandomBasesAreMultipliedToFifteenDigits) {
     const BoxedTopic topic(kMultiplying);
     Draws draws(kMultiplying);
     for (int i = 0; i < kRandomProblems; ++i) {
@@ -172,7 +172,7 @@ TEST(MultiplyScientific, RandomNumbers) {
     }
 }
 
-TEST(DivideScientific, RandomNumbers) {
+TEST(DivideScientific, RandomBasesAreDividedToFifteenDigits) {
     const BoxedTopic topic(kDividing);
     Draws draws(kDividing);
     for (int i = 0; i < kRandomProblems; ++i) {

@@ -47,7 +47,7 @@ struct Converted {
     std::string value;
 };
 
-TEST(ScientificToRegular, Results) {
+TEST(ScientificToRegular, MovesThePointByTheExponent) {
     const Converted cases[] = {{"4.12", "0", "right 0", "4.12"},
                                {"4.12", "-0", "right 0", "4.12"},
                                {"04.10", "007", "right 7", "41000000"},
@@ -138,7 +138,7 @@ struct Shifted {
     std::string result;
 };
 
-TEST(RegularToScientific, Results) {
+TEST(RegularToScientific, PutsThePointBehindTheFirstDigit) {
     const Shifted cases[] = {
         {"0", "left 0", "0", "0 * 10^0^"},
         {"0.00", "left 0", "0", "0 * 10^0^"},
@@ -218,7 +218,7 @@ bool IsZero(std::string_view text) {
     return text.find_first_of("123456789") == std::string_view::npos;
 }
 
-TEST(ScientificToRegular, RandomNumbers) {
+TEST(ScientificToRegular, RandomNumbersKeepTheirDigits) {
     const BoxedTopic topic(kToRegular);
     Draws draws(kToRegular);
     for (int i = 0; i < kRandomProblems; ++i) {
@@ -243,7 +243,7 @@ TEST(ScientificToRegular, RandomNumbers) {
     }
 }
 
-TEST(RegularToScientific, RandomNumbers) {
+TEST(RegularToScientific, RandomNumbersKeepTheirDigits) {
     const TypedTopic topic(kToScientific);
     Draws draws(kToScientific);
     for (int i = 0; i < kRandomProblems; ++i) {

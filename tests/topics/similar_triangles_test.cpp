@@ -249,7 +249,7 @@ void ExpectWorkedSides(const BoxedTopic& topic, const TwoTriangles& triangles, i
     }
 }
 
-TEST(SimilarTriangles, RandomTriangles) {
+TEST(SimilarTriangles, RandomTrianglesHaveTheirSidesInOneRatio) {
     const BoxedTopic topic(kSimilarTriangles);
     Draws draws(kSimilarTriangles);
     for (int i = 0; i < kRandomProblems; ++i) {

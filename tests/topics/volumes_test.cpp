@@ -30,7 +30,7 @@ Problem RadiusAndHeight(int code, const std::string& r, const std::string& h, in
     return Boxed(code, {h, r}, RoundDigits);
 }
 
-TEST(VolumeOf, Box) {
+TEST(VolumeOf, ABoxFollowsItsFormula) {
     const Log expected{
         {"length = 3, width = 4.5, height = 5", ""},
         {"Volume = length * width * height",
@@ -41,7 +41,7 @@ TEST(VolumeOf, Box) {
     EXPECT_EQ(LogOf(Solved(Edged(kBox, "3", "4.5", "5"))), expected);
 }
 
-TEST(VolumeOf, Pyramid) {
+TEST(VolumeOf, APyramidFollowsItsFormula) {
     const Log expected{
         {"length = 3, width = 4.5, height = 5", ""},
         {"Volume = #1/3# * (length * width * height)",
@@ -52,7 +52,7 @@ TEST(VolumeOf, Pyramid) {
     EXPECT_EQ(LogOf(Solved(Edged(kPyramid, "3", "4.5", "5"))), expected);
 }
 
-TEST(VolumeOf, Cylinder) {
+TEST(VolumeOf, ACylinderFollowsItsFormula) {
     // 3.1415926 * 9 * 5 = 141.371667
     const Log expected{
         {"radius = 3, height = 5", ""},
@@ -65,7 +65,7 @@ TEST(VolumeOf, Cylinder) {
     EXPECT_EQ(LogOf(Solved(RadiusAndHeight(kCylinder, "3", "5"))), expected);
 }
 
-TEST(VolumeOf, Cone) {
+TEST(VolumeOf, AConeFollowsItsFormula) {
     // 3.1415926 * 9 * 5 / 3 = 47.123889
     const Log expected{
         {"radius = 3, height = 5", ""},
@@ -79,7 +79,7 @@ TEST(VolumeOf, Cone) {
     EXPECT_EQ(LogOf(Solved(RadiusAndHeight(kCone, "3", "5"))), expected);
 }
 
-TEST(VolumeOf, Sphere) {
+TEST(VolumeOf, ASphereFollowsItsFormula) {
     // 4 * 3.1415926 * 27 / 3 = 113.0973336
     const Log expected{{"radius = 3", ""},
                        {"Volume = #4/3# * ` * radius^3^   (` equals about 3.14 or about #22/7#)",
@@ -203,7 +203,7 @@ TEST(VolumeOf, AnotherCodeHasNoVolume) {
     EXPECT_THROW(VolumeOf(problem, problem.boxes, 6), Failure);
 }
 
-TEST(VolumeOf, RandomEdges) {
+TEST(VolumeOf, RandomEdgesAreMultiplied) {
     const std::pair<int, Rational> topics[] = {{kBox, 1}, {kPyramid, Rational(1, 3)}};
     for (const auto& [code, factor] : topics) {
         const BoxedTopic topic(code);
@@ -225,7 +225,7 @@ TEST(VolumeOf, RandomEdges) {
     }
 }
 
-TEST(VolumeOf, RandomRadiiAndHeights) {
+TEST(VolumeOf, RandomCylindersAndConesHaveTheSquareOfTheirRadiusTimesTheirHeight) {
     const Rational pi = Rational::Of("3.1415926");
     const std::pair<int, Rational> topics[] = {{kCylinder, pi}, {kCone, pi / 3}};
     for (const auto& [code, factor] : topics) {
@@ -248,7 +248,7 @@ TEST(VolumeOf, RandomRadiiAndHeights) {
     }
 }
 
-TEST(VolumeOf, RandomSpheres) {
+TEST(VolumeOf, RandomSpheresHaveTheCubeOfTheirRadius) {
     const BoxedTopic topic(kSphere);
     Draws draws(kSphere);
     for (int i = 0; i < kRandomProblems; ++i) {

@@ -3,25 +3,13 @@
 #include <gtest/gtest.h>
 
 #include "core/failure.h"
+#include "tests/learners.h"
 #include "tests/typeset/samples.h"
 #include "typeset/lines.h"
 #include "typeset/variants.h"
 
 namespace numerello {
 namespace {
-
-class MessageCounter : public Learner {
-  public:
-    void MessageBox(std::string_view /*title*/, std::string_view text) override {
-        ++count;
-        lastText = text;
-    }
-    bool Confirm(std::string_view /*title*/, std::string_view /*text*/) override { return false; }
-    std::optional<std::string> InputBox(std::string_view, std::string_view) override { return {}; }
-
-    int count = 0;
-    std::string lastText;
-};
 
 class EntriesTest : public ::testing::Test, public PaperSheets {
   protected:
@@ -42,7 +30,7 @@ class EntriesTest : public ::testing::Test, public PaperSheets {
     std::deque<Surface> pages{Surface(metrics, {std::string(kSheetFace), 12})};
     std::size_t pageLimit = 10;
     Playback playback;
-    MessageCounter learner;
+    NotingLearner learner;
     std::vector<std::pair<double, double>> blinkers;
 };
 
@@ -76,7 +64,7 @@ TEST_F(EntriesTest, TheBlinkerComesAfterTheLineEnd) {
     EXPECT_NEAR(blinkers[0].first, 67 + 2 * kCharacter - 4, 1e-9);
     EXPECT_NEAR(blinkers[0].second, kBase, 1e-9);
     FPrintLine("a^2", true, *this, playback, learner);
-    EXPECT_EQ(learner.count, 1);
+    EXPECT_EQ(learner.messages.size(), 1U);
     EXPECT_EQ(blinkers.size(), 2U);
 }
 
@@ -86,8 +74,8 @@ TEST_F(EntriesTest, WithoutAFurtherSheetTheLineIsGivenUp) {
     playback.LineEndY = 2;
     Current().CurrentY = 600;
     FPrintLine("ab", true, *this, playback, learner);
-    EXPECT_EQ(learner.count, 1);
-    EXPECT_EQ(learner.lastText, "An error occurred while displaying information.");
+    EXPECT_EQ(learner.messages.size(), 1U);
+    EXPECT_EQ(learner.messages.back(), "An error occurred while displaying information.");
     EXPECT_TRUE(Current().Marks().empty());
     EXPECT_EQ(Current().CurrentY, 600);
     EXPECT_EQ(playback.LineEndX, 1);
@@ -136,7 +124,7 @@ TEST_F(EntriesTest, ConstructsHaveNoGuard) {
     EXPECT_THROW(PrintFraction("1/^2", Current(), false), Failure);
     EXPECT_THROW(PreviewRoot("#", *this, false), Failure);
     EXPECT_THROW(PreviewFraction(fiftyOne + "/", *this, false), Failure);
-    EXPECT_EQ(learner.count, 0);
+    EXPECT_EQ(learner.messages.size(), 0U);
 }
 
 TEST_F(EntriesTest, EachFamilyHasItsOwnMeasures) {
@@ -204,7 +192,7 @@ TEST_F(EntriesTest, APrintSurfaceTurnsItsOwnPages) {
     EXPECT_EQ(target.PageMarks(2).size(), 2U);
 }
 
-TEST(TypesetTargetTest, Names) {
+TEST(TypesetTargetTest, IsFoundByItsNameInSmallLettersAlone) {
     EXPECT_EQ(FindTypesetTarget("paper"), TypesetTarget::Paper);
     EXPECT_EQ(FindTypesetTarget("explain"), TypesetTarget::Explanation);
     EXPECT_EQ(FindTypesetTarget("print"), TypesetTarget::Print);

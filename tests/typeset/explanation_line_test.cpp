@@ -1,3 +1,4 @@
+#include "tests/learners.h"
 #include "tests/typeset/samples.h"
 #include "typeset/lines.h"
 #include "typeset/notation_walk.h"
@@ -75,18 +76,11 @@ TEST(ExplanationLineTest, NoPageEnds) {
 
 /// A text that speaks of the marks, drawn alone; the learner must not be told anything.
 std::vector<TextMark> ExplainedQuotes(std::string_view text) {
-    class Silence : public Learner {
-        void MessageBox(std::string_view, std::string_view message) override {
-            ADD_FAILURE() << message;
-        }
-        bool Confirm(std::string_view, std::string_view) override { return false; }
-        std::optional<std::string> InputBox(std::string_view, std::string_view) override {
-            return {};
-        }
-    } silence;
+    NotingLearner learner;
     const PlainMetrics metrics;
     Surface window(metrics, {"Book Antiqua", 12});
-    ExplainLine(CharactersWithQuotedMarks(text), window, silence);
+    ExplainLine(CharactersWithQuotedMarks(text), window, learner);
+    EXPECT_EQ(learner.messages, std::vector<std::string>());
     std::vector<TextMark> marks;
     for (const Mark& mark : window.Marks()) {
         marks.push_back(std::get<TextMark>(mark));

@@ -14,7 +14,6 @@
 #include "core/topic_codes.h"
 #include "tests/ui/frm_main_fixture.h"
 #include "ui/export_pdf.h"
-#include "ui/frm_explain.h"
 
 namespace numerello {
 namespace {
@@ -124,10 +123,9 @@ class EveryTopic : public Window {
         for (int step = 0; ArrowWaits(); ++step) {
             ASSERT_LT(step, kMostSteps) << "the arrow never goes";
             Command("mnuExp").trigger();
-            const auto& explanation = Find<FrmExplain>(frame, QStringLiteral("frmExplain"));
-            EXPECT_TRUE(explanation.isVisible()) << "nothing explains step " << step;
+            EXPECT_TRUE(Explanation().isVisible()) << "nothing explains step " << step;
             Enter();
-            EXPECT_FALSE(explanation.isVisible());
+            EXPECT_FALSE(Explanation().isVisible());
         }
     }
 

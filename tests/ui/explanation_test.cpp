@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QLabel>
-#include <QMenu>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -12,8 +11,6 @@
 #include <QtMath>
 
 #include "tests/ui/frm_main_fixture.h"
-#include "ui/frm_explain.h"
-#include "ui/light_button.h"
 #include "worksheet/spoken_line.h"
 
 namespace numerello {
@@ -27,14 +24,7 @@ class ExplanationWindow : public Window {
   protected:
     ExplanationWindow() { frame.resize(1100, 800); }
 
-    FrmExplain& Explanation() { return Find<FrmExplain>(frame, QStringLiteral("frmExplain")); }
-    LightButton& Light() { return Find<LightButton>(frame, QStringLiteral("Light")); }
-    QWidget& Sheet() { return Find<QWidget>(frame, QStringLiteral("Paper0")); }
-    QMenu& PopUp() { return Find<QMenu>(frame, QStringLiteral("mnuHidden3")); }
-
     std::string Told() { return Explanation().accessibleDescription().toStdString(); }
-
-    void ChooseFeet() { Choose(QStringLiteral("Converting Feet To Yards")); }
 
     /// Types 4 and a refused x, and clicks the red light.
     void ExplainRefusal() {
@@ -250,12 +240,12 @@ TEST_F(ExplanationWindow, WhatCannotBeDrawnIsToldAndTheWindowStands) {
 TEST_F(ExplanationWindow, TheLightsMenuHidesTheLight) {
     ChooseFeet();
     Click(Light(), Light().rect().center(), Qt::RightButton);
-    EXPECT_TRUE(PopUp().isVisible());
+    EXPECT_TRUE(PopUp("mnuHidden3").isVisible());
     EXPECT_FALSE(Explanation().isVisible());
     QAction& hide = Command("mnuHideLight");
     EXPECT_EQ(hide.text(), "&Hide Guided Input Light");
     hide.trigger();
-    PopUp().hide();
+    PopUp("mnuHidden3").hide();
     EXPECT_FALSE(Light().isVisible());
     EXPECT_FALSE(Command("mnuShowLight").isChecked());
     Command("mnuShowLight").trigger();
@@ -267,8 +257,8 @@ TEST_F(ExplanationWindow, TheMenuKeyWorksOnTheFocusedLight) {
     QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(5, 5),
                             Light().mapToGlobal(QPoint(5, 5)));
     QCoreApplication::sendEvent(&Light(), &asked);
-    EXPECT_TRUE(PopUp().isVisible());
-    PopUp().hide();
+    EXPECT_TRUE(PopUp("mnuHidden3").isVisible());
+    PopUp("mnuHidden3").hide();
 }
 
 TEST(PlaceOfExplanationTest, KeepsToTheScreenAndOffTheArrow) {

@@ -157,7 +157,7 @@ TEST_F(SettingsInTheFrame, OpenFromMenuAndPopUpAndWithoutATopic) {
 }
 
 TEST_F(SettingsInTheFrame, AnotherFigureAppearsAtOk) {
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     const QImage before = Figure();
     ChangeSettings("mnuChange", [&](QWidget& dialog) {
         Click(Find<FigureButton>(dialog, QStringLiteral("wiz1")));
@@ -169,7 +169,7 @@ TEST_F(SettingsInTheFrame, AnotherFigureAppearsAtOk) {
 }
 
 TEST_F(SettingsInTheFrame, AfterCancelItAppearsWithTheNextTopic) {
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     const QImage before = Figure();
     ChangeSettings("mnuChange", [](QWidget& dialog) {
         Click(Find<FigureButton>(dialog, QStringLiteral("wiz2")));
@@ -181,7 +181,7 @@ TEST_F(SettingsInTheFrame, AfterCancelItAppearsWithTheNextTopic) {
 }
 
 TEST_F(SettingsInTheFrame, TheNoticeComesAndGoesWithItsSetting) {
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     Type(QStringLiteral("7"));
     Enter();
     const auto turnOver = [](QWidget& dialog) {

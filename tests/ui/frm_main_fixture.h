@@ -3,12 +3,15 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QMenu>
 #include <QTemporaryDir>
 
 #include "core/settings_store.h"
 #include "tests/ui/window.h"
 #include "ui/font_metrics.h"
+#include "ui/frm_explain.h"
 #include "ui/frm_main.h"
+#include "ui/light_button.h"
 #include "ui/sheet_widget.h"
 
 namespace numerello {
@@ -37,6 +40,9 @@ class Window : public testing::Test {
         ShowActive(frame);
     }
 
+    /// A topic whose problem is a whole number: 3 feet are a yard.
+    void ChooseFeet() { Choose(QStringLiteral("Converting Feet To Yards")); }
+
     void CancelNew() {
         const WhenDialogOpens chooser(QStringLiteral("frmSelect"),
                                       [](QWidget& dialog) { PressKey(dialog, Qt::Key_Escape); });
@@ -54,7 +60,11 @@ class Window : public testing::Test {
     void Type(const QString& keys) { TypeText(frame, keys); }
     void Enter() { PressKey(frame, Qt::Key_Return); }
 
+    SheetWidget& Sheet() { return Find<SheetWidget>(frame, QStringLiteral("Paper0")); }
     ArrowButton& Arrow() { return Find<ArrowButton>(frame, QStringLiteral("blinker0")); }
+    LightButton& Light() { return Find<LightButton>(frame, QStringLiteral("Light")); }
+    FrmExplain& Explanation() { return Find<FrmExplain>(frame, QStringLiteral("frmExplain")); }
+    QMenu& PopUp(const char* name) { return Find<QMenu>(frame, QLatin1String(name)); }
     /// What stands on the sheets, as it is read aloud.
     QString SheetText() {
         QStringList sheets;

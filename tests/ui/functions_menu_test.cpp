@@ -39,7 +39,7 @@ TEST_F(FunctionsMenu, EachEntryTypesItsKey) {
         {"mnuMultiplication", "The '*' is not allowed" + in + wiz},
         {"mnuDivision", "The division symbol is not allowed" + in + wiz},
     };
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     for (const auto& [name, refusal] : refusals) {
         Type(QStringLiteral("7"));
         EXPECT_EQ(Refusal(), "");
@@ -53,7 +53,7 @@ TEST_F(FunctionsMenu, EachEntryTypesItsKey) {
 
 TEST_F(FunctionsMenu, TheInsertButtonsTypeAndLeaveTheKeysToTheSheet) {
     frame.resize(1100, 800);
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     auto& sheet = Find<QWidget>(frame, QStringLiteral("frmPaper"));
     Type(QStringLiteral("4"));
     Click(Find<QToolButton>(frame, QStringLiteral("root")));
@@ -69,7 +69,7 @@ TEST_F(FunctionsMenu, TheInsertButtonsTypeAndLeaveTheKeysToTheSheet) {
 
 TEST_F(FunctionsMenu, IsOpenWhileALineIsTyped) {
     EXPECT_EQ(OpenFunctions(), 0);
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     EXPECT_EQ(OpenFunctions(), 7);
     Type(QStringLiteral("7x"));
     EXPECT_EQ(OpenFunctions(), 7);
@@ -95,7 +95,7 @@ TEST_F(FunctionsMenu, IsClosedWhereBoxesAreFilled) {
 
 TEST_F(FunctionsMenu, TypesNothingAtTheEdgeOfTheSheet) {
     // No number is that long, so the end of the line is set by hand.
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     Type(QStringLiteral("7"));
     const_cast<Problem&>(Now()).playback.LineEndX = 730;
     Command("mnuAddition").trigger();

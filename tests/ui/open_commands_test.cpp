@@ -71,7 +71,7 @@ TEST_F(OpenCommands, OnTheEmptyDesk) {
 }
 
 TEST_F(OpenCommands, FromTheFirstKeyToTheCheckMark) {
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     EXPECT_EQ(Open(), "sheet keys");
     Type(QStringLiteral("x"));
     EXPECT_EQ(Open(), "sheet keys");
@@ -100,7 +100,7 @@ TEST_F(OpenCommands, FromTheFirstKeyToTheCheckMark) {
 }
 
 TEST_F(OpenCommands, AllAtOnceAndOverAfterUnticking) {
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     Type(QStringLiteral("7"));
     Enter();
     Command("mnuShowStep").trigger();
@@ -143,7 +143,7 @@ TEST_F(OpenCommands, WhereAGraphIsDrawn) {
 }
 
 TEST_F(OpenCommands, AfterALoadAndAnExample) {
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     Command("mnuExample").trigger();
     EXPECT_EQ(Open(), "save print sheet");
     Erase();
@@ -151,7 +151,7 @@ TEST_F(OpenCommands, AfterALoadAndAnExample) {
 }
 
 TEST_F(OpenCommands, AfterAFailure) {
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     Type(QStringLiteral("7."));
     const WhenDialogOpens message(QStringLiteral("MessageBox"), [](QWidget& dialog) {
         PressButton(dialog, QStringLiteral("OK"));

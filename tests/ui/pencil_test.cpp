@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
-#include <QMenu>
 #include <QScrollArea>
 #include <QTest>
 #include <QTimer>
@@ -18,9 +17,7 @@ class PencilInUse : public Window {
 
     QLabel& ThePencil() { return Find<QLabel>(frame, QStringLiteral("Pencil")); }
     QLabel& DeskPencil() { return Find<QLabel>(frame, QStringLiteral("deskPencil")); }
-    QWidget& Sheet() { return Find<QWidget>(frame, QStringLiteral("Paper0")); }
     QTimer& Timer1() { return Find<QTimer>(frame, QStringLiteral("Timer1")); }
-    QMenu& PopUp() { return Find<QMenu>(frame, QStringLiteral("mnuHidden2")); }
 
     QPoint OnSheet() { return ThePencil().pos() - Sheet().pos(); }
     bool LetWrite() {
@@ -35,7 +32,7 @@ class PencilInUse : public Window {
 };
 
 TEST_F(PencilInUse, BobsAndFollowsTheLine) {
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     EXPECT_EQ(ThePencil().size(), QSize(14, 234));
     EXPECT_EQ(OnSheet(), QPoint(63, -132));
     EXPECT_EQ(Timer1().interval(), 10);
@@ -52,7 +49,7 @@ TEST_F(PencilInUse, BobsAndFollowsTheLine) {
 }
 
 TEST_F(PencilInUse, TurnsItsRubberToTheLineForABackspace) {
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     Type(QStringLiteral("40"));
     EXPECT_TRUE(LetWrite());
     const QImage writes = ThePencil().grab().toImage();
@@ -69,7 +66,7 @@ TEST_F(PencilInUse, TurnsItsRubberToTheLineForABackspace) {
 
 TEST_F(PencilInUse, JumpsWhereTheDesktopAsksForNoMotion) {
     const StillDesktop still;
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     Type(QStringLiteral("4"));
     EXPECT_FALSE(Timer1().isActive());
     EXPECT_EQ(OnSheet(), QPoint(EndOf("4"), -137));
@@ -86,7 +83,7 @@ TEST_F(PencilInUse, RestsBesideBoxes) {
 }
 
 TEST_F(PencilInUse, LiesOnTheDeskWhenItIsNotUsed) {
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     EXPECT_TRUE(Command("mnuPencil").isChecked());
     EXPECT_TRUE(ThePencil().isVisible());
     EXPECT_FALSE(DeskPencil().isVisible());
@@ -107,7 +104,7 @@ TEST_F(PencilInUse, LiesOnTheDeskWhenItIsNotUsed) {
 }
 
 TEST_F(PencilInUse, NeedsRoomToLieOnTheDesk) {
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     Command("mnuPencil").trigger();
     // The sheet of 800 stands in the middle: 39 and 40 of desk are left of it.
     for (const auto& [width, isShown] : {std::pair(878, false), std::pair(880, true)}) {
@@ -119,7 +116,7 @@ TEST_F(PencilInUse, NeedsRoomToLieOnTheDesk) {
 }
 
 TEST_F(PencilInUse, StaysAtItsPlaceOnTheDeskWhereverTheSheetIsDragged) {
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     Command("mnuPencil").trigger();
     const QPoint place = DeskPencil().pos();
     const QPoint start = Sheet().mapTo(&frame, QPoint(400, 600));
@@ -132,30 +129,30 @@ TEST_F(PencilInUse, StaysAtItsPlaceOnTheDeskWhereverTheSheetIsDragged) {
 }
 
 TEST_F(PencilInUse, TheRightButtonOpensItsMenuAndNothingElseDoes) {
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     const QPoint low(7, 200);
     Click(ThePencil(), low, Qt::LeftButton);
-    EXPECT_FALSE(PopUp().isVisible());
+    EXPECT_FALSE(PopUp("mnuHidden2").isVisible());
     Click(Sheet(), QPoint(300, 300), Qt::RightButton);
-    EXPECT_FALSE(PopUp().isVisible());
+    EXPECT_FALSE(PopUp("mnuHidden2").isVisible());
 
     Press(ThePencil(), low, Qt::RightButton);
-    EXPECT_FALSE(PopUp().isVisible());
+    EXPECT_FALSE(PopUp("mnuHidden2").isVisible());
     Release(ThePencil(), low, Qt::RightButton);
-    EXPECT_TRUE(PopUp().isVisible());
+    EXPECT_TRUE(PopUp("mnuHidden2").isVisible());
     QAction& use = Command("mnuUsePencil");
     EXPECT_EQ(use.text(), "Use &Pencil");
     EXPECT_TRUE(use.isChecked());
     use.trigger();
-    PopUp().hide();
+    PopUp("mnuHidden2").hide();
     EXPECT_FALSE(use.isChecked());
     EXPECT_FALSE(Command("mnuPencil").isChecked());
     EXPECT_TRUE(DeskPencil().isVisible());
 
     Click(DeskPencil(), low, Qt::RightButton);
-    EXPECT_TRUE(PopUp().isVisible());
+    EXPECT_TRUE(PopUp("mnuHidden2").isVisible());
     use.trigger();
-    PopUp().hide();
+    PopUp("mnuHidden2").hide();
     EXPECT_TRUE(Command("mnuPencil").isChecked());
     EXPECT_TRUE(ThePencil().isVisible());
 }
@@ -163,7 +160,7 @@ TEST_F(PencilInUse, TheRightButtonOpensItsMenuAndNothingElseDoes) {
 TEST_F(PencilInUse, ALaterSheetCoversIt) {
     // High enough for both sheets, so that nothing scrolls.
     frame.resize(1100, 900);
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     Type(QStringLiteral("7"));
     EXPECT_TRUE(LetWrite());
     Enter();
@@ -178,8 +175,8 @@ TEST_F(PencilInUse, ALaterSheetCoversIt) {
     ASSERT_EQ(Now().playback.CurrentPage, 1);
     const auto opensAt = [this](int onSheet) {
         Click(ThePencil(), QPoint(7, 137 + onSheet), Qt::RightButton);
-        const bool opened = PopUp().isVisible();
-        PopUp().hide();
+        const bool opened = PopUp("mnuHidden2").isVisible();
+        PopUp("mnuHidden2").hide();
         return opened;
     };
     EXPECT_TRUE(opensAt(20));
@@ -195,7 +192,7 @@ TEST_F(PencilInUse, ALaterSheetCoversIt) {
 }
 
 TEST_F(PencilInUse, TakesNoPressFromTheSheet) {
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     MouseCounter below;
     below.setParent(&Sheet());
     below.setGeometry(0, 0, 200, 200);
@@ -205,7 +202,7 @@ TEST_F(PencilInUse, TakesNoPressFromTheSheet) {
 }
 
 TEST_F(PencilInUse, ErasingBringsItBack) {
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    ChooseFeet();
     Type(QStringLiteral("407"));
     EXPECT_TRUE(LetWrite());
     Erase();

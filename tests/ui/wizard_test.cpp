@@ -1,14 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <QContextMenuEvent>
-#include <QMenu>
 #include <QScrollArea>
 #include <QTest>
 #include <QTimer>
 
 #include "tests/ui/frm_main_fixture.h"
 #include "tests/ui/still_desktop.h"
-#include "ui/frm_explain.h"
 #include "ui/wizard_figure.h"
 #include "worksheet/spoken_line.h"
 
@@ -21,13 +19,12 @@ class WizOnTheDesk : public Window {
 
     WizardButton& Wiz() { return Find<WizardButton>(frame, QStringLiteral("Wizard")); }
     MenuButton& Notice() { return Find<MenuButton>(frame, QStringLiteral("Click")); }
-    FrmExplain& Explanation() { return Find<FrmExplain>(frame, QStringLiteral("frmExplain")); }
     QTimer& Timer(const char* name) { return Find<QTimer>(frame, QLatin1String(name)); }
-    QMenu& PopUp() { return Find<QMenu>(frame, QStringLiteral("mnuHidden")); }
     QWidget& View() { return *Find<QScrollArea>(frame, QStringLiteral("frmPaper")).viewport(); }
 
+    /// Returns when the figure has grown.
     void ChooseFeet() {
-        Choose(QStringLiteral("Converting Feet To Yards"));
+        Window::ChooseFeet();
         ASSERT_TRUE(Grown());
     }
 
@@ -52,7 +49,7 @@ class WizOnTheDesk : public Window {
 };
 
 TEST_F(WizOnTheDesk, GrowsInWhenTheFormOpens) {
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    Window::ChooseFeet();
     EXPECT_EQ(Timer("wizIn").interval(), 10);
     EXPECT_EQ(Timer("WizOut").interval(), 10);
     EXPECT_EQ(Timer("clickMe").interval(), 800);
@@ -99,7 +96,7 @@ TEST_F(WizOnTheDesk, TheMenuHidesAndShowsIt) {
 
 TEST_F(WizOnTheDesk, AppearsAndGoesAtOnceWhereTheDesktopAsksForNoMotion) {
     const StillDesktop still;
-    Choose(QStringLiteral("Converting Feet To Yards"));
+    Window::ChooseFeet();
     EXPECT_TRUE(Wiz().isVisible());
     EXPECT_EQ(Wiz().size(), QSize(108, 128));
     // The notice stands still.
@@ -180,15 +177,15 @@ TEST_F(WizOnTheDesk, TheRightButtonOpensItsMenu) {
     EXPECT_EQ(Command("mnuHideOptions").text(), "&Options...");
     EXPECT_EQ(Command("mnuHideOptions").isEnabled(), Command("mnuChange").isEnabled());
     Click(Wiz(), Wiz().rect().center(), Qt::RightButton);
-    EXPECT_TRUE(PopUp().isVisible());
+    EXPECT_TRUE(PopUp("mnuHidden").isVisible());
     EXPECT_FALSE(Explanation().isVisible());
-    PopUp().hide();
+    PopUp("mnuHidden").hide();
     QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(5, 5),
                             Wiz().mapToGlobal(QPoint(5, 5)));
     QCoreApplication::sendEvent(&Wiz(), &asked);
-    EXPECT_TRUE(PopUp().isVisible());
+    EXPECT_TRUE(PopUp("mnuHidden").isVisible());
     Command("mnuHide").trigger();
-    PopUp().hide();
+    PopUp("mnuHidden").hide();
     EXPECT_FALSE(Command("mnuHideWiz").isChecked());
     EXPECT_TRUE(QTest::qWaitFor([this] { return !Wiz().isVisible(); }, 1000));
 }
@@ -231,8 +228,8 @@ TEST_F(WizOnTheDesk, AClickOnTheNoticeExplainsToo) {
     TickNotice();
     ASSERT_TRUE(Notice().isVisible()) << "it waits beside the arrow";
     Click(Notice(), QPoint(50, 25), Qt::RightButton);
-    EXPECT_TRUE(PopUp().isVisible());
-    PopUp().hide();
+    EXPECT_TRUE(PopUp("mnuHidden").isVisible());
+    PopUp("mnuHidden").hide();
     Click(Arrow());
     EXPECT_FALSE(Notice().isVisible());
     EXPECT_TRUE(Timer("clickMe").isActive());

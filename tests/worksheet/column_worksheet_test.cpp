@@ -6,19 +6,6 @@
 namespace numerello {
 namespace {
 
-class NotedLearner : public Learner {
-  public:
-    std::vector<std::string> messages;
-
-    void MessageBox(std::string_view, std::string_view text) override {
-        messages.emplace_back(text);
-    }
-    bool Confirm(std::string_view, std::string_view) override { return true; }
-    std::optional<std::string> InputBox(std::string_view, std::string_view) override {
-        return std::nullopt;
-    }
-};
-
 /// A column problem on the sheets of an entry form.
 class ColumnWorksheetTest : public testing::Test {
   protected:
@@ -53,7 +40,7 @@ class ColumnWorksheetTest : public testing::Test {
 
     Problem problem;
     PlainMetrics metrics;
-    NotedLearner learner;
+    NotingLearner learner;
     ColumnWorksheet sheet{problem, metrics, learner};
 };
 
@@ -166,10 +153,9 @@ TEST_F(ColumnWorksheetTest, AFailureWhileItIsPlayedEndsAsOneWhileItIsSolved) {
     ASSERT_TRUE(sheet.ArrowVisible());
     problem.boxes.Text[0] = "9999999999";
     sheet.blinker_Click();
-    ASSERT_EQ(learner.messages.size(), 1U);
-    EXPECT_EQ(learner.messages[0],
-              "The entered problem caused a data overflow.  Click the 'Erase' button and try "
-              "again.");
+    EXPECT_EQ(learner.messages,
+              std::vector<std::string>{"Overflow!: The entered problem caused a data overflow.  "
+                                       "Click the 'Erase' button and try again."});
     EXPECT_FALSE(sheet.ArrowVisible());
     EXPECT_FALSE(problem.columns.Any());
     EXPECT_TRUE(ChecksOf(First()).empty());

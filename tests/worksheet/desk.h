@@ -14,6 +14,7 @@
 #include "core/erasing.h"
 #include "core/number.h"
 #include "core/text.h"
+#include "tests/learners.h"
 #include "worksheet/worksheet.h"
 
 namespace numerello {
@@ -79,21 +80,6 @@ inline std::vector<ImageMark> ChecksOf(const Sheet& sheet) {
     return checks;
 }
 
-class RecordingLearner : public Learner {
-  public:
-    std::vector<std::string> messages;
-    bool agrees = true;
-
-    void MessageBox(std::string_view title, std::string_view text) override {
-        EXPECT_EQ(title, "");
-        messages.emplace_back(text);
-    }
-    bool Confirm(std::string_view, std::string_view) override { return agrees; }
-    std::optional<std::string> InputBox(std::string_view, std::string_view) override {
-        return std::nullopt;
-    }
-};
-
 /// A worksheet that writes down what it asks of others.
 class RecordingSheet : public Worksheet {
   public:
@@ -157,7 +143,7 @@ class Desk : public testing::Test {
 
     Problem problem;
     PlainMetrics metrics;
-    RecordingLearner learner;
+    NotingLearner learner;
     RecordingSheet sheet{problem, metrics, learner};
 };
 

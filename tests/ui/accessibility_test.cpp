@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 #include <set>
 
@@ -48,6 +49,13 @@ class WithinReach : public Window {
   protected:
     WithinReach() { frame.resize(1280, 800); }
 
+    /// Returns when the Wiz has grown in: nothing may come during a walk.
+    void Choose(const QString& caption) {
+        Window::Choose(caption);
+        const auto& growing = Find<QTimer>(frame, QStringLiteral("wizIn"));
+        ASSERT_TRUE(QTest::qWaitFor([&growing] { return !growing.isActive(); }, 5000));
+    }
+
     void Open(const char* command, const char* form, const std::string& defaultButton) {
         const WhenDialogOpens dialog(QString::fromLatin1(form), WalkAndLeave(defaultButton));
         Command(command).trigger();
@@ -73,7 +81,7 @@ TEST_F(WithinReach, IsTheChooserOnBothTabs) {
 }
 
 TEST_F(WithinReach, IsASheetForALineThroughItsSolution) {
-    ChooseFeet();
+    Choose(QStringLiteral("Converting Feet To Yards"));
     ExpectAllWithinReach(frame);
     Type(QStringLiteral("40"));
     Enter();
@@ -106,7 +114,7 @@ TEST_F(WithinReach, IsASheetWhoseBoxesAreLocked) {
 }
 
 TEST_F(WithinReach, IsTheSheetBesideAnExplanation) {
-    ChooseFeet();
+    Choose(QStringLiteral("Converting Feet To Yards"));
     Type(QStringLiteral("4x"));
     Click(Light());
     ASSERT_TRUE(Explanation().isVisible());
@@ -126,7 +134,7 @@ TEST_F(WithinReach, IsAbout) {
 }
 
 TEST_F(WithinReach, ArePrintOptions) {
-    ChooseFeet();
+    Choose(QStringLiteral("Converting Feet To Yards"));
     Type(QStringLiteral("40"));
     Enter();
     Open("mnuPrint", "frmPrintSetup", "Print");
@@ -217,7 +225,7 @@ TEST_F(WithinReach, AreMessageQuestionAndPrompt) {
 }
 
 TEST_F(WithinReach, AreTheDialogsForFiles) {
-    ChooseFeet();
+    Choose(QStringLiteral("Converting Feet To Yards"));
     Type(QStringLiteral("40"));
     Enter();
     Open("mnuSave", "CommonDialog1", "Save");

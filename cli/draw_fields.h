@@ -10,7 +10,8 @@ namespace numerello {
 /// The moment that "clock" tells, as Clock::MinutesAndSeconds does; nothing without the field.
 std::optional<int> ReadMoment(Fields& fields);
 
-/// The draws of a request: "clock" stands still at its moment, "seed" seeds what is drawn directly.
+/// The draws of a request: "clock" stands still at its moment, without it they begin at the present
+/// one; "seed" seeds what is drawn directly.
 class RequestedDraws {
   public:
     /// Reads both fields.
@@ -20,10 +21,13 @@ class RequestedDraws {
 
     ExampleDraws& Draws() { return draws; }
 
+    /// The clock of the draws, null where "clock" makes it stand still.
+    SteppingClock* Steps() { return fixed ? nullptr : &present; }
+
   private:
     const Clock& Now() const;
 
-    SystemClock present;
+    SteppingClock present{SystemClock()};
     std::optional<FixedClock> fixed;
     MersenneSource digits;
     MersenneSource direct;

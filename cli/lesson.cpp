@@ -28,6 +28,9 @@ class TerminalLearner : public Learner {
 
     void MessageBox(std::string_view title, std::string_view text) override {
         terminal.Say(Text(title, title.empty() ? "" : "  ", TerminalText(text)));
+        if (text.find("Click the 'Erase' button") != std::string_view::npos) {
+            terminal.Say("In the terminal Enter erases the problem.");
+        }
     }
     bool Confirm(std::string_view /*title*/, std::string_view /*text*/) override { return true; }
     std::optional<std::string> InputBox(std::string_view title, std::string_view prompt) override {

@@ -139,7 +139,11 @@ void PressKey(Terminal& terminal, Problem& problem, const std::string& key) {
     const bool judged = IsJudged(problem, key);
     Form_KeyPress(problem, key);
     if (judged && !problem.input.KeyAccepted) {
-        terminal.Say(TerminalRefusal(problem.input.InputError));
+        const std::string& refusal = problem.input.InputError;
+        terminal.Say(TerminalRefusal(refusal));
+        if (refusal.find("Click the Assistant Wiz") != std::string::npos) {
+            terminal.Say(Text("The Wiz says: ", TerminalText(problem.topic.InstructionText)));
+        }
     }
 }
 

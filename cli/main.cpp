@@ -51,23 +51,37 @@ int TellUnusableFile(const SolveArguments& arguments, const std::string& why) {
     return kNotWorked;
 }
 
+/// Gives the status back. Where a topic is unknown, the answer has told so.
+int WithNearTopics(int status, const std::string& topic) {
+    if (status == kUnusable && FindTopic(topic) == nullptr) {
+        TellNearTopics(topic, std::cerr);
+    }
+    return status;
+}
+
 /// A column problem has no lines: what its steps are, its drawings tell.
 int Solve(const SolveArguments& arguments) {
     const Json request = SolveRequestOf(arguments);
     const Json answer = Answer(request, nullptr);
+    // What a program reads keeps the marks.
+    const Writing writing = isatty(STDOUT_FILENO) != 0 ? Writing::Readable : Writing::Marks;
     if (arguments.json) {
         return PrintSolvedJson(answer, std::cout, std::cerr);
     }
     if (IsColumnTopic(answer.value("code", 0))) {
-        return PrintWorkedColumns(Answer(ColumnsRequestOf(request), nullptr), std::cout, std::cerr);
+        return PrintWorkedColumns(Answer(ColumnsRequestOf(request), nullptr), writing, std::cout,
+                                  std::cerr);
     }
-    return PrintSolved(answer, std::cout, std::cerr);
+    const int status = PrintSolved(answer, writing, std::cout, std::cerr);
+    return arguments.file ? status : WithNearTopics(status, arguments.topic);
 }
 
 int Type(const TypeArguments& arguments) {
     const Json answer =
         Answer({{"do", "type"}, {"topic", arguments.topic}, {"keys", arguments.keys}}, nullptr);
-    return arguments.json ? PrintJson(answer, std::cout) : PrintTyped(answer, std::cout, std::cerr);
+    return arguments.json
+               ? PrintJson(answer, std::cout)
+               : WithNearTopics(PrintTyped(answer, std::cout, std::cerr), arguments.topic);
 }
 
 int Topics(bool json) {
@@ -75,11 +89,9 @@ int Topics(bool json) {
     return json ? PrintJson(answer, std::cout) : PrintTopics(answer, std::cout, std::cerr);
 }
 
-/// "mmss" for a second of the hour; they go round.
-std::string Moment(int second) {
-    constexpr int kHour = 3600;
-    const int moment = second % kHour / 60 * 100 + second % 60;
-    return std::to_string(10000 + moment).substr(1);
+/// "mmss", as a request spells it.
+std::string Moment(const Clock& clock) {
+    return std::to_string(10000 + clock.MinutesAndSeconds()).substr(1);
 }
 
 /// Examples made within one second have the same digits, so each is made as if a second after the
@@ -87,16 +99,17 @@ std::string Moment(int second) {
 int Example(const ExampleArguments& arguments) {
     constexpr int kProgressEvery = 1000;
     const bool tellsProgress = isatty(STDERR_FILENO) != 0 && isatty(STDOUT_FILENO) == 0;
-    const int now = SystemClock().MinutesAndSeconds();
-    const int first = now / 100 * 60 + now % 100;
+    SteppingClock clock{SystemClock()};
+    const int first = clock.MinutesAndSeconds();
     int status = kWorked;
     for (int i = 0; i < arguments.count && status == kWorked && std::cout; ++i) {
         const Json request{{"do", "example"},
                            {"topic", arguments.topic},
                            {"complex", arguments.complex},
-                           {"clock", Moment(first + i)},
+                           {"clock", Moment(clock)},
                            {"seed", first + i}};
         status = PrintExample(Answer(request, nullptr), std::cout, std::cerr);
+        clock.Step();
         if (tellsProgress && (i + 1) % kProgressEvery == 0) {
             std::cerr << '\r' << i + 1 << " examples made" << std::flush;
         }
@@ -104,7 +117,7 @@ int Example(const ExampleArguments& arguments) {
     if (tellsProgress && arguments.count >= kProgressEvery) {
         std::cerr << '\n';
     }
-    return status;
+    return WithNearTopics(status, arguments.topic);
 }
 
 int Batch() {
@@ -115,7 +128,7 @@ int Batch() {
 int Learn(const std::string& topic) {
     if (!topic.empty() && FindTopic(topic) == nullptr) {
         std::cerr << "numerello-cli: unknown topic \"" << topic << "\"\n";
-        return kUnusable;
+        return WithNearTopics(kUnusable, topic);
     }
     HoldLesson(topic, std::cout);
     return kWorked;
@@ -130,6 +143,7 @@ void AddTopics(CLI::App& app, Call& call) {
 void AddSolve(CLI::App& app, Call& call) {
     SolveArguments& arguments = call.solve;
     CLI::App* solve = app.add_subcommand("solve", "Work a problem, line by line");
+    solve->footer("The marks of the lines, such as #1/2#, are explained in numerello-cli(1).");
     CLI::Option* topic = solve->add_option("--topic", arguments.topic, "The topic's caption");
     CLI::Option* file = solve->add_option("--file", arguments.file, "A saved problem");
     file->excludes(topic);

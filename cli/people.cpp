@@ -8,6 +8,7 @@
 #include "catalogue/topics.h"
 #include "cli/column_picture.h"
 #include "cli/mark_fields.h"
+#include "cli/near_topics.h"
 #include "cli/terminal_text.h"
 
 namespace numerello {
@@ -38,34 +39,38 @@ void TellRefusedKeys(const Json& refused, std::ostream& err) {
     }
 }
 
-void PrintReason(const Json& line, std::ostream& out) {
+std::string Written(const std::string& line, Writing writing) {
+    return writing == Writing::Readable ? TerminalText(line) : line;
+}
+
+void PrintReason(const Json& line, Writing writing, std::ostream& out) {
     constexpr std::size_t kReasonColumn = 7;
     const std::string note = String(line, "note");
     if (!note.empty()) {
-        out << std::string(kReasonColumn, ' ') << note << '\n';
+        out << std::string(kReasonColumn, ' ') << Written(note, writing) << '\n';
     }
 }
 
 /// The log's first line is the problem; without a log it is what was typed. It has a reason where
 /// nothing else is left to say, as for 3=3.
-void PrintProblem(const Json& answer, std::ostream& out) {
+void PrintProblem(const Json& answer, Writing writing, std::ostream& out) {
     const Json& lines = answer.at("lines");
     const std::string problem =
         lines.empty() ? String(answer, "problem") : String(lines.front(), "text");
     if (problem.empty()) {
         return;
     }
-    out << problem << '\n';
+    out << Written(problem, writing) << '\n';
     if (!lines.empty()) {
-        PrintReason(lines.front(), out);
+        PrintReason(lines.front(), writing, out);
     }
     out << '\n';
 }
 
-void PrintSteps(const Json& lines, std::ostream& out) {
+void PrintSteps(const Json& lines, Writing writing, std::ostream& out) {
     for (std::size_t i = 1; i < lines.size(); ++i) {
-        out << std::setw(2) << i << ". " << String(lines[i], "text") << '\n';
-        PrintReason(lines[i], out);
+        out << std::setw(2) << i << ". " << Written(String(lines[i], "text"), writing) << '\n';
+        PrintReason(lines[i], writing, out);
     }
 }
 
@@ -92,12 +97,12 @@ int ExitStatus(const Json& answer) {
 
 }  // namespace
 
-int PrintSolved(const Json& answer, std::ostream& out, std::ostream& err) {
+int PrintSolved(const Json& answer, Writing writing, std::ostream& out, std::ostream& err) {
     if (!Usable(answer)) {
         return TellUnusable(answer, err);
     }
-    PrintProblem(answer, out);
-    PrintSteps(answer.at("lines"), out);
+    PrintProblem(answer, writing, out);
+    PrintSteps(answer.at("lines"), writing, out);
     out << std::flush;
     TellTroubles(answer, err);
     return ExitStatus(answer);
@@ -112,13 +117,13 @@ int PrintSolvedJson(const Json& answer, std::ostream& out, std::ostream& err) {
     return status;
 }
 
-int PrintWorkedColumns(const Json& answer, std::ostream& out, std::ostream& err) {
+int PrintWorkedColumns(const Json& answer, Writing writing, std::ostream& out, std::ostream& err) {
     if (!Usable(answer)) {
         return TellUnusable(answer, err);
     }
     const Json& frames = answer.at("frames");
     for (std::size_t i = 0; i < frames.size(); ++i) {
-        out << std::setw(2) << i + 1 << ". " << String(frames[i], "note") << '\n';
+        out << std::setw(2) << i + 1 << ". " << Written(String(frames[i], "note"), writing) << '\n';
     }
     if (!frames.empty()) {
         out << '\n';
@@ -182,6 +187,17 @@ int PrintTopics(const Json& answer, std::ostream& out, std::ostream& err) {
         }
     }
     return kWorked;
+}
+
+void TellNearTopics(const std::string& caption, std::ostream& err) {
+    const std::vector<std::string_view> near = NearTopics(caption);
+    if (!near.empty()) {
+        err << "Did you mean one of these?\n";
+    }
+    for (const std::string_view each : near) {
+        err << "    " << each << '\n';
+    }
+    err << "\"numerello-cli topics\" lists the captions of all topics.\n";
 }
 
 int PrintJson(const Json& answer, std::ostream& out) {

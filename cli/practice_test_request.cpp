@@ -51,7 +51,7 @@ void PracticeTestRequest(Fields& fields, Json& answer) {
     PracticeTest test;
     Json failure;
     try {
-        CreatePracticeTest(rows, test, requested.Draws());
+        CreatePracticeTest(rows, test, requested.Draws(), requested.Steps());
     } catch (const Failure& full) {
         failure = FailureName(full.Kind());
     }

@@ -25,4 +25,10 @@ Date SystemClock::Today() const {
     return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday};
 }
 
+void SteppingClock::Step() {
+    constexpr int kHour = 3600;
+    const int second = (minutesAndSeconds / 100 * 60 + minutesAndSeconds % 100 + 1) % kHour;
+    minutesAndSeconds = second / 60 * 100 + second % 60;
+}
+
 }  // namespace numerello

@@ -39,4 +39,22 @@ class FixedClock : public Clock {
     Date today;
 };
 
+/// A clock that goes on only when it is told to.
+class SteppingClock : public Clock {
+  public:
+    /// Begins at the moment that the other one shows.
+    explicit SteppingClock(const Clock& from)
+        : minutesAndSeconds(from.MinutesAndSeconds()), today(from.Today()) {}
+
+    int MinutesAndSeconds() const override { return minutesAndSeconds; }
+    Date Today() const override { return today; }
+
+    /// Goes on by a second; behind the last one of the hour comes the first.
+    void Step();
+
+  private:
+    int minutesAndSeconds;
+    Date today;
+};
+
 }  // namespace numerello

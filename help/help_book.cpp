@@ -25,7 +25,7 @@ void AddPage(HelpBook& book, std::string name, std::string_view body) {
     }
     std::string html = Text("<!DOCTYPE html>\n<html><head><meta charset=\"utf-8\"><title>",
                             Escaped(title), "</title></head>\n<body>\n", body, "</body></html>\n");
-    book.pages.push_back({std::move(name), title, std::move(html)});
+    book.pages.push_back({std::move(name), title, std::move(html), ""});
 }
 
 void AddGuide(HelpBook& book, const HelpSource& source) {
@@ -59,7 +59,11 @@ void AddTopics(HelpBook& book, const HelpSource& source) {
         }
     }
     for (const Topic& topic : Topics()) {
-        AddPage(book, PageName(topic.caption), TopicPage(topic, TextOf(texts, topic.caption)));
+        const TopicText& text = TextOf(texts, topic.caption);
+        AddPage(book, PageName(topic.caption), TopicPage(topic, text));
+        if (topic.parent.empty()) {
+            book.pages.back().example = ExampleFile(text);
+        }
     }
     const std::vector<ContentsRow> rows = TopicRows();
     book.contents.insert(book.contents.end(), rows.begin(), rows.end());
@@ -71,11 +75,18 @@ const HelpPage* Find(const HelpBook& book, std::string_view name) {
     return page == book.pages.end() ? nullptr : &*page;
 }
 
+bool LeadsSomewhere(std::string_view link, const HelpBook& book) {
+    if (link.starts_with(kExampleScheme)) {
+        const HelpPage* page = Find(book, link.substr(kExampleScheme.size()));
+        return page != nullptr && !page->example.empty();
+    }
+    return link.starts_with(kScheme) && Find(book, link.substr(kScheme.size())) != nullptr;
+}
+
 void RequireLinks(const HelpBook& book) {
     for (const HelpPage& page : book.pages) {
         for (const std::string& link : LinksOf(page.html)) {
-            if (!link.starts_with(kScheme) ||
-                Find(book, std::string_view(link).substr(kScheme.size())) == nullptr) {
+            if (!LeadsSomewhere(link, book)) {
                 throw HelpError(Text("the page \"", page.name, "\" has a dead link: ", link));
             }
         }
@@ -90,6 +101,10 @@ HelpBook MakeHelpBook(const HelpSource& source) {
     AddTopics(book, source);
     RequireLinks(book);
     return book;
+}
+
+std::string ExampleFileName(const HelpPage& page) {
+    return Text(page.title, ".nrl");
 }
 
 std::string ContentsFile(const HelpBook& book) {

@@ -5,6 +5,7 @@
 
 #include "catalogue/entry_layouts.h"
 #include "core/number.h"
+#include "core/problem_file.h"
 #include "core/text.h"
 #include "help/box_names.h"
 #include "help/contents.h"
@@ -136,6 +137,11 @@ std::string Items(const std::vector<std::string>& sentences) {
 
 }  // namespace
 
+std::string ExampleFile(const TopicText& text) {
+    const PlainMetrics metrics;
+    return Text(ProblemLine(WorkedExample(text, metrics).Solved()), "\n");
+}
+
 std::string TopicPage(const Topic& topic, const TopicText& text) {
     const PlainMetrics metrics;
     const WorkedExample example(text, metrics);
@@ -146,7 +152,9 @@ std::string TopicPage(const Topic& topic, const TopicText& text) {
 
     std::string html = Text("<h1>", Escaped(topic.caption), "</h1>\n");
     if (path.empty()) {
-        html += "<p class=\"path\">Opened by a saved problem or by the command line</p>\n";
+        html +=
+            "<p class=\"path\">Opened by the example below, by a saved problem or by the command "
+            "line</p>\n";
     } else {
         html += Text("<p class=\"path\">", path, "</p>\n");
     }
@@ -155,6 +163,14 @@ std::string TopicPage(const Topic& topic, const TopicText& text) {
         Text("<h2>What to type</h2>\n<ul>\n", Items(WhatToType(topic, text.problem)), "</ul>\n");
     html += Text("<h2>An example</h2>\n", EntryOf(text, layout));
     html += "<p>Then press <b>Solve!</b> or the Enter key.</p>\n";
+    if (path.empty()) {
+        html += Text("<p><a href=\"", kExampleScheme, name,
+                     "\">Open this example</a> on the sheet: it takes the place of the problem "
+                     "there. The same example is the file <code>",
+                     Escaped(topic.caption),
+                     ".nrl</code> in the folder <code>numerello/examples</code> beside the other "
+                     "files of installed programs, <code>/usr/share</code> as a rule.</p>\n");
+    }
     html += Questions(example, text);
     html += SheetOf(example, name, drawnEntry);
     if (example.Steps().empty()) {

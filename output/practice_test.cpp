@@ -18,9 +18,26 @@ void WriteLine(PracticeTest& test, std::string line) {
     ++test.TestLineCount;
 }
 
-void WriteProblem(PracticeTest& test, bool complex, ExampleDraws& draws) {
-    const Example example =
-        GenerateExample(test.topic, true, complex ? AnswerSettings::kComplex : 0, draws);
+/// Neighbouring moments may draw the same digits.
+constexpr int kMostRepeats = 50;
+
+/// A problem that differs from the one printed before it, where the clock goes on.
+Example NextExample(const PracticeTest& test, bool complex, ExampleDraws& draws,
+                    SteppingClock* clock, std::string_view before) {
+    const int complexEx = complex ? AnswerSettings::kComplex : 0;
+    Example example = GenerateExample(test.topic, true, complexEx, draws);
+    if (clock == nullptr) {
+        return example;
+    }
+    clock->Step();
+    for (int repeats = 0; example.printed == before && repeats < kMostRepeats; ++repeats) {
+        example = GenerateExample(test.topic, true, complexEx, draws);
+        clock->Step();
+    }
+    return example;
+}
+
+void WriteProblem(PracticeTest& test, const Example& example) {
     const auto number = static_cast<std::int64_t>(test.problems.size()) + 1;
     const std::string line =
         Text(WholeText(number), ") ", example.printed, example.suffix, test.TestSuffix);
@@ -59,8 +76,10 @@ void SetTestTopic(std::string_view Name, PracticeTest& test) {
     }
 }
 
-void CreatePracticeTest(std::span<const TestRow> rows, PracticeTest& test, ExampleDraws& draws) {
+void CreatePracticeTest(std::span<const TestRow> rows, PracticeTest& test, ExampleDraws& draws,
+                        SteppingClock* clock) {
     test = PracticeTest();
+    std::string printed;
     for (const TestRow& row : rows) {
         if (row.topic.empty()) {
             continue;
@@ -71,7 +90,9 @@ void CreatePracticeTest(std::span<const TestRow> rows, PracticeTest& test, Examp
         WriteLine(test, test.TestHeading);
         test.TestHeading.clear();
         for (int i = 0; i < row.count; ++i) {
-            WriteProblem(test, row.complex, draws);
+            const Example example = NextExample(test, row.complex, draws, clock, printed);
+            WriteProblem(test, example);
+            printed = example.printed;
         }
     }
 }

@@ -7,6 +7,7 @@
 
 #include "catalogue/examples/draws.h"
 #include "core/bounds.h"
+#include "core/clock.h"
 #include "core/problem.h"
 
 /// A sheet of made-up problems over chosen topics.
@@ -55,6 +56,11 @@ void SetTestTopic(std::string_view Name, PracticeTest& test);
 /// Makes the test of the rows, the free ones left out: for each topic an empty line, its heading
 /// and its problems, numbered through the whole test. Throws Failure(Format) at the line that finds
 /// no room; the lines before it stand.
-void CreatePracticeTest(std::span<const TestRow> rows, PracticeTest& test, ExampleDraws& draws);
+///
+/// The digits of one moment are all alike. With the clock of the draws, problems are made as if a
+/// second apart, and one that would repeat the problem before it as if some seconds later; without
+/// it all are of one moment.
+void CreatePracticeTest(std::span<const TestRow> rows, PracticeTest& test, ExampleDraws& draws,
+                        SteppingClock* clock = nullptr);
 
 }  // namespace numerello

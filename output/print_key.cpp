@@ -1,12 +1,11 @@
 #include "output/print_key.h"
 
-#include "core/silent_learner.h"
 #include "core/text.h"
 #include "core/topic_codes.h"
 #include "graph/spoken_graph.h"
+#include "output/kept_together.h"
 #include "output/print_columns.h"
 #include "output/print_line.h"
-#include "typeset/variants.h"
 
 namespace numerello {
 
@@ -41,23 +40,6 @@ void PrintProblem(const WorkedProblem& worked, Surface& Printer, Learner& learne
     PrintWorking(worked, Printer, learner);
 }
 
-/// Begins a page before a problem, the first one excepted, that does not fit the rest of this one
-/// but would fit a page of its own. `blank` is a page of the same kind without a mark, its pen at
-/// the top.
-void KeepTogether(const WorkedProblem& worked, Surface& Printer, Surface blank) {
-    const double top = blank.CurrentY;
-    PrintEmptyLine(blank);
-    const double limit = kPrintVariant.page->limit + blank.CurrentY - top;
-    blank.CurrentY = top;
-    SilentLearner silent;
-    PrintProblem(worked, blank, silent);
-    const bool fitsPage = blank.PageCount() == 1;
-    if (fitsPage && Printer.CurrentY + blank.CurrentY - top > limit) {
-        Printer.NewPage();
-        Printer.CurrentY = top;
-    }
-}
-
 }  // namespace
 
 std::vector<std::string> KeyLines(const WorkedProblem& worked) {
@@ -78,14 +60,14 @@ std::vector<std::string> KeyLines(const WorkedProblem& worked) {
 std::vector<int> PrintAnswerKey(const HeadingLines& heading,
                                 std::span<const WorkedProblem> problems, Surface& Printer,
                                 Learner& learner) {
-    Surface blank = Printer;
-    blank.CurrentY = kPrintVariant.page->baseY - kPrintVariant.startDrop.At(blank.FontSize());
     PrintHeading(heading, Printer);
     PrintEmptyLine(Printer);
     std::vector<int> pages;
     for (const WorkedProblem& worked : problems) {
         if (!pages.empty()) {
-            KeepTogether(worked, Printer, blank);
+            KeepTogether(Printer, [&worked](Surface& page, Learner& told) {
+                PrintProblem(worked, page, told);
+            });
         }
         pages.push_back(Printer.PageCount() - 1);
         PrintProblem(worked, Printer, learner);

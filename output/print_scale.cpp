@@ -22,12 +22,17 @@ PrintScale ScaleOf(PaperSize paper, double zoom) {
             .down = PrintScale::kHeight / ((paper.height - 2 * margin) * pixels)};
 }
 
+/// Reasons are never black; in a heading, which is, these are characters like others.
+bool IsRootSignOfReason(const TextMark& mark) {
+    return (mark.text == "~" || mark.text == "&") && mark.color != kBlack;
+}
+
 class InPixels {
   public:
     explicit InPixels(const PrintScale& scale) : scale(scale) {}
 
     Mark operator()(TextMark mark) const {
-        if (mark.text == "~" || mark.text == "&") {
+        if (IsRootSignOfReason(mark)) {
             mark.font.name = kSheetFace;
         }
         mark.x = X(mark.x);

@@ -1,6 +1,7 @@
 #include "output/print_solution.h"
 
 #include "core/topic_codes.h"
+#include "output/kept_together.h"
 #include "output/print_columns.h"
 #include "output/print_line.h"
 #include "typeset/variants.h"
@@ -27,6 +28,16 @@ void PrintReason(std::string_view reason, Surface& Printer, Learner& learner) {
     Printer.SetFontName(kSheetFace);
 }
 
+void PrintExplained(std::string_view step, std::string_view reason, Surface& Printer,
+                    Learner& learner) {
+    const auto print = [step, reason](Surface& page, Learner& told) {
+        PrintWholeLine(step, page, false, told);
+        PrintReason(reason, page, told);
+    };
+    KeepTogether(Printer, print);
+    print(Printer, learner);
+}
+
 void PrintSteps(const StepLog& log, bool withReasons, Surface& Printer, Learner& learner) {
     // The first line names the problem; its reason is the instruction to enter it.
     if (log.StepCount > 1) {
@@ -37,9 +48,10 @@ void PrintSteps(const StepLog& log, bool withReasons, Surface& Printer, Learner&
         if (!withReasons || i == 2) {
             PartFractions(log.StepText[i - 1], log.StepText[i], Printer);
         }
-        PrintWholeLine(log.StepText[i], Printer, false, learner);
         if (withReasons) {
-            PrintReason(log.StepNote[i], Printer, learner);
+            PrintExplained(log.StepText[i], log.StepNote[i], Printer, learner);
+        } else {
+            PrintWholeLine(log.StepText[i], Printer, false, learner);
         }
     }
 }

@@ -75,6 +75,13 @@ const QRawFont& FontMetrics::FaceOf(char32_t character, const Font& font) const 
     return Face({NameOfFace(character, font.name), font.size});
 }
 
+double FontMetrics::RoomBefore(char32_t character, const Font& font) const {
+    constexpr double kRoom = 0.1;  // of the letter height
+    const bool needsRoom =
+        medium == Medium::Explanation && character == U'=' && font.name == kExplanationFace;
+    return needsRoom ? kRoom * font.size * kPixelsPerPoint : 0;
+}
+
 double FontMetrics::CharacterWidth(char32_t character, const Font& font) const {
     if (character == U' ' && medium == Medium::Sheet) {
         return kBlankPerPoint * font.size;
@@ -87,7 +94,7 @@ double FontMetrics::CharacterWidth(char32_t character, const Font& font) const {
             glyphs, QRawFont::SeparateAdvances | QRawFont::UseDesignMetrics);
         place->second = advances.isEmpty() ? 0 : advances.front().x() / face.pixelSize();
     }
-    return place->second * font.size * kPixelsPerPoint;
+    return place->second * font.size * kPixelsPerPoint + 2 * RoomBefore(character, font);
 }
 
 double FontMetrics::Width(std::string_view text, const Font& font) const {

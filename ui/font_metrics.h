@@ -40,7 +40,11 @@ class FontMetrics : public TextMetrics {
     /// in a name of another alphabet, the face of the distribution that knows most of them.
     const QRawFont& FaceOf(char32_t character, const Font& font) const;
 
-    /// Advance of one character, in the font's size.
+    /// What a character's place lies to the right of the pen: in an explanation the equals sign,
+    /// whose face has little room beside it, stands clear of the bars of fractions.
+    double RoomBefore(char32_t character, const Font& font) const;
+
+    /// Advance of one character with the room around it, in the font's size.
     double CharacterWidth(char32_t character, const Font& font) const;
 
   private:

@@ -55,6 +55,9 @@ void FrameWindows::ShowPracticeTest() {
 void FrameWindows::ShowHelp() {
     if (help == nullptr) {
         help = new FrmHelp(&frame);
+        // The click is over before the sheet changes under it.
+        connect(help, &FrmHelp::ExampleAsked, this, &FrameWindows::ExampleAsked,
+                Qt::QueuedConnection);
     }
     help->ShowTopic(problem.topic.TopicTitle);
 }

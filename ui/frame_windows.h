@@ -38,6 +38,10 @@ class FrameWindows : public QObject {
     /// What was opened without the frame waiting for it.
     void CloseAll();
 
+  signals:
+    /// The help wants its example, the text of a problem file, put on the sheet.
+    void ExampleAsked(const std::string& problemFile);
+
   private:
     GraphPainter OpenGraph() const;
     void ShowPrintSetupOver(QWidget* window);

@@ -13,6 +13,7 @@
 #include <array>
 #include <optional>
 
+#include "core/text.h"
 #include "ui/artwork.h"
 #include "ui/font_metrics.h"
 #include "ui/help_contents.h"
@@ -63,6 +64,11 @@ FrmHelp::FrmHelp(QWidget* parent)
 
     SizeIcons();
     connect(view, &HelpView::PageShown, this, &FrmHelp::MirrorPage);
+    connect(view, &HelpView::ExampleAsked, this, [this](const QString& name) {
+        // It would stand over the sheet.
+        close();
+        emit ExampleAsked(ReadHelpFile(Text(name.toStdString(), ".nrl")));
+    });
     view->ShowPage(QString::fromLatin1(kHome));
     const int wanted = fontMetrics().averageCharWidth() * kSideLetters;
     resize(kOpeningSize.expandedTo({wanted * 3, wanted * 2})

@@ -33,6 +33,10 @@ class FrmHelp : public QWidget {
     /// As above by the name of a page, such as "keyboard"; empty for the page last read.
     void ShowPage(const QString& name = {});
 
+  signals:
+    /// The problem file of a page's example, its whole text, is to be put on the sheet.
+    void ExampleAsked(const std::string& problemFile);
+
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;

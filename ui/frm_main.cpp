@@ -48,6 +48,7 @@ FrmMain::FrmMain(SettingsStore& store, std::string documents, std::string StartF
 
     ShowSettings(ReadSettings(store));
     ConnectCommands();
+    connect(&windows, &FrameWindows::ExampleAsked, this, &FrmMain::LoadExample);
     UpdateCommands();
 }
 

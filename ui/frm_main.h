@@ -57,6 +57,7 @@ class FrmMain : public QMainWindow {
     bool IsTicked(const char* command) const { return commands.At(command).isChecked(); }
     void LoadPaper();
     void LoadProblem(std::string_view StartFile);
+    void LoadExample(const std::string& problemFile);
     void UpdateCommands();
     void ShowNumberForm();
     void OpenPage(const QUrl& page);

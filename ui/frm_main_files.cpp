@@ -53,6 +53,13 @@ void FrmMain::LoadProblem(std::string_view StartFile) {
     numerello::mnuLoad_Click(StartFile, files, problem, form, clock, random);
 }
 
+/// The help is a window of its own: the sheet comes to the front.
+void FrmMain::LoadExample(const std::string& problemFile) {
+    activateWindow();
+    Loading form(*this);
+    LoadSavedProblem(ReadSavedProblem(problemFile), problem, form, clock, random);
+}
+
 void FrmMain::dragEnterEvent(QDragEnterEvent* event) {
     if (!DroppedFile(*event).empty()) {
         event->setDropAction(Qt::CopyAction);

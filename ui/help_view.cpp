@@ -11,6 +11,7 @@
 #include <array>
 #include <cmath>
 
+#include "help/topic_page.h"
 #include "typeset/surface.h"
 #include "ui/colors.h"
 #include "ui/text.h"
@@ -171,6 +172,15 @@ void HelpView::Restyle() {
     const double place = bar->maximum() > 0 ? double(bar->value()) / bar->maximum() : 0;
     reload();
     bar->setValue(qRound(place * bar->maximum()));
+}
+
+/// An example is no page: the one on show stays.
+void HelpView::doSetSource(const QUrl& address, QTextDocument::ResourceType type) {
+    if (address.toString().startsWith(ToQString(kExampleScheme))) {
+        emit ExampleAsked(address.path());
+    } else {
+        QTextBrowser::doSetSource(address, type);
+    }
 }
 
 QVariant HelpView::loadResource(int type, const QUrl& name) {

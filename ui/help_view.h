@@ -41,8 +41,12 @@ class HelpView : public QTextBrowser {
     /// Another page is on show, or the same one once more.
     void PageShown();
 
+    /// The example of that page is to be put on the sheet.
+    void ExampleAsked(const QString& name);
+
   protected:
     QVariant loadResource(int type, const QUrl& name) override;
+    void doSetSource(const QUrl& address, QTextDocument::ResourceType type) override;
     void changeEvent(QEvent* event) override;
 
   private:

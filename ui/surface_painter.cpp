@@ -159,7 +159,7 @@ void PaintText(QPainter& painter, const TextMark& mark, const FontMetrics& faces
             face = &its;
         }
         glyphs += face->glyphIndexesForString(QString::fromUcs4(&character, 1));
-        places.append({x, 0});
+        places.append({x + faces.RoomBefore(character, mark.font), 0});
         x += faces.CharacterWidth(character, mark.font);
     }
     DrawRun(painter, *face, origin, glyphs, places);

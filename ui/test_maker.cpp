@@ -10,9 +10,10 @@ TestMaker MakerOfTests(const Clock& clock, const AnswerSettings& settings) {
     return [&clock, &settings](std::span<const TestRow> rows) {
         MersenneSource digits;
         MersenneSource direct;
-        ExampleDraws draws(clock, digits, direct);
+        SteppingClock moments(clock);
+        ExampleDraws draws(moments, digits, direct);
         PracticeTest test;
-        CreatePracticeTest(rows, test, draws);
+        CreatePracticeTest(rows, test, draws, &moments);
         return MadeTest{test.Lines(), [problems = std::move(test.problems), &settings] {
                             return AnswerKey(problems, settings, AllSolvers());
                         }};

@@ -144,7 +144,11 @@ class Speaker {
             at += unit.size();
             return;
         }
-        if (const SpokenSign* sign = SignHere()) {
+        if (IsDash()) {
+            spoken += ", ";
+        } else if (JoinsPoints()) {
+            spoken += " to ";
+        } else if (const SpokenSign* sign = SignHere()) {
             spoken += Text(" ", sign->words, " ");
         } else if (here != "[" && here != "]") {
             spoken += StandsAlone() ? Text(" ", here, " ") : here;
@@ -185,6 +189,37 @@ class Speaker {
     /// Between two words, as in forty-two.
     bool IsHyphen() const {
         return sentence && at > 0 && IsLetter(At(at - 1)) && IsLetter(At(at + 1));
+    }
+
+    bool IsWord(std::size_t from, std::size_t length) const {
+        std::size_t letters = 0;
+        while (letters < length && IsLetter(At(from + letters))) {
+            ++letters;
+        }
+        return letters == length;
+    }
+
+    /// Between blanks and beside a word of three letters or more, which is nothing to subtract.
+    bool IsDash() const {
+        constexpr std::size_t kWord = 3;
+        if (!sentence || At(at) != "-" || at == 0 || At(at - 1) != " " || At(at + 1) != " ") {
+            return false;
+        }
+        return IsWord(at + 2, kWord) || (at > kWord && IsWord(at - 1 - kWord, kWord));
+    }
+
+    /// Behind a point such as (1,2), where the line through it and the next one is meant.
+    bool JoinsPoints() const {
+        if (At(at) != "-" || at == 0 || At(at - 1) != ")") {
+            return false;
+        }
+        std::size_t open = at - 1;
+        bool hasComma = false;
+        while (open > 0 && At(open) != "(") {
+            --open;
+            hasComma = hasComma || At(open) == ",";
+        }
+        return hasComma && At(open) == "(";
     }
 
     /// A letter of mathematics; in a sentence one behind a number, but not the "nd" of 2nd.

@@ -107,7 +107,10 @@ HALF = STROKE / 2
 AXIS = 690  # the middle of the signs over the baseline
 ARM = 550  # half a sign's width
 WIDE = 1720  # the advance of signs that stand between terms: room on both sides
-MINUS = 2040  # more room, and a short stroke: it stands almost in line with the bars of fractions
+# More room, and short strokes, for minus and equals: they stand almost in line with the bars of
+# fractions.
+MINUS = 2040
+EQUAL = 2040
 
 
 def polygon(points):
@@ -162,8 +165,8 @@ def times():
     return [turned(cross(WIDE / 2, AXIS, ARM), WIDE / 2, AXIS, 45)]
 
 
-def equal(advance):
-    return [bar(advance / 2, AXIS - EQUAL_GAP), bar(advance / 2, AXIS + EQUAL_GAP)]
+def equal():
+    return [bar(EQUAL / 2, AXIS + rise, ARM - 60) for rise in (-EQUAL_GAP, EQUAL_GAP)]
 
 
 def not_equal(advance):
@@ -334,7 +337,7 @@ def own_glyphs():
         "_": ("barsegment", bar_segment(), DIGIT),
         "+": ("plus", plus(WIDE), WIDE),
         "-": ("minus", minus(), MINUS),
-        "=": ("equal", equal(WIDE), WIDE),
+        "=": ("equal", equal(), EQUAL),
         "<": ("less", angle(-1), WIDE),
         ">": ("greater", angle(1), WIDE),
         "\u00d7": ("multiply", times(), WIDE),

@@ -65,6 +65,19 @@ runs 0 solve --topic "Converting Feet To Yards" --problem 3 --answer x --set Use
 runs 0 solve --topic "Meter Conversions" --box 4=5 --list 1=1 --list 1=0 --list 2=0
 prints "5 mm = 5 mm"
 
+runs 0 solve --topic "Subtraction" --box 1=1000 --box 2=1
+prints "0  10 10 10"
+prints "1  0  0  0"
+for command in "solve --problem 1/2" "type 1/2" example learn; do
+    # shellcheck disable=SC2086  # each is several words
+    runs 2 $command --topic "fraction arithmetic"
+    tells 'numerello-cli: unknown topic "fraction arithmetic"'
+    tells "    Fraction Arithmetic"
+    tells '"numerello-cli topics" lists'
+done
+runs 0 solve --topic "Fraction Arithmetic" --problem 1/2+1/3
+prints "#1/2#+#1/3#"
+
 runs 0 solve --topic "Addition" --box 1=47 --box 2=38
 prints " 2. Add 7 and 8 (15) ."
 prints "    + 3 8"

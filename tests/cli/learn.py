@@ -138,6 +138,39 @@ def works_in_columns():
     check(lesson.end() == 0, "Ctrl+D does not leave")
 
 
+def says_what_to_do_without_a_mouse():
+    lesson = Lesson(TOPIC, "Converting Feet To Yards")
+    lesson.await_text("Problem: ")
+    lesson.press("+")
+    lesson.await_text("Click the Assistant Wiz for details.")
+    lesson.await_text("The Wiz says: Enter a number.")
+    lesson.press("\x04")
+    check(lesson.end() == 0, "Ctrl+D does not leave")
+    lesson = Lesson(TOPIC, "Division")
+    lesson.await_text("Number outside the division bar = ")
+    lesson.press("3\n9999999999\n")
+    lesson.await_text("Click the 'Erase' button and try again.")
+    lesson.await_text("In the terminal Enter erases the problem.")
+    lesson.press("q")
+    check(lesson.end() == 0, "q does not leave")
+
+
+def solves_readably_on_a_terminal_alone():
+    solve = [CLI, "solve", TOPIC, "Fraction Arithmetic", "--problem", "1/2+1/3"]
+    piped = subprocess.run(solve, capture_output=True, text=True, check=True).stdout
+    check(piped.startswith("#1/2#+#1/3#"), f"a pipe gets {piped[:40]!r}")
+    master, slave = pty.openpty()
+    process = subprocess.Popen(solve, stdin=slave, stdout=slave, stderr=slave)
+    shown = ""
+    while "6" not in shown and select.select([master], [], [], 5)[0]:
+        shown += os.read(master, 65536).decode()
+    check(shown.startswith("1/2+1/3"), f"a terminal gets {shown[:40]!r}")
+    check("#" not in shown, f"a terminal gets marks: {shown!r}")
+    check(process.wait(5) == 0, "solve fails on a terminal")
+    os.close(slave)
+    os.close(master)
+
+
 def asks_for_values():
     lesson = Lesson(TOPIC, "Evaluating Polynomials")
     lesson.await_text("Problem: ")
@@ -279,7 +312,8 @@ def takes_no_key_for_a_part_of_a_broken_character():
     check(lesson.end() == 0, "Ctrl+D does not leave")
 
 
-for scene in (types_and_plays, chooses_by_the_beginning, works_in_columns, asks_for_values,
+for scene in (types_and_plays, chooses_by_the_beginning, works_in_columns,
+              says_what_to_do_without_a_mouse, solves_readably_on_a_terminal_alone, asks_for_values,
               takes_commands_in_place_of_a_value, takes_no_key_for_a_part_of_a_broken_character,
               leaves_in_the_middle_of_a_line,
               clears_what_goes_over_several_rows, restores_the_terminal_on_signals,

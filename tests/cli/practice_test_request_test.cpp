@@ -36,6 +36,18 @@ TEST(PracticeTestRequest, IsTheSameForTheSameMomentAndSeed) {
     EXPECT_NE(once, AskWith(rows, {{"clock", "1234"}, {"seed", 6}}));
 }
 
+TEST(PracticeTestRequest, RepeatsNoProblemRightAwayWithoutAClock) {
+    const Json lines = AskWith({{{"topic", "Addition"}, {"count", 50}}}).at("lines");
+    ASSERT_EQ(lines.size(), 52U);
+    const auto problem = [&lines](std::size_t i) {
+        const auto line = lines[i].get<std::string>();
+        return line.substr(line.find(')'));
+    };
+    for (std::size_t i = 3; i < lines.size(); ++i) {
+        EXPECT_NE(problem(i), problem(i - 1)) << i;
+    }
+}
+
 TEST(PracticeTestRequest, ATestThatIsTooLongKeepsItsLines) {
     const Json answer = AskWith({{{"topic", "Ratios"}, {"count", 200}, {"complex", false}}});
     EXPECT_EQ(answer.at("ok"), true);

@@ -45,6 +45,15 @@ grep -qx '50:application/x-numerello:\*\.nrl' "$scratch/mime/globs2" ||
 grep -qx 'MimeType=application/x-numerello;' "$share/applications/$id.desktop" ||
     fail "the program does not open its own files"
 
+# Every example is a problem that the program loads and works.
+count=0
+for example in "$share"/numerello/examples/*.nrl; do
+    count=$((count + 1))
+    "$cli" solve --file "$example" --answer 2 --answer 3 --answer 4 >"$scratch/output" ||
+        fail "$example: not solved"
+done
+[ "$count" -eq 8 ] || fail "there are $count examples for the 8 topics of no tree"
+
 # Manual pages: nothing to warn of, the version, every command and every option.
 for page in numerello numerello-cli; do
     gzip -dc "$share/man/man1/$page.1.gz" >"$scratch/$page.1" || fail "there is no manual of $page"

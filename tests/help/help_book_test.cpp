@@ -6,6 +6,7 @@
 #include <set>
 
 #include "catalogue/entry_layouts.h"
+#include "catalogue/saved_problem.h"
 #include "catalogue/topics.h"
 #include "help/help_error.h"
 #include "help/page_text.h"
@@ -85,6 +86,11 @@ TEST(HelpBook, LeadsEveryLinkToAPage) {
     for (const HelpPage& page : TheBook().pages) {
         for (const std::string& link : LinksOf(page.html)) {
             ++links;
+            if (link.starts_with(kExampleScheme)) {
+                EXPECT_EQ(link, Text(kExampleScheme, page.name));
+                EXPECT_FALSE(page.example.empty()) << page.name;
+                continue;
+            }
             ASSERT_EQ(link.substr(0, 5), "help:") << page.name;
             EXPECT_NO_THROW(PageOf(link.substr(5))) << page.name << " leads to " << link;
         }
@@ -92,10 +98,29 @@ TEST(HelpBook, LeadsEveryLinkToAPage) {
     EXPECT_GT(links, 105);
 }
 
+TEST(HelpBook, OffersTheExamplesOfTopicsInNoTree) {
+    for (const Topic& topic : Topics()) {
+        const HelpPage& page = PageOf(PageName(topic.caption));
+        EXPECT_EQ(page.example.empty(), !topic.parent.empty()) << topic.caption;
+        EXPECT_EQ(CountOf(page.html, Text("href=\"example:", page.name, "\"")),
+                  topic.parent.empty() ? 1 : 0)
+            << topic.caption;
+        if (topic.parent.empty()) {
+            const SavedProblem saved = ReadSavedProblem(page.example);
+            EXPECT_EQ(saved.TopicTitle, topic.caption);
+            EXPECT_EQ(saved.typed, TextFor(topic.caption).problem);
+            EXPECT_EQ(ExampleFileName(page), Text(topic.caption, ".nrl"));
+        }
+    }
+}
+
 TEST(HelpBook, RefusesALinkThatLeadsNowhere) {
     const auto source = SourcesWith("pages/welcome.html",
                                     "<h1>Welcome</h1>\n<p><a href=\"help:attic\">Attic</a></p>\n");
     EXPECT_EQ(WhyNot(source), "the page \"welcome\" has a dead link: help:attic");
+    const auto example = SourcesWith(
+        "pages/welcome.html", "<h1>Welcome</h1>\n<p><a href=\"example:addition\">Add</a></p>\n");
+    EXPECT_EQ(WhyNot(example), "the page \"welcome\" has a dead link: example:addition");
 }
 
 TEST(HelpBook, RefusesATopicWithoutText) {

@@ -96,6 +96,47 @@ TEST(PracticeTest, EveryTopicFillsItsLines) {
     }
 }
 
+/// Made as if at that second of the hour, its problems a second apart.
+PracticeTest MadeInTurn(const std::vector<TestRow>& rows, int second) {
+    SteppingClock clock{FixedClock(MomentAt(second))};
+    MersenneSource digits;
+    MersenneSource direct;
+    ExampleDraws draws(clock, digits, direct);
+    PracticeTest test;
+    CreatePracticeTest(rows, test, draws, &clock);
+    return test;
+}
+
+TEST(PracticeTest, RepeatsNoProblemRightAwayWhereTheClockGoesOn) {
+    // The last starts run over the end of the hour.
+    for (const int second : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 3590, 3599}) {
+        for (const char* topic : {"Addition", "Factoring", "Rounding", "Medians", "Ratios",
+                                  "Area of a Circle", "Reciprocals", "Meter Conversions"}) {
+            const PracticeTest test = MadeInTurn({{topic, 18, false}}, second);
+            ASSERT_EQ(test.problems.size(), 18U);
+            for (std::size_t i = 1; i < test.problems.size(); ++i) {
+                const std::string& above = test.problems[i - 1].line;
+                const std::string& line = test.problems[i].line;
+                EXPECT_NE(line.substr(line.find(')')), above.substr(above.find(')')))
+                    << topic << ' ' << second << ' ' << i;
+            }
+        }
+    }
+}
+
+TEST(PracticeTest, KeepsTheDigitsOfAProblemAlike) {
+    for (const TestProblem& problem : MadeInTurn({{"Factoring", 18, true}}, 1234).problems) {
+        EXPECT_EQ(problem.keys.find_first_not_of(problem.keys.front()), std::string::npos)
+            << problem.line;
+    }
+}
+
+TEST(PracticeTest, IsTheSameAtTheSameMoment) {
+    const std::vector<TestRow> rows{{"Addition", 5, false}, {"Arithmetic", 5, true}};
+    EXPECT_EQ(MadeInTurn(rows, 77).Lines(), MadeInTurn(rows, 77).Lines());
+    EXPECT_NE(MadeInTurn(rows, 77).Lines(), MadeInTurn(rows, 177).Lines());
+}
+
 TEST(PracticeTest, WithoutTopicsIsEmpty) {
     EXPECT_TRUE(Made({}, 0).Lines().empty());
     EXPECT_TRUE(Made(std::vector<TestRow>(10), 0).Lines().empty());

@@ -1,5 +1,6 @@
 #include "output/print_heading.h"
 
+#include "output/print_scale.h"
 #include "printed.h"
 
 namespace numerello {
@@ -47,6 +48,19 @@ TEST(PrintHeading, MeansTheCharactersThatTheSheetsDrawAsMathematics) {
                                          {"5", dollar + kCharacter, 3 * kLine},
                                          {"~", 3 * kBlank, 4 * kLine, 12, other}});
     EXPECT_EQ(printer.surface.FontName(), kSheetFace);
+}
+
+TEST(PrintHeading, KeepsThoseCharactersOnPaper) {
+    PlainPrinter printer;
+    PrintHeading({"Mr & Mrs Smith", "~a~", "&"}, printer.surface);
+    int signs = 0;
+    for (const Row& row : RowsOf(MarksInPixels(printer.surface.Marks(), ScaleOfPrint(kA4)))) {
+        if (row.text == "&" || row.text == "~") {
+            ++signs;
+            EXPECT_EQ(row.face, kExplanationFace) << row.text;
+        }
+    }
+    EXPECT_EQ(signs, 4);
 }
 
 TEST(PrintHeading, IsBlackWhateverWasPrintedBefore) {

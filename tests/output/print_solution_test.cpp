@@ -87,6 +87,32 @@ TEST_F(PrintedSolution, GoesOnAtTwentyFourBehindALineBelowFiveHundredAndSixty) {
     ExpectRow(Rows(2), 0, {"x=35", 12, 24});
 }
 
+TEST_F(PrintedSolution, TurnsThePageBeforeAStepWhoseReasonWouldFindNoRoom) {
+    Log(2);
+    // Steps are at 161.6, 234.3, 307.1, 379.8, 452.5 and 525.3. The last one's reason would begin
+    // at 554.5 as in the next test, but its second row, 12 lower, is beyond 560.
+    for (int i = 3; i <= 6; ++i) {
+        problem.log.Write("x=" + std::to_string(i), "why " + std::to_string(i));
+    }
+    problem.log.Write("x=7", std::string(200, 'y'));
+    Print(true);
+    ASSERT_EQ(printer.surface.PageCount(), 2);
+    EXPECT_EQ(Rows(0).back().text, "why6");
+    const std::vector<Row> rows = Rows(1);
+    ASSERT_EQ(rows.size(), 3U);
+    ExpectRow(rows, 0, {"x=7", 12, 24});
+    ExpectRow(rows, 1, {std::string(115, 'y') + "...", 12, 24 + kPitch, 10, kReasonFace, kBlue});
+    ExpectRow(rows, 2, {std::string(85, 'y'), 15, 36 + kPitch, 10, kReasonFace, kBlue});
+}
+
+TEST_F(PrintedSolution, TearsAStepThatFitsNoPage) {
+    Log(1);
+    problem.log.Write(std::string(2900, 'x'), std::string(2900, 'y'));
+    Print(true);
+    EXPECT_EQ(Rows(0)[4].text, std::string(96, 'x') + "...");
+    EXPECT_GT(printer.surface.PageCount(), 1);
+}
+
 TEST_F(PrintedSolution, PutsAReasonOnTheNextPageWhereItsLineWasTheLast) {
     Log(20);
     Print(true);

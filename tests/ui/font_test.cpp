@@ -125,6 +125,12 @@ TEST_F(SheetFont, OperatorsStandClearOfTheFractionsBesideThem) {
     }
 }
 
+TEST_F(SheetFont, AnEqualsSignIsToldFromTheBarsBesideIt) {
+    const QRectF equals = Glyph("=", sheet).boundingRect();
+    EXPECT_GT(equals.left(), 2.5);
+    EXPECT_NEAR(sheet.Width("=", kTwelve) - equals.right(), equals.left(), 0.1);
+}
+
 TEST_F(SheetFont, AMinusIsToldFromTheBarsBesideIt) {
     const QRectF minus = Glyph("-", sheet).boundingRect();
     EXPECT_LT(minus.width(), 0.75 * kDigit);

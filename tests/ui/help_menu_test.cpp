@@ -11,6 +11,8 @@
 
 #include "tests/ui/frm_main_fixture.h"
 #include "ui/frm_about.h"
+#include "ui/frm_help.h"
+#include "ui/help_view.h"
 
 namespace numerello {
 namespace {
@@ -55,6 +57,22 @@ TEST_F(HelpMenu, WithoutABrowserTheAddressIsShown) {
     EXPECT_TRUE(Status().isVisible());
     EXPECT_TRUE(Status().currentMessage().endsWith(
         QStringLiteral(" https://vantrel.example/numerello.htm")));
+}
+
+TEST_F(HelpMenu, OpensAnExampleInPlaceOfWhatIsOnTheSheet) {
+    Choose(QStringLiteral("Arithmetic"));
+    Type(QStringLiteral("3+4"));
+    Command("mnuHelpTopics").trigger();
+    auto& help = Find<FrmHelp>(frame, QStringLiteral("frmHelp"));
+    help.ShowPage(QStringLiteral("solving-equations"));
+    auto& page = Find<HelpView>(help, QStringLiteral("page"));
+    page.setSource(QUrl(QStringLiteral("example:solving-equations")));
+    QTest::qWait(0);
+    EXPECT_EQ(page.Page(), "solving-equations");
+    EXPECT_FALSE(help.isVisible());
+    EXPECT_EQ(Now().topic.TopicTitle, "Solving Equations");
+    EXPECT_GT(Now().log.StepCount, 3);
+    EXPECT_TRUE(Arrow().isVisible());
 }
 
 TEST_F(HelpMenu, AboutNamesTheProgramAndTheComputer) {

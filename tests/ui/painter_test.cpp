@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -67,6 +68,33 @@ TEST_F(Painted, RowOfSegmentsIsOneEvenBar) {
         EXPECT_GT(Darkest(image, 40 * scale, 0, image.height()), 150);
         EXPECT_EQ(Darkest(image, 8 * scale, 0, image.height()), 0);
     }
+}
+
+TEST_F(Painted, EqualsSignOfAnExplanationStandsClearOfBars) {
+    const FontMetrics bold{FontMetrics::Medium::Explanation};
+    const Font font{std::string(kExplanationFace), 12};
+    const double sign = 20 + bold.Width("1", font);
+    std::vector<Mark> marks{TextMark{"_", 20, 5, font, kBlue},
+                            TextMark{"=", sign, 12.2, font, kBlue},
+                            TextMark{"_", sign + bold.Width("=", font), 5, font, kBlue}};
+    QImage image(80, 40, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    PaintMarks(painter, marks, bold, {});
+    painter.end();
+    // Two white columns at least on either side.
+    std::vector<int> gaps{0};
+    bool begun = false;
+    for (int x = 0; x < image.width(); ++x) {
+        if (Darkest(image, x, 0, image.height()) > 0) {
+            begun = true;
+            gaps.push_back(0);
+        } else if (begun) {
+            ++gaps.back();
+        }
+    }
+    gaps.pop_back();
+    EXPECT_EQ(std::count_if(gaps.begin(), gaps.end(), [](int gap) { return gap >= 2; }), 2);
 }
 
 TEST_F(Painted, RootSignAndBarAreJoinedWithoutAGapOrABlot) {

@@ -98,6 +98,36 @@ TEST(SpokenLine, KeepsTheWordsOfASentence) {
     }
 }
 
+TEST(SpokenLine, HearsNoMinusInADash) {
+    const Spoken lines[] = {
+        {"Both coordinates are positive - Quadrant I", "Both coordinates are positive, Quadrant I"},
+        {"a = 3, b = 4, c = 5 - Triangle 2: a = 6",
+         "a equals 3, b equals 4, c equals 5, Triangle 2: a equals 6"},
+        {"Next, subtract the exponents: 5 - -3 = 8",
+         "Next, subtract the exponents: 5 minus minus 3 equals 8"},
+        {"9 - (-2)", "9 minus open parenthesis minus 2 close parenthesis"},
+    };
+    for (const auto& [line, words] : lines) {
+        EXPECT_EQ(SpokenLine(line), words) << line;
+    }
+}
+
+TEST(SpokenLine, HearsNoMinusBetweenTwoPoints) {
+    const Spoken lines[] = {
+        {"(6,6)-(6,-6)",
+         "open parenthesis 6,6 close parenthesis to open parenthesis 6, minus 6 close parenthesis"},
+        {"(6,6)-", "open parenthesis 6,6 close parenthesis to"},
+        {"Enter a pair of points.  Example: (1,2)-(5,6)",
+         "Enter a pair of points. Example: (1,2) to (5,6)"},
+        {"(x+1)-(x-2)",
+         "open parenthesis x plus 1 close parenthesis minus open parenthesis x minus 2 close "
+         "parenthesis"},
+    };
+    for (const auto& [line, words] : lines) {
+        EXPECT_EQ(SpokenLine(line), words) << line;
+    }
+}
+
 TEST(SpokenLine, ReadsOnBehindAMarkWithoutPartner) {
     EXPECT_EQ(SpokenLine("3+#1/2"), "3 plus #1 over 2");
     EXPECT_EQ(SpokenLine("4^"), "4^");

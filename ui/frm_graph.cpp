@@ -200,7 +200,7 @@ void FrmGraph::PlaceControls() {
     zoomIn->move(kMargin, kMargin);
     zoomOut->move(zoomIn->geometry().right() + 1 + kMargin, kMargin);
     const QSize most(qRound(whole.width() * kListWidth), qRound(whole.height() * kListHeight));
-    list->resize(list->SizeWithin(most));
+    list->FitInto(most);
     list->move(whole.width() - list->width(), whole.height() - list->height() - kMargin);
 }
 

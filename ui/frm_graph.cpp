@@ -9,6 +9,7 @@
 #include <array>
 
 #include "graph/spoken_graph.h"
+#include "ui/graph_place.h"
 #include "ui/named_action.h"
 #include "ui/pointer.h"
 #include "ui/screen_room.h"
@@ -154,14 +155,14 @@ void FrmGraph::MakeShortcuts() {
             &FrmGraph::ExitAsked);
 }
 
-void FrmGraph::Open() {
+void FrmGraph::Open(const QRect& written) {
     ResizeDrawing(kNormalSide);
     if (parentWidget() != nullptr) {
         // Solutions stand at the left of their sheet.
         QRect place = geometry();
         place.moveCenter(parentWidget()->geometry().center());
         place.moveRight(parentWidget()->geometry().right() - kBesideEdge);
-        setGeometry(Within(place, parentWidget()->screen()->availableGeometry()));
+        setGeometry(PlaceOfGraph(place, written, parentWidget()->screen()->availableGeometry()));
     }
     show();
     picture->setFocus();

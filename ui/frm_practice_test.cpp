@@ -22,6 +22,7 @@
 
 #include "catalogue/topics.h"
 #include "ui/frm_print_preview.h"
+#include "ui/dialog_help.h"
 #include "ui/pointer.h"
 #include "ui/screen_room.h"
 #include "ui/text.h"
@@ -73,6 +74,7 @@ FrmPracticeTest::FrmPracticeTest(TestMaker makeTest, std::optional<HeadingLines>
     auto* row = new QHBoxLayout(this);
     row->addWidget(ssTab1, TopicsWidth(*this));
     row->addLayout(right, OutlineWidth());
+    OfferHelp(*this, QStringLiteral("practice-tests"));
     resize(PreferredSize());
     treeView1->setFocus();
 }

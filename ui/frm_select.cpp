@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "ui/dialog_help.h"
 #include "ui/forwarding_view.h"
 #include "ui/screen_room.h"
 #include "ui/text.h"
@@ -32,6 +33,7 @@ FrmSelect::FrmSelect(TopicChoice& topic, std::vector<TreeNode> nodes, const Cloc
     setObjectName(QStringLiteral("frmSelect"));
     setWindowTitle(QStringLiteral("Choose problem type:"));
     setModal(true);
+    OfferHelp(*this, QStringLiteral("choosing"));
 
     MakeTree();
     MakeIndex();

@@ -54,6 +54,10 @@ std::string DateText(const Date& date) {
     return Text(TwoDigits(date.month), "/", TwoDigits(date.day), "/", WholeText(date.year));
 }
 
+bool NeedsOtherFace(std::string_view line) {
+    return line.find_first_of(kDrawnOtherwise) != std::string_view::npos;
+}
+
 void PrintHeading(const HeadingLines& heading, Surface& Printer) {
     const double size = Printer.FontSize();
     Printer.ForeColor = kBlack;

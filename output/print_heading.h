@@ -18,6 +18,10 @@ HeadingLines HeadingAtOpening(std::string_view subject, const Date& today);
 /// "11/21/2026".
 std::string DateText(const Date& date);
 
+/// Whether the line has characters that the sheets' face would draw as parts of mathematics. These
+/// are printed in the face of the reasons.
+bool NeedsOtherFace(std::string_view line);
+
 /// Three empty lines and the heading's, in the size of the surface. A line too long for the paper
 /// is set smaller.
 void PrintHeading(const HeadingLines& heading, Surface& Printer);

@@ -7,6 +7,37 @@
 
 namespace numerello {
 
+namespace {
+
+constexpr int kPlaceholderAlpha = 128;
+
+}  // namespace
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+    FitPlaceholders();
+}
+
+bool Application::event(QEvent* event) {
+    if (event->type() == QEvent::ApplicationPaletteChange) {
+        FitPlaceholders();
+    }
+    return QApplication::event(event);
+}
+
+void Application::FitPlaceholders() {
+    QPalette now = palette();
+    const bool isNamed = now.isBrushSet(QPalette::Active, QPalette::PlaceholderText);
+    if (isNamed && now.placeholderText().color() != placeholder) {
+        return;
+    }
+    placeholder = now.color(QPalette::Active, QPalette::Text);
+    placeholder.setAlpha(kPlaceholderAlpha);
+    if (!isNamed || now.placeholderText().color() != placeholder) {
+        now.setColor(QPalette::PlaceholderText, placeholder);
+        setPalette(now);
+    }
+}
+
 bool Application::notify(QObject* receiver, QEvent* event) {
     try {
         return QApplication::notify(receiver, event);

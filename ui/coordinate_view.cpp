@@ -1,8 +1,9 @@
 #include "ui/coordinate_view.h"
 
+#include <QFontMetricsF>
+#include <QMap>
 #include <QScrollBar>
 #include <algorithm>
-#include <utility>
 
 #include "graph/coordinate_list.h"
 #include "ui/colors.h"
@@ -14,9 +15,6 @@ namespace {
 
 /// Paper stays paper, whatever the desktop's colors.
 constexpr QColor kPaper(0xFF, 0xFF, 0xFF, 0xDC);
-
-constexpr int kBesideText = 12;
-constexpr int kAroundText = 4;
 
 QPalette PaperColors(QPalette palette) {
     palette.setColor(QPalette::Base, kPaper);
@@ -41,7 +39,7 @@ int CoordinateModel::rowCount(const QModelIndex& parent) const {
 
 QVariant CoordinateModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::SizeHintRole) {
-        return entrySize;
+        return entrySize.isValid() ? entrySize : QVariant();
     }
     const bool isText = role == Qt::DisplayRole || role == Qt::AccessibleTextRole;
     return isText && index.row() < rowCount() ? ToQString(CoordinateEntry(*plot, index.row()))
@@ -60,7 +58,9 @@ CoordinateView::CoordinateView(QWidget* parent) : QListView(parent) {
 }
 
 void CoordinateView::Show(const Plot& plot) {
-    entrySize = SizeOfEntries(plot);
+    // Without a size the delegate says what an entry needs.
+    entries.Show(plot, {});
+    entrySize = SizeOfEntries();
     entries.Show(plot, entrySize);
     if (entries.rowCount() > 0) {
         setCurrentIndex(entries.index(0));
@@ -68,33 +68,49 @@ void CoordinateView::Show(const Plot& plot) {
     }
 }
 
-/// Of the longest entry. Of entries equally long each is about as wide.
-QSize CoordinateView::SizeOfEntries(const Plot& plot) const {
-    std::string longest;
-    for (std::size_t i = 0; i < plot.points.size(); ++i) {
-        std::string entry = CoordinateEntry(plot, static_cast<int>(i));
-        if (entry.size() > longest.size()) {
-            longest = std::move(entry);
+/// What the delegate wants for the widest entry. Measuring each of thousands as a whole would take
+/// longer than drawing the graph, so the widest is found by the widths of its characters.
+QSize CoordinateView::SizeOfEntries() const {
+    QMap<QChar, double> widths;
+    const QFontMetricsF metrics(font());
+    int widest = 0;
+    double most = 0;
+    for (int row = 0; row < entries.rowCount(); ++row) {
+        double width = 0;
+        for (const QChar character : entries.index(row).data().toString()) {
+            auto known = widths.find(character);
+            if (known == widths.end()) {
+                known = widths.insert(character, metrics.horizontalAdvance(character));
+            }
+            width += *known;
+        }
+        if (width > most) {
+            most = width;
+            widest = row;
         }
     }
-    return {fontMetrics().horizontalAdvance(ToQString(longest)) + kBesideText,
-            fontMetrics().height() + kAroundText};
+    return sizeHintForIndex(entries.index(widest));
 }
 
-QSize CoordinateView::SizeWithin(QSize most) const {
+void CoordinateView::FitInto(QSize most) {
     const QSize around(2 * frameWidth(), 2 * frameWidth());
     const int rows = std::max(1, entries.rowCount());
     const int rowsThatFit =
         std::max(1, (most.height() - around.height()) / std::max(1, entrySize.height()));
     QSize size =
         QSize(entrySize.width(), entrySize.height() * std::min(rows, rowsThatFit)) + around;
-    if (rows > rowsThatFit) {
+    const bool isTooLong = rows > rowsThatFit;
+    if (isTooLong) {
         size.rwidth() += verticalScrollBar()->sizeHint().width();
     }
-    if (size.width() > most.width()) {
+    const bool isTooWide = size.width() > most.width();
+    if (isTooWide) {
         size = {most.width(), size.height() + horizontalScrollBar()->sizeHint().height()};
     }
-    return size;
+    // By itself either bar would stay for the room that the other one takes.
+    setVerticalScrollBarPolicy(isTooLong ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+    setHorizontalScrollBarPolicy(isTooWide ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+    resize(size);
 }
 
 }  // namespace numerello

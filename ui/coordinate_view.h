@@ -14,7 +14,8 @@ class CoordinateModel : public QAbstractListModel {
   public:
     using QAbstractListModel::QAbstractListModel;
 
-    /// The plot must outlive the model, or the next call. Every entry gets the same room.
+    /// The plot must outlive the model, or the next call. Every entry gets the same room; without
+    /// a valid size each is asked what it needs.
     void Show(const Plot& plot, QSize entrySize);
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -34,11 +35,11 @@ class CoordinateView : public QListView {
 
     void Show(const Plot& plot);
 
-    /// As large as its entries, but no larger than that.
-    QSize SizeWithin(QSize most) const;
+    /// Becomes as large as its entries, but no larger than that; what has no room scrolls.
+    void FitInto(QSize most);
 
   private:
-    QSize SizeOfEntries(const Plot& plot) const;
+    QSize SizeOfEntries() const;
 
     CoordinateModel entries;
     QSize entrySize;

@@ -19,6 +19,19 @@ namespace {
 
 constexpr int kSmallestLetters = 9;
 
+/// Whatever the desktop's colours.
+QPalette PaperAndInk(QPalette palette) {
+    constexpr QColor kPaler(0, 0, 0, 128);
+    for (const auto ground : {QPalette::Base, QPalette::Button, QPalette::Window}) {
+        palette.setColor(ground, Qt::white);
+    }
+    for (const auto ink : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText}) {
+        palette.setColor(ink, Qt::black);
+    }
+    palette.setColor(QPalette::PlaceholderText, kPaler);
+    return palette;
+}
+
 }  // namespace
 
 QFont EntryFont(int size) {
@@ -42,11 +55,7 @@ EntryBox::EntryBox(int number, Problem& problem, QWidget* sheet)
     setAttribute(Qt::WA_InputMethodEnabled, false);
     setAcceptDrops(false);
     setFont(EntryFont(kEntryTextSize));
-    // Paper and ink, whatever the desktop's colours.
-    QPalette paper = palette();
-    paper.setColor(QPalette::Base, Qt::white);
-    paper.setColor(QPalette::Text, Qt::black);
-    setPalette(paper);
+    setPalette(PaperAndInk(palette()));
     // The face keeps room for descenders, which digits do not have.
     setTextMargins(3, 4, 3, 0);
     ShowText();
@@ -108,6 +117,7 @@ EntryList::EntryList(int number, Problem& problem, QWidget* sheet)
     : QComboBox(sheet), number(number), problem(problem) {
     setObjectName(QStringLiteral("Combo%1").arg(number));
     setPlaceholderText(QStringLiteral("Select a choice from the list."));
+    setPalette(PaperAndInk(palette()));
     setFixedHeight(std::max(kBoxHeight, sizeHint().height()));
     connect(this, &QComboBox::activated, this, &EntryList::Choose);
 }
@@ -118,12 +128,11 @@ void EntryList::ShowChoice() {
 
 int EntryList::WidthForAll() const {
     constexpr int kFrameAndArrow = 44;
-    return std::max(LongestRow(), fontMetrics().horizontalAdvance(placeholderText())) +
-           kFrameAndArrow;
+    return LongestRow() + kFrameAndArrow;
 }
 
 int EntryList::LongestRow() const {
-    int longest = 0;
+    int longest = fontMetrics().horizontalAdvance(placeholderText());
     for (int row = 0; row < count(); ++row) {
         longest = std::max(longest, fontMetrics().horizontalAdvance(itemText(row)));
     }

@@ -56,7 +56,7 @@ class EntryList : public QComboBox {
 
     void ShowChoice();
 
-    /// As wide as its longest row, that without a choice included.
+    /// As wide as its longest row.
     int WidthForAll() const;
 
     /// Takes on this width; rows that are too long for it are set smaller, not cut.
@@ -71,7 +71,7 @@ class EntryList : public QComboBox {
     void wheelEvent(QWheelEvent* event) override;
 
   private:
-    int LongestRow() const;
+    int LongestRow() const;  ///< in pixels, that without a choice included
     void Choose(int row);
     bool IsForTheForm(const QKeyEvent& event) const;
     bool Locked() const { return !problem.playback.TypingEnabled; }

@@ -133,8 +133,8 @@ void EntryForm::MakeUnitLists(int UnitKind) {
     to->setFixedSize(to->sizeHint().width(), from->height());
     const int room = (kUnitRow.width - to->width()) / 2 - kUnitsGap;
     const int width = std::min(from->WidthForAll(), room);
-    from->setFixedWidth(width);
-    into->setFixedWidth(width);
+    from->FitRows(width);
+    into->FitRows(width);
     from->move(kUnitRow.x, kUnitRow.y);
     to->move(from->geometry().right() + kUnitsGap, kUnitRow.y);
     into->move(to->geometry().right() + kUnitsGap, kUnitRow.y);

@@ -57,6 +57,10 @@ bool LoadSheetFont() {
     return id >= 0;
 }
 
+QFont FontOfFace(std::string_view name) {
+    return QtFont(name, FontMetrics::Medium::Print);
+}
+
 FontMetrics::Master& FontMetrics::MasterOf(const std::string& name) const {
     const auto [place, isNew] = masters.try_emplace(name);
     if (isNew) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QRawFont>
 #include <map>
 #include <string>
@@ -14,6 +15,9 @@ namespace numerello {
 /// Makes VantrelFont known to the toolkit; needs the application object. False when the font cannot
 /// be used. Calling it again does no harm.
 bool LoadSheetFont();
+
+/// The face that stands behind a font's name on paper, for a control.
+QFont FontOfFace(std::string_view name);
 
 /// Widths and heights from the faces themselves, unhinted and never rounded to pixels, so that a
 /// line breaks at the same place at every scale. Units are sheet pixels: 12 points are 16 of them.

@@ -15,8 +15,8 @@ FrameWindows::FrameWindows(const Problem& problem, const Clock& clock, QMainWind
     connect(&graphs, &GraphHolder::ExitAsked, &frame, &QWidget::close, Qt::QueuedConnection);
 }
 
-void FrameWindows::ShowGraph() {
-    graphs.Show(problem);
+void FrameWindows::ShowGraph(const QRect& written) {
+    graphs.Show(problem, written);
 }
 
 void FrameWindows::CloseGraph() {

@@ -22,8 +22,8 @@ class FrameWindows : public QObject {
     /// All three must outlive this.
     FrameWindows(const Problem& problem, const Clock& clock, QMainWindow& frame);
 
-    /// Shows what the problem asks to be drawn.
-    void ShowGraph();
+    /// Shows what the problem asks to be drawn, beside what is written at this place of the screen.
+    void ShowGraph(const QRect& written);
     void CloseGraph();
 
     /// Whether there is something to print.

@@ -9,6 +9,7 @@
 #include <array>
 
 #include "graph/spoken_graph.h"
+#include "ui/graph_place.h"
 #include "ui/named_action.h"
 #include "ui/pointer.h"
 #include "ui/screen_room.h"
@@ -154,14 +155,14 @@ void FrmGraph::MakeShortcuts() {
             &FrmGraph::ExitAsked);
 }
 
-void FrmGraph::Open() {
+void FrmGraph::Open(const QRect& written) {
     ResizeDrawing(kNormalSide);
     if (parentWidget() != nullptr) {
         // Solutions stand at the left of their sheet.
         QRect place = geometry();
         place.moveCenter(parentWidget()->geometry().center());
         place.moveRight(parentWidget()->geometry().right() - kBesideEdge);
-        setGeometry(Within(place, parentWidget()->screen()->availableGeometry()));
+        setGeometry(PlaceOfGraph(place, written, parentWidget()->screen()->availableGeometry()));
     }
     show();
     picture->setFocus();
@@ -200,7 +201,7 @@ void FrmGraph::PlaceControls() {
     zoomIn->move(kMargin, kMargin);
     zoomOut->move(zoomIn->geometry().right() + 1 + kMargin, kMargin);
     const QSize most(qRound(whole.width() * kListWidth), qRound(whole.height() * kListHeight));
-    list->resize(list->SizeWithin(most));
+    list->FitInto(most);
     list->move(whole.width() - list->width(), whole.height() - list->height() - kMargin);
 }
 

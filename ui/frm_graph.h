@@ -19,8 +19,9 @@ class FrmGraph : public QMainWindow {
     /// The settings must outlive the window, which changes them.
     FrmGraph(const Problem& problem, GraphSettings& settings, QWidget* frame);
 
-    /// Shows the window in the middle of the frame.
-    void Open();
+    /// Shows the window over the frame, where it leaves free what is written there: the last line,
+    /// by its place on the screen.
+    void Open(const QRect& written = {});
 
     /// Takes what the problem asks for now and comes to the front; range and colors stay.
     void ShowRequest(const Problem& problem);

@@ -203,7 +203,7 @@ void FrmMain::mnuErase_Click() {
 }
 
 void FrmMain::mnuGraph_Click() {
-    windows.ShowGraph();
+    windows.ShowGraph(paper->LastLine());
 }
 
 void FrmMain::mnuPrint_Click() {

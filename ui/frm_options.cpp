@@ -12,6 +12,7 @@
 #include <span>
 
 #include "core/options.h"
+#include "ui/dialog_help.h"
 #include "ui/figure_button.h"
 #include "ui/text.h"
 
@@ -64,6 +65,7 @@ FrmOptions::FrmOptions(AnswerSettings& settings, QWidget* parent)
     setObjectName(QStringLiteral("frmOptions"));
     setWindowTitle(QStringLiteral("Settings"));
     setModal(true);
+    OfferHelp(*this, QStringLiteral("settings"));
     MakeControls();
 }
 

@@ -65,7 +65,12 @@ void FrmPaper::MakeDesk() {
     pencil = new WritingPencil(problem, worksheet, desk);
     explanation = new FrmExplain(problem, learner, this);
     worksheet.Attach(*explanation);
-    worksheet.AttachGraph([this] { emit GraphAsked(); }, [this] { emit GraphDone(); });
+    const auto openGraph = [this] {
+        // The graph makes room for the last line, which has to be in view by then.
+        ShowStep();
+        emit GraphAsked();
+    };
+    worksheet.AttachGraph(openGraph, [this] { emit GraphDone(); });
 }
 
 void FrmPaper::MakeEntry() {

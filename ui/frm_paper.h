@@ -40,6 +40,9 @@ class FrmPaper : public QScrollArea {
     /// Whether the typing line is open for keys.
     bool TakesKeys() const;
 
+    /// Where the last line stands on the screen, with what marks its end, as far as it is in view.
+    QRect LastLine() const;
+
     /// Shows the next line, as a click on the arrow does.
     void NextStep();
 

@@ -58,6 +58,19 @@ void FrmPaper::ScrollToLineEnd() {
     ensureVisible(lineEndX, qRound(sheet.top + problem.playback.LineEndY), kAround, kAround);
 }
 
+QRect FrmPaper::LastLine() const {
+    constexpr int kLeft = 60;
+    constexpr int kAbove = 32;  // the upper half of a fraction
+    constexpr int kBelow = 46;
+    constexpr int kMark = 48;
+    const Sheet& sheet = worksheet.SheetAt(problem.playback.CurrentPage);
+    const QPointF end(problem.playback.LineEndX, problem.playback.LineEndY);
+    const QRectF line(QPointF(kLeft, end.y() - kAbove), end + QPointF(kMark, kBelow));
+    const QPoint corner = desk->mapTo(viewport(), QPoint(qRound(sheet.left), qRound(sheet.top)));
+    const QRect seen = line.toAlignedRect().translated(corner) & viewport()->rect();
+    return {viewport()->mapToGlobal(seen.topLeft()), seen.size()};
+}
+
 /// While the mouse drags: what lies on the sheet goes with it, the rest stays as it is.
 void FrmPaper::FollowSheets() {
     pencil->Place();

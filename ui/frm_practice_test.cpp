@@ -16,11 +16,13 @@
 #include <QTabWidget>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 #include <algorithm>
 #include <memory>
 #include <utility>
 
 #include "catalogue/topics.h"
+#include "ui/dialog_help.h"
 #include "ui/frm_print_preview.h"
 #include "ui/pointer.h"
 #include "ui/screen_room.h"
@@ -36,6 +38,15 @@ constexpr int kMargin = 8;
 constexpr int kUsualChoice = 4;  ///< 5 problems
 constexpr int kSmallestHeight = 560;
 
+/// A wheel over it scrolls the rows; it must not change how many problems were asked for.
+class CountList : public QComboBox {
+  public:
+    using QComboBox::QComboBox;
+
+  protected:
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+};
+
 std::vector<TreeNode> AllNodes() {
     TopicChoice none;
     return BuildTopicTree(none, false);
@@ -43,7 +54,7 @@ std::vector<TreeNode> AllNodes() {
 
 /// What a row keeps for its topic's name in a narrow window.
 int SmallestNameWidth(const QWidget& window) {
-    return WidestTopic(window) * 3 / 4;
+    return WidestTopic(window) / 3;
 }
 
 HeadingLines FreshHeading(const Date& today) {
@@ -63,7 +74,10 @@ FrmPracticeTest::FrmPracticeTest(TestMaker makeTest, std::optional<HeadingLines>
     setObjectName(QStringLiteral("frmPracticeTest"));
     setWindowTitle(QStringLiteral("Practice Test"));
     setModal(true);
+    OfferHelp(*this, QStringLiteral("practice-tests"));
 
+    MakeTree();
+    MakeIndex();
     MakeTabs();
     auto* right = new QVBoxLayout;
     right->addWidget(MakeOutline(), 1);
@@ -77,13 +91,7 @@ FrmPracticeTest::FrmPracticeTest(TestMaker makeTest, std::optional<HeadingLines>
     treeView1->setFocus();
 }
 
-void FrmPracticeTest::MakeTabs() {
-    ssTab1 = new QTabWidget(this);
-    ssTab1->setObjectName(QStringLiteral("SSTab1"));
-    ssTab1->setAccessibleName(QStringLiteral("Topics"));
-    ssTab1->setMinimumWidth(WidestTopic(*this) / 2 + TopicIndentation(*this));
-    ssTab1->tabBar()->setAccessibleName(QStringLiteral("Topic or index"));
-
+void FrmPracticeTest::MakeTree() {
     treeView1 = new QTreeWidget;
     FillTopicTree(*treeView1, nodes);
     children = new ChildrenScroller(*treeView1);
@@ -96,6 +104,17 @@ void FrmPracticeTest::MakeTabs() {
             [this](QTreeWidgetItem* item) { ClickNode(*item); });
     connect(treeView1, &QTreeWidget::itemDoubleClicked, this,
             [this](QTreeWidgetItem* item) { ChooseNode(*item); });
+}
+
+void FrmPracticeTest::MakeIndex() {
+    search = new QLineEdit;
+    search->setObjectName(QStringLiteral("IndexSearch"));
+    connect(search, &QLineEdit::textChanged, this, [this](const QString& text) {
+        if (const std::optional<int> row = FindIndexRow(text.toStdString())) {
+            indexList->setCurrentRow(*row);
+            ScrollToFound(*indexList);
+        }
+    });
 
     indexList = new QListWidget;
     FillTopicIndex(*indexList);
@@ -103,15 +122,24 @@ void FrmPracticeTest::MakeTabs() {
     indexList->setCurrentRow(0);
     connect(indexList, &QListWidget::itemDoubleClicked, this,
             [this](QListWidgetItem* item) { Choose(item->text().toStdString()); });
+}
 
-    for (QAbstractItemView* view :
-         {static_cast<QAbstractItemView*>(treeView1), static_cast<QAbstractItemView*>(indexList)}) {
-        view->installEventFilter(this);
-        auto* page = new QWidget;
-        auto* column = new QVBoxLayout(page);
-        column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-        column->addWidget(view);
-        ssTab1->addTab(page, view == treeView1 ? QStringLiteral("Topic") : QStringLiteral("Index"));
+void FrmPracticeTest::MakeTabs() {
+    ssTab1 = new QTabWidget(this);
+    ssTab1->setObjectName(QStringLiteral("SSTab1"));
+    ssTab1->setAccessibleName(QStringLiteral("Topics"));
+    ssTab1->setMinimumWidth(WidestTopic(*this) / 2 + TopicIndentation(*this));
+    ssTab1->tabBar()->setAccessibleName(QStringLiteral("Topic or index"));
+
+    auto* topicPage = new QWidget;
+    auto* topicColumn = new QVBoxLayout(topicPage);
+    topicColumn->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    topicColumn->addWidget(treeView1);
+    ssTab1->addTab(topicPage, QStringLiteral("Topic"));
+    ssTab1->addTab(MakeIndexPage(*search, *indexList), QStringLiteral("Index"));
+    for (QWidget* control : {static_cast<QWidget*>(treeView1), static_cast<QWidget*>(indexList),
+                             static_cast<QWidget*>(search)}) {
+        control->installEventFilter(this);
     }
 }
 
@@ -123,7 +151,15 @@ QWidget* FrmPracticeTest::MakeOutline() {
     grid->setColumnStretch(0, 1);
     int column = 0;
     for (const char* caption : {"Problem Type", "Number of Problems ", "Complex"}) {
-        grid->addWidget(new QLabel(QString::fromLatin1(caption), outline), 0, column++);
+        auto* label = new QLabel(QString::fromLatin1(caption), outline);
+        label->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+        if (column == 1) {
+            // A number needs less room than the words above it, and the tree can use it.
+            label->setWordWrap(true);
+            label->setMinimumWidth(
+                label->fontMetrics().horizontalAdvance(QStringLiteral("Number of ")));
+        }
+        grid->addWidget(label, 0, column++);
     }
     for (int i = 0; i < kTestRows; ++i) {
         const Row row = MakeRow(i, outline);
@@ -147,7 +183,7 @@ QWidget* FrmPracticeTest::MakeOutline() {
 
 FrmPracticeTest::Row FrmPracticeTest::MakeRow(int index, QWidget* parent) {
     const QString number = QString::number(index + 1);
-    Row row{new QLineEdit(parent), new QComboBox(parent), new QCheckBox(parent)};
+    Row row{new QLineEdit(parent), new CountList(parent), new QCheckBox(parent)};
     row.Text4->setObjectName(QStringLiteral("Text4(%1)").arg(index));
     row.Text4->setAccessibleName(QStringLiteral("Problem type of row %1").arg(number));
     row.Text4->setReadOnly(true);
@@ -216,6 +252,12 @@ bool FrmPracticeTest::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool FrmPracticeTest::KeyInTopics(QObject* watched, int key) {
+    const bool moves = key == Qt::Key_Up || key == Qt::Key_Down;
+    if (watched == search && moves) {
+        const int row = indexList->currentRow() + (key == Qt::Key_Up ? -1 : 1);
+        indexList->setCurrentRow(std::clamp(row, 0, indexList->count() - 1));
+        return true;
+    }
     if (!IsEnter(key)) {
         return false;
     }
@@ -224,7 +266,7 @@ bool FrmPracticeTest::KeyInTopics(QObject* watched, int key) {
         ChooseNode(*treeView1->currentItem());
         return true;
     }
-    if (watched == indexList && indexList->currentItem() != nullptr) {
+    if ((watched == indexList || watched == search) && indexList->currentItem() != nullptr) {
         Choose(indexList->currentItem()->text().toStdString());
         return true;
     }

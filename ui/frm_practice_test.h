@@ -47,6 +47,8 @@ class FrmPracticeTest : public QDialog {
         QCheckBox* Check1;
     };
 
+    void MakeTree();
+    void MakeIndex();
     void MakeTabs();
     QWidget* MakeOutline();
     Row MakeRow(int index, QWidget* parent);
@@ -75,6 +77,7 @@ class FrmPracticeTest : public QDialog {
     QTreeWidget* treeView1 = nullptr;
     ChildrenScroller* children = nullptr;
     QListWidget* indexList = nullptr;
+    QLineEdit* search = nullptr;
     std::array<Row, kTestRows> rows{};
     HeadingGroup heading{};
 };

@@ -15,6 +15,7 @@
 #include <memory>
 #include <utility>
 
+#include "ui/dialog_help.h"
 #include "ui/pointer.h"
 #include "ui/screen_room.h"
 #include "ui/window_learner.h"
@@ -36,6 +37,7 @@ FrmPrintPreview::FrmPrintPreview(Previewed preview, PrintDevice& device, QWidget
     setObjectName(QStringLiteral("frmPrintPreview"));
     setWindowTitle(this->preview.caption);
     setModal(true);
+    OfferHelp(*this, QStringLiteral("printing"));
 
     pages = new QScrollArea(this);
     pages->setObjectName(QStringLiteral("Pages"));

@@ -12,6 +12,7 @@
 #include "core/problem_file.h"
 #include "output/print_choices.h"
 #include "output/print_solution.h"
+#include "ui/dialog_help.h"
 
 namespace numerello {
 
@@ -43,6 +44,7 @@ FrmPrintSetup::FrmPrintSetup(const Problem& problem, PrintDevice& device, const 
     setObjectName(QStringLiteral("frmPrintSetup"));
     setWindowTitle(QStringLiteral("Print Options"));
     setModal(true);
+    OfferHelp(*this, QStringLiteral("printing"));
 
     auto* column = new QVBoxLayout(this);
     column->addWidget(heading.group);

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "ui/dialog_help.h"
 #include "ui/forwarding_view.h"
 #include "ui/screen_room.h"
 #include "ui/text.h"
@@ -32,6 +33,7 @@ FrmSelect::FrmSelect(TopicChoice& topic, std::vector<TreeNode> nodes, const Cloc
     setObjectName(QStringLiteral("frmSelect"));
     setWindowTitle(QStringLiteral("Choose problem type:"));
     setModal(true);
+    OfferHelp(*this, QStringLiteral("choosing"));
 
     MakeTree();
     MakeIndex();
@@ -70,16 +72,10 @@ void FrmSelect::ConnectTree() {
 void FrmSelect::MakeIndex() {
     text1 = new SearchBox(*this, ChooserControl::Text1, &Chooser::Text1_KeyDown);
     text1->setObjectName(QStringLiteral("Text1"));
-    text1->setAccessibleName(QStringLiteral("Search"));
-    text1->setPlaceholderText(QStringLiteral("Search"));
-    text1->setClearButtonEnabled(true);
-    text1->setMinimumHeight(TopicRowHeight(*this));
-    text1->setTextMargins(kMargin / 2, 0, kMargin / 2, 0);
     connect(text1, &QLineEdit::textChanged, this, [this](const QString& text) {
         if (!mirroring) {
             Forward([&] { chooser.Text1_Change(text.toStdString()); });
-            // The topics that begin alike stand below the one found.
-            indexList->scrollToItem(indexList->currentItem(), QAbstractItemView::PositionAtTop);
+            ScrollToFound(*indexList);
         }
     });
 
@@ -98,18 +94,11 @@ void FrmSelect::MakeTabs() {
     topicColumn->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     topicColumn->addWidget(treeView1);
 
-    auto* indexPage = new QWidget;
-    auto* indexColumn = new QVBoxLayout(indexPage);
-    indexColumn->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    indexColumn->setSpacing(kMargin);
-    indexColumn->addWidget(text1);
-    indexColumn->addWidget(indexList);
-
     ssTab1 = new QTabWidget(this);
     ssTab1->setObjectName(QStringLiteral("SSTab1"));
     ssTab1->setAccessibleName(QStringLiteral("Topics"));
     ssTab1->addTab(topicPage, QStringLiteral("Topic"));
-    ssTab1->addTab(indexPage, QStringLiteral("Index"));
+    ssTab1->addTab(MakeIndexPage(*text1, *indexList), QStringLiteral("Index"));
     ssTab1->tabBar()->setAccessibleName(QStringLiteral("Topic or index"));
     ssTab1->tabBar()->installEventFilter(this);
     connect(ssTab1, &QTabWidget::currentChanged, this, [this](int tab) {

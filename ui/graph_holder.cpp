@@ -9,7 +9,7 @@ FrmGraph* GraphHolder::Form() const {
     return form && form->isVisible() ? form.data() : nullptr;
 }
 
-void GraphHolder::Show(const Problem& problem) {
+void GraphHolder::Show(const Problem& problem, const QRect& written) {
     if (FrmGraph* open = Form()) {
         open->ShowRequest(problem);
         return;
@@ -20,7 +20,7 @@ void GraphHolder::Show(const Problem& problem) {
     connect(form, &FrmGraph::PrintSetupAsked, this, &GraphHolder::PrintSetupAsked);
     connect(form, &FrmGraph::HelpAsked, this, &GraphHolder::HelpAsked);
     connect(form, &FrmGraph::ExitAsked, this, &GraphHolder::ExitAsked);
-    form->Open();
+    form->Open(written);
 }
 
 void GraphHolder::Close() {

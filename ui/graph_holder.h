@@ -18,8 +18,8 @@ class GraphHolder : public QObject {
     explicit GraphHolder(QWidget* frame);
 
     /// Opens a window on what the problem asks for; one that is open shows it and comes to the
-    /// front.
-    void Show(const Problem& problem);
+    /// front. A new one leaves free what is written at this place of the screen.
+    void Show(const Problem& problem, const QRect& written);
     void Close();
 
     /// The open window, null when there is none.

@@ -1,5 +1,6 @@
 #include "ui/help_contents.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
@@ -7,6 +8,7 @@
 
 #include "ui/artwork.h"
 #include "ui/text.h"
+#include "ui/topic_views.h"
 
 namespace numerello {
 
@@ -48,9 +50,11 @@ HelpContents::HelpContents(const HelpIndex& index, QWidget* parent)
     Fill();
     connect(this, &QTreeWidget::currentItemChanged, this,
             [this](QTreeWidgetItem* item) { Tell(item); });
-    connect(this, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
+    auto* children = new ChildrenScroller(*this);
+    connect(this, &QTreeWidget::itemClicked, this, [this, children](QTreeWidgetItem* item) {
         Tell(item);
         item->setExpanded(!item->isExpanded());
+        children->ShowIn(QApplication::doubleClickInterval());
     });
 }
 

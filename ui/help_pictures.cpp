@@ -47,12 +47,12 @@ class EndlessSheet : public Sheets {
 };
 
 /// As on the sheets, but at the left edge, and on and on.
-TypesetVariant LoneLine() {
+TypesetVariant LoneLine(double longestRow) {
     TypesetVariant variant = kPaperVariant;
     variant.freshPage.reset();
     variant.marginBlanks = 0;
     variant.page.reset();
-    variant.wrap->limit = kLongestRow;
+    variant.wrap->limit = longestRow;
     variant.wrap->x = 0;
     return variant;
 }
@@ -95,6 +95,30 @@ QRectF PlaceOf(const std::vector<Mark>& marks, const FontMetrics& metrics) {
         place |= PlaceOf(mark, metrics);
     }
     return place.adjusted(-kPad, -kPad, HasRoot(marks) ? kRootPad : kPad, kPad);
+}
+
+/// The marks so many times as large. Letters that the painter has to scale come out bolder than the
+/// text beside them, as their strokes were strengthened for the smaller size.
+std::vector<Mark> Enlarged(std::vector<Mark> marks, qreal times) {
+    for (Mark& mark : marks) {
+        if (auto* text = std::get_if<TextMark>(&mark)) {
+            text->x *= times;
+            text->y *= times;
+            text->font.size *= times;
+        } else if (auto* stroke = std::get_if<StrokeMark>(&mark)) {
+            for (double* length :
+                 {&stroke->x1, &stroke->y1, &stroke->x2, &stroke->y2, &stroke->width}) {
+                *length *= times;
+            }
+        }
+    }
+    return marks;
+}
+
+/// Smaller where this place of a sheet would not fit.
+HelpPictures::Look Fitted(HelpPictures::Look look, const QRectF& place) {
+    look.scale = std::min(look.scale, look.room / place.width());
+    return look;
 }
 
 /// What the painter draws of this place of a sheet.
@@ -170,7 +194,8 @@ QImage HelpPictures::Mathematics(const QString& address, const Look& look) const
     sheet.Current().CurrentY = kHeadroom;
     SilentLearner nobody;
     const auto end =
-        DrawMathLine(Characters(line), LoneLine(), ink == QLatin1String("blue"), sheet, nobody);
+        DrawMathLine(Characters(line), LoneLine(std::min(kLongestRow, look.room / look.scale)),
+                     ink == QLatin1String("blue"), sheet, nobody);
     std::vector<Mark> marks = sheet.Current().Marks();
     Recolor(marks, ink == QLatin1String("page")   ? FromQColor(look.pageInk)
                    : ink == QLatin1String("blue") ? kBlue
@@ -183,7 +208,11 @@ QImage HelpPictures::Mathematics(const QString& address, const Look& look) const
         place.setTop(middle - half);
         place.setBottom(middle + half);
     }
-    return Pictured(place, look, [&](QPainter& painter) { PaintMarks(painter, marks, metrics); });
+    return Pictured(place, look, [&](QPainter& painter) {
+        const qreal pixels = look.scale * look.pixelRatio;
+        painter.scale(1 / pixels, 1 / pixels);
+        PaintMarks(painter, Enlarged(marks, pixels), metrics);
+    });
 }
 
 QImage HelpPictures::Entry(const TopicText& topic, const Look& look) const {
@@ -200,6 +229,7 @@ QImage HelpPictures::Entry(const TopicText& topic, const Look& look) const {
     }
     Look smaller = look;
     smaller.scale *= kEntryScale;
+    smaller = Fitted(smaller, place);
     return Pictured(place, smaller, [&](QPainter& painter) {
         PaintEntryPicture(painter, *FindEntryLayout(problem.topic.ProblemType), smaller);
         sheet.render(&painter, {}, {}, QWidget::DrawChildren);
@@ -209,8 +239,10 @@ QImage HelpPictures::Entry(const TopicText& topic, const Look& look) const {
 QImage HelpPictures::Working(const TopicText& topic, const Look& look) const {
     const WorkedExample example(topic, metrics);
     const std::vector<Mark>& marks = example.Drawing().Marks();
-    return Pictured(PlaceOf(marks, metrics), look, [&](QPainter& painter) {
-        PaintMarks(painter, marks, metrics, DrawCheckMark(look.scale * look.pixelRatio));
+    const QRectF place = PlaceOf(marks, metrics);
+    const Look fitted = Fitted(look, place);
+    return Pictured(place, fitted, [&](QPainter& painter) {
+        PaintMarks(painter, marks, metrics, DrawCheckMark(fitted.scale * fitted.pixelRatio));
     });
 }
 
@@ -223,7 +255,8 @@ QImage HelpPictures::NumberLine(const TopicText& topic, const Look& look) const 
     EndlessSheet sheet(metrics);
     DrawNumberLine(sheet.Current(), line->A, line->B);
     const std::vector<Mark>& marks = sheet.Current().Marks();
-    return Pictured(PlaceOf(marks, metrics), look,
+    const QRectF place = PlaceOf(marks, metrics);
+    return Pictured(place, Fitted(look, place),
                     [&](QPainter& painter) { PaintMarks(painter, marks, metrics); });
 }
 

@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QImage>
 #include <QUrl>
+#include <limits>
 #include <map>
 #include <string>
 
@@ -25,6 +26,7 @@ class HelpPictures {
         qreal pixelRatio;  ///< of the screen
         QColor pageInk;    ///< of the text on the page
         qreal sink = 0;    ///< how far below the middle the baseline has to be, likewise
+        qreal room = std::numeric_limits<qreal>::max();  ///< no picture should be wider, likewise
     };
 
     /// Null for an address that names no picture.

@@ -3,12 +3,14 @@
 #include <QFile>
 #include <QFontInfo>
 #include <QRegularExpression>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextFragment>
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cmath>
 
 #include "help/topic_page.h"
@@ -27,6 +29,13 @@ constexpr double kReadingSize = 1.15;
 /// are finer.
 constexpr double kSheetLetters = 1.25;
 constexpr double kSheetLetterHeight = 16;
+
+/// What a page takes beside its widest pictures: its margins, and those of the sheet with its red
+/// line.
+constexpr double kAroundPicture = 2 * kMargin + 76;
+constexpr double kSmallestRoom = 160;
+constexpr double kWidestPicture = 800;  ///< in sheet pixels
+constexpr std::chrono::milliseconds kStillResizing(60);
 
 /// The sizes, in percent of the interface font, and which of them is the usual one.
 constexpr std::array kZooms{50, 75, 90, 100, 110, 125, 150, 175, 200, 250, 300};
@@ -113,6 +122,9 @@ HelpView::HelpView(QWidget* parent) : QTextBrowser(parent), zoomStep(kUsualZoom)
     document()->setDocumentMargin(kMargin);
     connect(this, &QTextBrowser::sourceChanged, this, &HelpView::TakePage);
     connect(document(), &QTextDocument::contentsChanged, this, [this] { spoken.reset(); });
+    redraw.setSingleShot(true);
+    redraw.setInterval(kStillResizing);
+    connect(&redraw, &QTimer::timeout, this, &HelpView::Restyle);
     Restyle();
 }
 
@@ -128,7 +140,9 @@ bool HelpView::ShowPage(const QString& name) {
 void HelpView::TakePage(const QUrl& address) {
     page = address.path();
     ShowMarks();
-    emit PageShown();
+    if (!drawnAnew) {
+        emit PageShown();
+    }
 }
 
 int HelpView::Zoom() const {
@@ -170,6 +184,7 @@ void HelpView::Restyle() {
     }
     QScrollBar* bar = verticalScrollBar();
     const double place = bar->maximum() > 0 ? double(bar->value()) / bar->maximum() : 0;
+    const QScopedValueRollback samePage(drawnAnew, true);
     reload();
     bar->setValue(qRound(place * bar->maximum()));
 }
@@ -195,11 +210,28 @@ QVariant HelpView::loadResource(int type, const QUrl& name) {
         // The toolkit lays the middle of a picture a quarter of a small letter above the baseline.
         const double sink = QFontMetrics(around).xHeight() / 4.0;
         return pictures.Picture(name, {letters / kSheetLetterHeight, devicePixelRatioF(),
-                                       palette().color(QPalette::Text), sink});
+                                       palette().color(QPalette::Text), sink, Room()});
     }
+    picturesRoom = Room();
     QFile file(FileOf(name.path()));
     return file.open(QIODevice::ReadOnly) ? QVariant(QString::fromUtf8(file.readAll()))
                                           : QVariant();
+}
+
+/// For a picture, in pixels. The bar's room is kept for it, or its coming and going would change
+/// the pictures, and these the bar.
+double HelpView::Room() const {
+    const double text = SheetLetters(document()->defaultFont().pixelSize());
+    const double room = width() - 2 * frameWidth() - verticalScrollBar()->sizeHint().width();
+    return std::clamp(room - kAroundPicture, kSmallestRoom,
+                      kWidestPicture * text / kSheetLetterHeight);
+}
+
+void HelpView::resizeEvent(QResizeEvent* event) {
+    QTextBrowser::resizeEvent(event);
+    if (Room() != picturesRoom) {
+        redraw.start();
+    }
 }
 
 void HelpView::changeEvent(QEvent* event) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTextBrowser>
+#include <QTimer>
 #include <optional>
 
 #include "ui/help_pictures.h"
@@ -48,14 +49,19 @@ class HelpView : public QTextBrowser {
     QVariant loadResource(int type, const QUrl& name) override;
     void doSetSource(const QUrl& address, QTextDocument::ResourceType type) override;
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     void SetZoom(int step);
     void TakePage(const QUrl& address);
     void Restyle();
+    double Room() const;
     void ShowMarks();
 
     HelpPictures pictures;
+    double picturesRoom = 0;  ///< that the pictures on show were drawn for
+    QTimer redraw;
+    bool drawnAnew = false;  ///< the same page at another size
     QString page;
     int zoomStep;  ///< in the table of sizes
     QStringList marked;

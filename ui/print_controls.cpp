@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "typeset/surface.h"
+#include "ui/font_metrics.h"
 #include "ui/text.h"
 
 namespace numerello {
@@ -19,6 +20,15 @@ constexpr int kHeadingSize = 12;
 constexpr int kTextMargin = 3;
 constexpr std::array kHeadingNames{"First heading line", "Second heading line",
                                    "Third heading line"};
+
+/// Signs that the sheets' face draws otherwise let the field as a whole take the face that they are
+/// printed in: the two are alike, and a field has one.
+void ShowInReadableFace(QLineEdit& line) {
+    const bool other = NeedsOtherFace(line.text().toStdString());
+    QFont font = FontOfFace(other ? kExplanationFace : kSheetFace);
+    font.setPointSize(std::max(kHeadingSize, line.parentWidget()->font().pointSize()));
+    line.setFont(font);
+}
 
 }  // namespace
 
@@ -38,8 +48,9 @@ HeadingGroup MakeHeadingGroup(const HeadingLines& texts, QWidget* parent) {
         line->setObjectName(QStringLiteral("Text%1").arg(i + 1));
         line->setAccessibleName(QString::fromLatin1(kHeadingNames[i]));
         line->setToolTip(QStringLiteral("Printed at the top of the first page"));
-        line->setFont(
-            QFont(ToQString(kSheetFace), std::max(kHeadingSize, parent->font().pointSize())));
+        QObject::connect(line, &QLineEdit::textChanged, line,
+                         [line] { ShowInReadableFace(*line); });
+        ShowInReadableFace(*line);
         line->setTextMargins(kTextMargin, kTextMargin, kTextMargin, 0);
         line->setMaxLength(kLongestHeading);
         column->addWidget(line);

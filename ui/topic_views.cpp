@@ -1,7 +1,9 @@
 #include "ui/topic_views.h"
 
+#include <QLineEdit>
 #include <QListWidget>
 #include <QTreeWidget>
+#include <QVBoxLayout>
 #include <algorithm>
 #include <map>
 #include <string_view>
@@ -108,6 +110,26 @@ void FillTopicIndex(QListWidget& list) {
         auto* row = new QListWidgetItem(picture, ToQString(caption), &list);
         row->setSizeHint({0, TopicRowHeight(list)});
     }
+}
+
+QWidget* MakeIndexPage(QLineEdit& search, QListWidget& list) {
+    constexpr int kMargin = 8;
+    search.setAccessibleName(QStringLiteral("Search"));
+    search.setPlaceholderText(QStringLiteral("Search"));
+    search.setClearButtonEnabled(true);
+    search.setMinimumHeight(TopicRowHeight(search));
+    search.setTextMargins(kMargin / 2, 0, kMargin / 2, 0);
+    auto* page = new QWidget;
+    auto* column = new QVBoxLayout(page);
+    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setSpacing(kMargin);
+    column->addWidget(&search);
+    column->addWidget(&list);
+    return page;
+}
+
+void ScrollToFound(QListWidget& list) {
+    list.scrollToItem(list.currentItem(), QAbstractItemView::PositionAtTop);
 }
 
 }  // namespace numerello

@@ -7,6 +7,7 @@
 
 #include "catalogue/topic_tree.h"
 
+class QLineEdit;
 class QListWidget;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -52,5 +53,11 @@ int NodeOf(const QTreeWidgetItem& item);
 
 /// Fills an empty list with IndexRows().
 void FillTopicIndex(QListWidget& list);
+
+/// The index with a search box above it, as the page of a tab.
+QWidget* MakeIndexPage(QLineEdit& search, QListWidget& list);
+
+/// Lays the row that was searched for at the top: the topics that begin alike stand below it.
+void ScrollToFound(QListWidget& list);
 
 }  // namespace numerello

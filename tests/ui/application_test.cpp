@@ -63,6 +63,27 @@ TEST(Application, GoesOnBehindWhatAnEventThrowsAndTellsItOnce) {
     EXPECT_EQ(line.text(), "abcd");
 }
 
+TEST(Application, PlaceholdersCanBeReadOnADarkDesktop) {
+    const QPalette usual = QApplication::palette();
+    QPalette dark;
+    dark.setColor(QPalette::Base, QColor(27, 30, 32));
+    dark.setColor(QPalette::Text, QColor(252, 252, 252));
+    QApplication::setPalette(dark);
+    const QColor placeholder = QApplication::palette().color(QPalette::PlaceholderText);
+    EXPECT_EQ(placeholder.rgb(), qRgb(252, 252, 252));
+    EXPECT_LT(placeholder.alpha(), 255);
+    EXPECT_GT(placeholder.alpha(), 100);
+    EXPECT_EQ(QApplication::palette().color(QPalette::Base), QColor(27, 30, 32));
+
+    // What a desktop names itself stays.
+    dark.setColor(QPalette::PlaceholderText, QColor(1, 200, 3));
+    QApplication::setPalette(dark);
+    EXPECT_EQ(QApplication::palette().color(QPalette::PlaceholderText), QColor(1, 200, 3));
+    QApplication::setPalette(usual);
+    EXPECT_EQ(QApplication::palette().color(QPalette::PlaceholderText).rgb(),
+              usual.color(QPalette::PlaceholderText).rgb());
+}
+
 }  // namespace
 }  // namespace numerello
 

@@ -8,6 +8,7 @@
 #include <QStyleOptionComboBox>
 
 #include "tests/ui/entry_form_fixture.h"
+#include "tests/ui/interface_font.h"
 #include "ui/artwork.h"
 
 namespace numerello {
@@ -178,6 +179,11 @@ TEST_F(EntryFormTest, StaysPaperAndInkOnADarkDesktop) {
     EXPECT_EQ(Box(2).palette().color(QPalette::Text), QColor(Qt::black));
     EXPECT_EQ(Label(QStringLiteral("base=")).palette().color(QPalette::WindowText),
               QColor(Qt::black));
+    Open(23);
+    const QPalette list = List(1).palette();
+    EXPECT_EQ(list.color(QPalette::Button), QColor(Qt::white));
+    EXPECT_EQ(list.color(QPalette::ButtonText), QColor(Qt::black));
+    EXPECT_EQ(list.color(QPalette::PlaceholderText).rgb(), qRgb(0, 0, 0));
     QApplication::setPalette(usual);
 }
 
@@ -193,23 +199,33 @@ TEST_F(EntryFormTest, TheRoundingListStandsOverTheEndOfTheLine) {
     }
 }
 
-TEST_F(EntryFormTest, ALargeInterfaceFontDoesNotCutTheRoundings) {
-    const QFont usual = QApplication::font();
-    QFont large = usual;
-    large.setPixelSize(22);
-    QApplication::setFont(large);
-    OpenRounding();
-    EntryList& list = List(3);
-    EXPECT_EQ(list.width(), 260);
+/// Whether all that the list may show has room in it.
+void ExpectNothingCut(EntryList& list) {
     QStyleOptionComboBox shown;
     shown.initFrom(&list);
     const QRect text = list.style()->subControlRect(QStyle::CC_ComboBox, &shown,
                                                     QStyle::SC_ComboBoxEditField, &list);
-    EXPECT_LT(text.width(), 250);
+    EXPECT_LT(text.width(), list.width() - 10);
     for (int row = 0; row < list.count(); ++row) {
         EXPECT_LE(list.fontMetrics().horizontalAdvance(list.itemText(row)), text.width());
     }
-    QApplication::setFont(usual);
+    EXPECT_LE(list.fontMetrics().horizontalAdvance(list.placeholderText()), text.width());
+}
+
+TEST_F(EntryFormTest, ALargeInterfaceFontDoesNotCutTheRoundings) {
+    const InterfaceFont large(18);
+    OpenRounding();
+    EXPECT_EQ(List(3).width(), 260);
+    ExpectNothingCut(List(3));
+}
+
+TEST_F(EntryFormTest, ALargeInterfaceFontDoesNotCutTheUnits) {
+    for (const int points : {9, 14, 18, 24}) {
+        const InterfaceFont font(points);
+        Open(23);
+        ExpectNothingCut(List(1));
+        ExpectNothingCut(List(2));
+    }
 }
 
 }  // namespace

@@ -14,6 +14,7 @@
 #include <QTreeWidget>
 
 #include "catalogue/topics.h"
+#include "tests/ui/interface_font.h"
 #include "tests/ui/window.h"
 #include "ui/help_pictures.h"
 #include "ui/help_view.h"
@@ -249,6 +250,38 @@ TEST_F(Help, GrowsAndShrinks) {
     EXPECT_EQ(View().Zoom(), 300);
     EXPECT_FALSE(Command("larger").isEnabled());
     EXPECT_EQ(Page(), "fraction-arithmetic");
+}
+
+TEST_F(Help, FitsItsPicturesIntoThePageAtAnyFontAndWidth) {
+    for (const int points : {9, 14, 18}) {
+        const InterfaceFont font(points);
+        for (const int width : {1060, 800}) {
+            window.resize(width, 700);
+            for (const char* topic :
+                 {"Volume of a Cylinder", "Similar Triangles", "Graphing A Linear Equation"}) {
+                window.ShowTopic(topic);
+                EXPECT_TRUE(QTest::qWaitFor(
+                    [this] { return View().horizontalScrollBar()->maximum() == 0; }, 1000))
+                    << topic << " at " << points << " in " << width;
+            }
+        }
+    }
+}
+
+TEST_F(Help, ScrollsWhatWasOpenedIntoView) {
+    const int last = Contents().topLevelItemCount() - 1;
+    const QModelIndex chapter = Contents().model()->index(last, 0);
+    window.resize(window.width(), 400);
+    ClickRow(Contents(), chapter);
+    ASSERT_TRUE(Contents().isExpanded(chapter));
+    const auto child = [&] {
+        return Contents().visualRect(Contents().model()->index(0, 0, chapter));
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return child().height() > 0 && child().top() >= 0 &&
+               child().bottom() < Contents().viewport()->height();
+    })) << child().top()
+        << " to " << child().bottom() << " of " << Contents().viewport()->height();
 }
 
 TEST_F(Help, KeepsTheHistoryWhenItGrows) {

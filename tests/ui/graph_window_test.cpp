@@ -2,9 +2,11 @@
 
 #include <QAccessible>
 #include <QMenu>
+#include <QScrollBar>
 #include <QSignalSpy>
 
 #include "tests/ui/graph_window_fixture.h"
+#include "tests/ui/interface_font.h"
 
 namespace numerello {
 namespace {
@@ -205,6 +207,25 @@ TEST_F(GraphWindow, TheListIsNoLargerThanItsEntries) {
     EXPECT_EQ(List().model()->rowCount(), 1);
     EXPECT_LT(List().height(), 40);
     EXPECT_LT(List().width(), 160);
+}
+
+/// The first entry has as many characters as the second, but is wider.
+TEST_F(GraphWindow, TheListShowsItsEntriesWholeInAnyFont) {
+    for (const int points : {8, 9, 10, 12, 14, 18}) {
+        const InterfaceFont font(points);
+        Problem problem = AskedPoint(kLineThroughTwoPoints);
+        problem.graph = {kTwoPointsGraph, -12, 2, 5, -16};
+        Open(problem);
+        EXPECT_FALSE(List().verticalScrollBar()->isVisible()) << points;
+        EXPECT_FALSE(List().horizontalScrollBar()->isVisible()) << points;
+        for (int row = 0; row < 2; ++row) {
+            const QRect place = List().visualRect(List().model()->index(row, 0));
+            EXPECT_TRUE(List().viewport()->rect().contains(place)) << points;
+            EXPECT_GT(place.width(), List().fontMetrics().horizontalAdvance(EntryAt(row)));
+            EXPECT_GE(place.height(), List().fontMetrics().height()) << points;
+        }
+        delete form;
+    }
 }
 
 TEST_F(GraphWindow, EscapeAndExitClose) {

@@ -11,7 +11,9 @@
 #include <QTabWidget>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
+#include <QWheelEvent>
 
+#include "tests/ui/interface_font.h"
 #include "tests/ui/printed_forms.h"
 #include "ui/frm_practice_test.h"
 
@@ -296,6 +298,49 @@ TEST_F(PracticeTest, ShowsTheBeginningOfANameInANarrowWindow) {
     Text4(0).setFocus();
     PressKey(*form, Qt::Key_Delete);
     EXPECT_FALSE(Text4(0).toolTip().contains(name));
+}
+
+TEST_F(PracticeTest, AWheelDoesNotChangeHowManyProblemsAreAskedFor) {
+    ChooseInTree("Rounding");
+    QComboBox& list = Combo1(0);
+    const QPointF middle = list.rect().center();
+    for (const bool focused : {false, true}) {
+        focused ? list.setFocus() : TreeView1().setFocus();
+        QWheelEvent wheel(middle, list.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&list, &wheel);
+        EXPECT_EQ(list.currentText(), "5") << focused;
+        EXPECT_FALSE(wheel.isAccepted()) << focused;
+    }
+}
+
+TEST_F(PracticeTest, TheIndexIsSearchedByItsBeginnings) {
+    Find<QTabWidget>(*form, "SSTab1").setCurrentIndex(1);
+    auto& search = Find<QLineEdit>(*form, "IndexSearch");
+    EXPECT_EQ(search.accessibleName(), "Search");
+    Click(search);
+    TypeText(*form, "medi");
+    EXPECT_EQ(IndexList().currentItem()->text(), "Medians");
+    EXPECT_EQ(IndexList().visualItemRect(IndexList().currentItem()).top(), 0);
+    PressKey(*form, Qt::Key_Return);
+    EXPECT_EQ(Text4(0).text(), "Medians");
+    EXPECT_EQ(made, 0);
+    PressKeys(*form, {Qt::Key_Up, Qt::Key_Return});
+    EXPECT_EQ(Text4(1).text(), IndexList().item(IndexList().currentRow())->text());
+    EXPECT_NE(Text4(1).text(), "Medians");
+}
+
+/// At 18 points on a screen of 640 by 480.
+TEST_F(PracticeTest, ANarrowWindowGivesItsRoomToTheTree) {
+    const InterfaceFont font(18);
+    Open();
+    form->resize(576, 432);
+    QCoreApplication::processEvents();
+    // Two digits, the arrow and the frame.
+    const QFontMetrics letters = form->fontMetrics();
+    EXPECT_LE(Combo1(0).width(),
+              std::max(Combo1(0).sizeHint().width(), letters.horizontalAdvance("Number of ") + 8));
+    EXPECT_GE(TreeView1().width(), form->width() / 3);
 }
 
 TEST_F(PracticeTest, NamesEveryControl) {

@@ -44,6 +44,14 @@ TEST_F(PrintOptions, OpenWithTheDocumentedTexts) {
     for (const char* name : {"Text1", "Text2", "Text3"}) {
         EXPECT_EQ(Text(name).font().family(), "VantrelFont");
     }
+    // Signs that the face draws as parts of mathematics are shown as they are printed.
+    for (const char* sign : {"$", "\\", "`", "{", "~", "&"}) {
+        Text("Text1").setText(QStringLiteral("Costs 5") + QLatin1String(sign));
+        EXPECT_EQ(Text("Text1").font().family(), "TeX Gyre Pagella") << sign;
+        EXPECT_EQ(Text("Text1").font().pointSize(), Text("Text2").font().pointSize());
+    }
+    Text("Text1").setText(QStringLiteral("Costs 5"));
+    EXPECT_EQ(Text("Text1").font().family(), "VantrelFont");
     EXPECT_EQ(Check("Check1").text(), "Graph");
     EXPECT_EQ(Check("Check2").text(), "Problem");
     EXPECT_EQ(Check("Check3").text(), "Explanation");

@@ -1,5 +1,6 @@
 #include <QDropEvent>
 #include <QTimer>
+#include <algorithm>
 #include <chrono>
 #include <optional>
 
@@ -15,6 +16,13 @@ namespace numerello {
 namespace {
 
 constexpr std::chrono::seconds kStatusTime(5);
+
+bool HoldsWork(const Problem& problem) {
+    const auto& boxes = problem.boxes.Text;
+    return !problem.typed.ProblemText.empty() ||
+           !std::all_of(boxes.begin(), boxes.end(),
+                        [](const std::string& box) { return box.empty(); });
+}
 
 }  // namespace
 
@@ -53,9 +61,14 @@ void FrmMain::LoadProblem(std::string_view StartFile) {
     numerello::mnuLoad_Click(StartFile, files, problem, form, clock, random);
 }
 
-/// The help is a window of its own: the sheet comes to the front.
+/// The help is a window of its own: the sheet comes to the front. Who reads has not asked for an
+/// end of what he works on, as who opens a file has.
 void FrmMain::LoadExample(const std::string& problemFile) {
     activateWindow();
+    if (HoldsWork(problem) &&
+        !learner.Confirm("Clear Problem", "This will erase your entire problem.")) {
+        return;
+    }
     Loading form(*this);
     LoadSavedProblem(ReadSavedProblem(problemFile), problem, form, clock, random);
 }

@@ -59,17 +59,26 @@ TEST_F(HelpMenu, WithoutABrowserTheAddressIsShown) {
         QStringLiteral(" https://vantrel.example/numerello.htm")));
 }
 
-TEST_F(HelpMenu, OpensAnExampleInPlaceOfWhatIsOnTheSheet) {
+TEST_F(HelpMenu, OpensAnExampleInPlaceOfWhatIsOnTheSheetAfterAsking) {
     Choose(QStringLiteral("Arithmetic"));
     Type(QStringLiteral("3+4"));
-    Command("mnuHelpTopics").trigger();
-    auto& help = Find<FrmHelp>(frame, QStringLiteral("frmHelp"));
-    help.ShowPage(QStringLiteral("solving-equations"));
-    auto& page = Find<HelpView>(help, QStringLiteral("page"));
-    page.setSource(QUrl(QStringLiteral("example:solving-equations")));
-    QTest::qWait(0);
-    EXPECT_EQ(page.Page(), "solving-equations");
-    EXPECT_FALSE(help.isVisible());
+    const auto open = [this](const char* button) {
+        Command("mnuHelpTopics").trigger();
+        auto& help = Find<FrmHelp>(frame, QStringLiteral("frmHelp"));
+        help.ShowPage(QStringLiteral("solving-equations"));
+        auto& page = Find<HelpView>(help, QStringLiteral("page"));
+        const WhenDialogOpens question(QStringLiteral("MessageBox"), [button](QWidget& dialog) {
+            PressButton(dialog, QString::fromUtf8(button));
+        });
+        page.setSource(QUrl(QStringLiteral("example:solving-equations")));
+        QTest::qWait(0);
+        EXPECT_EQ(page.Page(), "solving-equations");
+        EXPECT_FALSE(help.isVisible());
+    };
+    open("Cancel");
+    EXPECT_EQ(Now().topic.TopicTitle, "Arithmetic");
+    EXPECT_EQ(Now().typed.ProblemText, "3+4");
+    open("OK");
     EXPECT_EQ(Now().topic.TopicTitle, "Solving Equations");
     EXPECT_GT(Now().log.StepCount, 3);
     EXPECT_TRUE(Arrow().isVisible());

@@ -11,6 +11,10 @@ struct Case {
     const char* topic;
     const char* line;
     bool complete;
+
+    friend void PrintTo(const Case& shown, std::ostream* out) {
+        *out << shown.topic << ": " << shown.line;
+    }
 };
 
 class CompleteLine : public testing::TestWithParam<Case> {};

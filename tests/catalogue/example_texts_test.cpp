@@ -13,6 +13,10 @@ struct Told {
     bool complex;
     std::string_view printed;
     std::string_view suffix = "";
+
+    friend void PrintTo(const Told& shown, std::ostream* out) {
+        *out << shown.code << ", digit " << shown.digit << (shown.complex ? ", complex" : "");
+    }
 };
 
 Example MadeFor(int code, bool ForTest, int moment, bool complex) {

@@ -22,6 +22,10 @@ struct PrintCase {
     int code;
     std::string Text1;
     std::string Text2;
+
+    friend void PrintTo(const PrintCase& shown, std::ostream* out) {
+        *out << shown.code << " " << shown.Text1 << " and " << shown.Text2;
+    }
 };
 
 constexpr double kHeadingEnd = 60;

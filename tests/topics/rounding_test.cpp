@@ -70,6 +70,10 @@ struct Case {
     std::string v;
     int row;
     std::string result;
+
+    friend void PrintTo(const Case& shown, std::ostream* out) {
+        *out << shown.v << ", row " << shown.row;
+    }
 };
 
 class Rounded : public testing::TestWithParam<Case> {};

@@ -17,6 +17,8 @@ struct Example {
     const char* topic;
     const char* keys;
     const char* display;
+
+    friend void PrintTo(const Example& shown, std::ostream* out) { *out << shown.topic; }
 };
 
 /// The example that a topic's instruction gives: as it is typed, or with the marks of the display.

@@ -6,6 +6,8 @@ namespace {
 struct ColumnCase {
     int code;
     bool ColumnRequest::*flag;
+
+    friend void PrintTo(const ColumnCase& shown, std::ostream* out) { *out << shown.code; }
 };
 
 /// A column problem after its first drawing, which ended at (250, 339).

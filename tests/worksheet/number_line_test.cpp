@@ -33,6 +33,10 @@ struct Case {
     double A;
     double B;
     Lines ticks;
+
+    friend void PrintTo(const Case& shown, std::ostream* out) {
+        *out << shown.A << " and " << shown.B;
+    }
 };
 
 class NumberLineTest : public testing::TestWithParam<Case> {};

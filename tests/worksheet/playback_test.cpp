@@ -135,6 +135,8 @@ TEST_F(PlaybackTest, TheWindowHearsOfEveryChange) {
 struct GraphCase {
     int code;
     int mode;
+
+    friend void PrintTo(const GraphCase& shown, std::ostream* out) { *out << shown.code; }
 };
 
 class GraphPlaybackTest : public Desk, public testing::WithParamInterface<GraphCase> {};

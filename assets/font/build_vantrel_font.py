@@ -107,8 +107,8 @@ HALF = STROKE / 2
 AXIS = 690  # the middle of the signs over the baseline
 ARM = 550  # half a sign's width
 WIDE = 1720  # the advance of signs that stand between terms: room on both sides
-# More room, and short strokes, for minus and equals: they stand almost in line with the bars of
-# fractions.
+# More room for minus and equals, which stand almost in line with the bars of fractions; the minus,
+# which could be one, is short as well.
 MINUS = 2040
 EQUAL = 2040
 
@@ -166,7 +166,7 @@ def times():
 
 
 def equal():
-    return [bar(EQUAL / 2, AXIS + rise, ARM - 60) for rise in (-EQUAL_GAP, EQUAL_GAP)]
+    return [bar(EQUAL / 2, AXIS + rise) for rise in (-EQUAL_GAP, EQUAL_GAP)]
 
 
 def not_equal(advance):

@@ -1,12 +1,10 @@
 #include "core/disk.h"
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
-#include <csignal>
-
 #include "temporary_folder.h"
+#include "tests/full_disk.h"
 
 namespace numerello {
 namespace {
@@ -34,26 +32,6 @@ class OrdinaryUser {
   private:
     uid_t before;
     bool changed = false;
-};
-
-/// No file may become longer than this, as on a disk that is full.
-class FullDisk {
-  public:
-    explicit FullDisk(rlim_t most) {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit limit{most, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() {
-        setrlimit(RLIMIT_FSIZE, &before);
-        std::signal(SIGXFSZ, SIG_DFL);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-  private:
-    rlimit before{};
 };
 
 std::string WhyNotRead(const std::string& path, std::size_t most = kMost) {

@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include <QComboBox>
 #include <QDate>
@@ -8,32 +7,12 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <csignal>
 
+#include "tests/full_disk.h"
 #include "tests/ui/saved_problems_fixture.h"
 
 namespace numerello {
 namespace {
-
-/// A disk on which nothing more can be written.
-class FullDisk {
-  public:
-    FullDisk() {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit limit{0, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() {
-        setrlimit(RLIMIT_FSIZE, &before);
-        std::signal(SIGXFSZ, SIG_DFL);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-  private:
-    rlimit before{};
-};
 
 TEST_F(SavedProblems, TheFolderIsThereFromTheStart) {
     EXPECT_TRUE(QDir(Folder()).exists());
@@ -230,7 +209,7 @@ TEST_F(SavedProblems, AFileThatCannotBeWrittenIsTold) {
     const WhenDialogOpens chooser(QStringLiteral("CommonDialog1"), [](QWidget& dialog) {
         EnterName(dialog, QStringLiteral("full"));
     });
-    const FullDisk full;
+    const FullDisk full(0);
     Command("mnuSave").trigger();
     EXPECT_FALSE(QFile::exists(File(QStringLiteral("full.nrl"))));
 }
